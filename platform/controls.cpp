@@ -1,0 +1,256 @@
+#include "platform/controls.hpp"
+
+#include "platform/desktop.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace brinewright {
+
+namespace {
+
+void Run(const Handler& H) {
+    if (H) H();
+}
+
+[[noreturn]] void Refuse_Value() { throw Run_Time_Error(error_text::Property_Value); }
+
+bool As_Bool(const Control_Value& V) {
+    if (const bool* B = std::get_if<bool>(&V)) return *B;
+    if (const auto* I = std::get_if<std::int64_t>(&V); I && (*I == 0 || *I == 1)) return *I == 1;
+    throw User_Refusal("true or false is wanted");
+}
+
+const std::string& As_Text(const Control_Value& V) {
+    const std::string* Text = std::get_if<std::string>(&V);
+    if (!Text) throw User_Refusal("A text is wanted");
+    return *Text;
+}
+
+std::string_view Trim(std::string_view Text) {
+    while (!Text.empty() && Text.front() == ' ') Text.remove_prefix(1);
+    while (!Text.empty() && Text.back() == ' ') Text.remove_suffix(1);
+    return Text;
+}
+
+} // namespace
+
+Button::Button(Form& F, std::string N, std::string Text, int I)
+    : Visible_Control(F, Control_Kind::Button, std::move(N), I) {
+    Caption = std::move(Text);
+}
+void Button::User_Click(Mouse_Button) { Run(Click); }
+
+Label::Label(Form& F, std::string N, std::string Text, int I)
+    : Visible_Control(F, Control_Kind::Label, std::move(N), I) {
+    Caption = std::move(Text);
+}
+void Label::User_Click(Mouse_Button B) {
+    if (Mouse_Down) Mouse_Down(B);
+}
+
+Frame::Frame(Form& F, std::string N, std::string Text, int I)
+    : Visible_Control(F, Control_Kind::Frame, std::move(N), I) {
+    Caption = std::move(Text);
+}
+
+Check_Box::Check_Box(Form& F, std::string N, std::string Text, int I)
+    : Visible_Control(F, Control_Kind::Check_Box, std::move(N), I) {
+    Caption = std::move(Text);
+}
+void Check_Box::Set_Value(bool New) {
+    if (New == Checked) return;
+    Checked = New;
+    Touch();
+    Run(Click);
+}
+void Check_Box::User_Set(const Control_Value& V) { Set_Value(As_Bool(V)); }
+
+Combo_Box::Combo_Box(Form& F, std::string N, std::string Text, int I)
+    : Visible_Control(F, Control_Kind::Combo_Box, std::move(N), I), Shown(std::move(Text)) {}
+
+std::int32_t Combo_Box::Item_Data() const {
+    return Chosen < 0 ? 0 : Entries[static_cast<std::size_t>(Chosen)].Data;
+}
+void Combo_Box::Add_Item(std::string Text, std::int32_t Data) {
+    Entries.push_back({std::move(Text), Data});
+    Touch();
+}
+void Combo_Box::Set_Item(int Which, std::string Text) {
+    if (Which < 0 || Which >= static_cast<int>(Entries.size())) Refuse_Value();
+    Entries[static_cast<std::size_t>(Which)].Text = std::move(Text);
+    if (Which == Chosen) Shown = Entries[static_cast<std::size_t>(Which)].Text;
+    Touch();
+}
+void Combo_Box::Clear() {
+    Entries.clear();
+    Chosen = -1;
+    Shown.clear();
+    Touch();
+}
+void Combo_Box::Set_List_Index(int New) {
+    if (New < -1 || New >= static_cast<int>(Entries.size())) Refuse_Value();
+    Chosen = New;
+    Shown = New < 0 ? std::string() : Entries[static_cast<std::size_t>(New)].Text;
+    Touch();
+    if (New >= 0) Run(Click);
+}
+void Combo_Box::Choose_Data(std::int32_t Data) {
+    const auto Found = std::find_if(Entries.begin(), Entries.end(), [&](const Item& I) { return I.Data == Data; });
+    Set_List_Index(Found == Entries.end() ? -1 : static_cast<int>(Found - Entries.begin()));
+}
+void Combo_Box::Set_Text(std::string New) {
+    if (!Free_Text) Refuse_Value();
+    if (New == Shown) return;
+    Shown = std::move(New);
+    Chosen = -1;
+    Touch();
+    Run(Change);
+}
+void Combo_Box::User_Set(const Control_Value& V) {
+    if (const auto* Number = std::get_if<std::int64_t>(&V)) {
+        if (*Number < 0 || *Number >= static_cast<std::int64_t>(Entries.size()))
+            throw User_Refusal("The list has no such entry");
+        Set_List_Index(static_cast<int>(*Number));
+        return;
+    }
+    const std::string& Wanted = As_Text(V);
+    auto Found = std::find_if(Entries.begin(), Entries.end(), [&](const Item& I) { return I.Text == Wanted; });
+    if (Found == Entries.end())
+        Found = std::find_if(Entries.begin(), Entries.end(),
+                             [&](const Item& I) { return Trim(I.Text) == Trim(Wanted); });
+    if (Found != Entries.end())
+        Set_List_Index(static_cast<int>(Found - Entries.begin()));
+    else if (Free_Text)
+        Set_Text(Wanted);
+    else
+        throw User_Refusal("The list has no such entry");
+}
+void Combo_Box::Lose_Focus() { Run(Lost_Focus); }
+
+Text_Box::Text_Box(Form& F, std::string N, std::string Text, int I)
+    : Visible_Control(F, Control_Kind::Text_Box, std::move(N), I), Content(std::move(Text)) {}
+void Text_Box::Set_Text(std::string New) {
+    if (New == Content) return;
+    Content = std::move(New);
+    Touch();
+    Run(Change);
+}
+void Text_Box::Append_Text(std::string_view More) {
+    if (More.empty()) return;
+    Content += More;
+    Touch();
+    Run(Change);
+}
+void Text_Box::User_Set(const Control_Value& V) {
+    const std::string& New = As_Text(V);
+    if (Read_Only) throw User_Refusal("This text is read only");
+    Set_Text(New);
+}
+void Text_Box::Gain_Focus() { Run(Got_Focus); }
+void Text_Box::Lose_Focus() { Run(Lost_Focus); }
+
+Scroll_Bar::Scroll_Bar(Form& F, std::string N, int At_Min, int At_Max, int Large, int I)
+    : Visible_Control(F, Control_Kind::Scroll_Bar, std::move(N), I), Min(*this, At_Min), Max(*this, At_Max),
+      Large_Change(Large), Position(std::clamp(0, std::min(At_Min, At_Max), std::max(At_Min, At_Max))) {}
+void Scroll_Bar::Set_Value(std::int64_t New) {
+    if (New < std::min<int>(*Min, *Max) || New > std::max<int>(*Min, *Max)) Refuse_Value();
+    if (New == Position) return;
+    Position = static_cast<int>(New);
+    Touch();
+    Run(Change);
+}
+void Scroll_Bar::User_Set(const Control_Value& V) {
+    double Wanted = 0;
+    if (const auto* I = std::get_if<std::int64_t>(&V))
+        Wanted = static_cast<double>(*I);
+    else if (const double* D = std::get_if<double>(&V))
+        Wanted = *D;
+    else
+        throw User_Refusal("A number is wanted");
+    if (!std::isfinite(Wanted)) throw User_Refusal("A number is wanted");
+    Set_Value(std::llround(std::clamp(Wanted, static_cast<double>(std::min<int>(*Min, *Max)),
+                                      static_cast<double>(std::max<int>(*Min, *Max)))));
+}
+
+Option_Button::Option_Button(Form& F, Option_Group& Its_Group, std::string N, std::string Text, int I)
+    : Visible_Control(F, Control_Kind::Option_Button, std::move(N), I), Group(Its_Group) {
+    Caption = std::move(Text);
+}
+bool Option_Button::Value() const { return Group.Selected() == Index; }
+void Option_Button::User_Click(Mouse_Button) { Group.Select(Index); }
+void Option_Button::User_Set(const Control_Value& V) {
+    if (!As_Bool(V)) throw User_Refusal("Select another button of the group instead");
+    Group.Select(Index);
+}
+
+Option_Group::Option_Group(Form& F, const std::string& Name, const std::vector<std::string>& Captions) {
+    for (const std::string& Text : Captions)
+        Buttons.push_back(
+            std::make_unique<Option_Button>(F, *this, Name, Text, static_cast<int>(Buttons.size())));
+}
+void Option_Group::Select(int Which) {
+    if (Which < 0 || Which >= static_cast<int>(Buttons.size())) Refuse_Value();
+    if (Which == Chosen) return;
+    Chosen = Which;
+    for (const auto& B : Buttons) B->Touch();
+    if (Click) Click(Which);
+}
+void Option_Group::Set_Enabled(bool On) {
+    for (const auto& B : Buttons) B->Enabled = On;
+}
+
+Menu_Item::Menu_Item(Form& F, std::string N, std::string Text, std::string Its_Menu, int I)
+    : Visible_Control(F, Control_Kind::Menu_Item, std::move(N), I), Menu(std::move(Its_Menu)) {
+    Caption = std::move(Text);
+}
+void Menu_Item::User_Click(Mouse_Button) { Run(Click); }
+
+Grid::Grid(Form& F, std::string N, std::vector<std::string> Column_Titles)
+    : Visible_Control(F, Control_Kind::Grid, std::move(N), No_Index), Columns(std::move(Column_Titles)) {}
+void Grid::Set_Rows(int Count) {
+    if (Count < 0) Refuse_Value();
+    if (Count == Row_Count) return;
+    Row_Count = Count;
+    Cells.resize(static_cast<std::size_t>(Count) * Columns.size());
+    Touch();
+}
+std::size_t Grid::Place(int Row, int Column) const {
+    if (Row < 0 || Row >= Row_Count || Column < 0 || Column >= static_cast<int>(Columns.size()))
+        throw Run_Time_Error(error_text::Subscript);
+    return static_cast<std::size_t>(Row) * Columns.size() + static_cast<std::size_t>(Column);
+}
+const Grid::Cell& Grid::At(int Row, int Column) const { return Cells[Place(Row, Column)]; }
+void Grid::Set_Cell(int Row, int Column, std::string Text, Ink Colour) {
+    Cell New{std::move(Text), Colour};
+    Cell& Old = Cells[Place(Row, Column)];
+    if (Old == New) return;
+    Old = std::move(New);
+    Touch();
+}
+Control_Value Grid::Current() const {
+    std::string All;
+    for (int Row = 0; Row < Row_Count; ++Row) {
+        for (int Column = 0; Column < static_cast<int>(Columns.size()); ++Column) {
+            if (Column > 0) All += '\t';
+            All += At(Row, Column).Text;
+        }
+        All += '\n';
+    }
+    return All;
+}
+
+Timer::Timer(Form& F, std::string N, int I) : Control(F, Control_Kind::Timer, std::move(N), I) {
+    Entry.Tick = [this] { Run(Tick); };
+}
+Timer::~Timer() { Owner.Windows.Timers.Stop(Entry); }
+void Timer::Set_Interval(double Interval_ms) {
+    constexpr double Longest_ms = 1e12; // beyond any use, and far from overflow in microseconds
+    const double Kept_ms = std::isfinite(Interval_ms) ? std::clamp(Interval_ms, 0.0, Longest_ms) : 0.0;
+    Owner.Windows.Timers.Start(Entry, std::llround(Kept_ms * 1000.0));
+    Touch();
+}
+
+} // namespace brinewright

@@ -1,0 +1,233 @@
+#pragma once
+
+#include "platform/control.hpp"
+#include "platform/timer_queue.hpp"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brinewright {
+
+using Handler = std::function<void()>;
+
+// What the visible kinds have in common. Widths are in twentieths of a point; 0 leaves the width to the view.
+struct Visible_Control : Control {
+    Visible_Control(Form& F, Control_Kind K, std::string N, int I) : Control(F, K, std::move(N), I) {}
+
+    Property<bool> Enabled{*this, true};
+    Property<bool> Visible{*this, true};
+    Property<std::string> Caption{*this};
+    Property<std::string> Tool_Tip{*this}; // unit and range, or what it does
+    Property<Ink> Fore_Colour{*this, Ink::Normal};
+    Property<int> Width{*this, 0};
+};
+
+struct Button : Visible_Control {
+    Button(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Handler Click;
+    void User_Click(Mouse_Button) override;
+    bool Can_Focus() const override { return true; }
+};
+
+struct Label : Visible_Control {
+    Label(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    std::function<void(Mouse_Button)> Mouse_Down;
+    void User_Click(Mouse_Button B) override;
+    Control_Value Current() const override { return *Caption; }
+};
+
+// Grouping with a title. Views hide what stands in it together with the frame.
+struct Frame : Visible_Control {
+    Frame(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+};
+
+// Setting the value from code runs Click like a hand would, but only on a change.
+struct Check_Box : Visible_Control {
+    Check_Box(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Handler Click;
+    bool Value() const { return Checked; }
+    void Set_Value(bool New);
+    void User_Click(Mouse_Button) override { Set_Value(!Checked); }
+    void User_Set(const Control_Value& V) override;
+    Control_Value Current() const override { return Checked; }
+    bool Can_Focus() const override { return true; }
+
+  private:
+    bool Checked = false;
+};
+
+// A list to choose from. Choosing runs Click, also when the entry is chosen that stands chosen already. With
+// Free_Text the user may type; typing runs Change.
+struct Combo_Box : Visible_Control {
+    struct Item {
+        std::string Text;
+        std::int32_t Data = 0;
+    };
+
+    Combo_Box(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Handler Click;
+    Handler Change;
+    Handler Lost_Focus;
+    bool Free_Text = false;
+
+    const std::vector<Item>& Items() const { return Entries; }
+    int List_Index() const { return Chosen; } // -1 = none
+    const std::string& Text() const { return Shown; }
+    std::int32_t Item_Data() const; // of the chosen entry, 0 when none is
+
+    void Add_Item(std::string Text, std::int32_t Data = 0);
+    void Set_Item(int Which, std::string Text);
+    void Clear(); // runs nothing; afterwards nothing is chosen
+    // -1 chooses nothing and runs nothing. Outside the list: Run_Time_Error "Invalid property value".
+    void Set_List_Index(int New);
+    void Choose_Data(std::int32_t Data); // the first entry with this item data; none leaves nothing chosen
+    void Set_Text(std::string New);      // only with Free_Text; runs Change when the text changes
+
+    void User_Set(const Control_Value& V) override; // number of the entry, or its text (blanks around it count not)
+    Control_Value Current() const override { return Shown; }
+    void Lose_Focus() override;
+    bool Can_Focus() const override { return true; }
+
+  private:
+    std::vector<Item> Entries;
+    int Chosen = -1;
+    std::string Shown;
+};
+
+// Setting the text from code runs Change, but only on a change.
+struct Text_Box : Visible_Control {
+    Text_Box(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Handler Change;
+    Handler Got_Focus;
+    Handler Lost_Focus;
+    std::function<bool(int Key_Code)> Key_Down; // true = the key is used up
+    bool Read_Only = false;
+    Property<std::uint32_t> Select_All_Count{*this, 0}; // grows each time the whole text is to be selected
+
+    const std::string& Text() const { return Content; }
+    void Set_Text(std::string New);
+    void Append_Text(std::string_view More); // as Set_Text of both; cheap for monitors
+    void Select_All() { Select_All_Count = *Select_All_Count + 1; }
+
+    void User_Set(const Control_Value& V) override;
+    Control_Value Current() const override { return Content; }
+    void Gain_Focus() override;
+    void Lose_Focus() override;
+    bool Can_Focus() const override { return true; }
+
+  private:
+    std::string Content;
+};
+
+// Value always lies between Min and Max, whichever of them is the greater: Min stands at the top or left. Setting
+// the value from code runs Change, but only on a change.
+struct Scroll_Bar : Visible_Control {
+    Scroll_Bar(Form& F, std::string N, int At_Min, int At_Max, int Large = 10, int I = No_Index);
+    Handler Change;
+    Property<int> Min;
+    Property<int> Max;
+    int Small_Change = 1;
+    int Large_Change;
+
+    int Value() const { return Position; }
+    void Set_Value(std::int64_t New); // outside the range: Run_Time_Error "Invalid property value"
+    void User_Set(const Control_Value& V) override; // held within the range, as a dragged thumb is
+    Control_Value Current() const override { return static_cast<std::int64_t>(Position); }
+    bool Can_Focus() const override { return true; }
+
+  private:
+    int Position = 0;
+};
+
+struct Option_Group;
+
+// One button of a group. Selecting it clears the others.
+struct Option_Button : Visible_Control {
+    Option_Button(Form& F, Option_Group& Its_Group, std::string N, std::string Text, int I);
+    bool Value() const;
+    void User_Click(Mouse_Button) override;
+    void User_Set(const Control_Value& V) override; // true selects it
+    Control_Value Current() const override { return Value(); }
+    bool Can_Focus() const override { return true; }
+    Option_Group& Group;
+};
+
+// Buttons of one name and indices from 0, one of which at most is selected. Selecting from code runs Click, but only
+// on a change.
+struct Option_Group {
+    Option_Group(Form& F, const std::string& Name, const std::vector<std::string>& Captions);
+    std::function<void(int)> Click;
+    int Selected() const { return Chosen; } // -1 = none
+    void Select(int Which);
+    void Set_Enabled(bool On);
+    std::vector<std::unique_ptr<Option_Button>> Buttons;
+
+  private:
+    int Chosen = -1;
+};
+
+// Setting the check from code runs nothing.
+struct Menu_Item : Visible_Control {
+    Menu_Item(Form& F, std::string N, std::string Text, std::string Its_Menu, int I = No_Index);
+    Handler Click;
+    Property<bool> Checked{*this, false};
+    std::string Menu; // the title of the menu that it stands in
+    void User_Click(Mouse_Button) override;
+    Control_Value Current() const override { return *Checked; }
+};
+
+// A table of texts; rows and columns count from 0.
+struct Grid : Visible_Control {
+    struct Cell {
+        std::string Text;
+        Ink Colour = Ink::Normal;
+        bool operator==(const Cell&) const = default;
+    };
+
+    Grid(Form& F, std::string N, std::vector<std::string> Column_Titles);
+    std::vector<std::string> Columns;
+    int Rows() const { return Row_Count; }
+    void Set_Rows(int Count); // keeps what stays inside
+    const Cell& At(int Row, int Column) const;
+    void Set_Cell(int Row, int Column, std::string Text, Ink Colour = Ink::Normal);
+    Control_Value Current() const override;
+
+  private:
+    std::size_t Place(int Row, int Column) const;
+    int Row_Count = 0;
+    std::vector<Cell> Cells;
+};
+
+// Ticks every Interval milliseconds; 0 = stopped. Every setting of the interval restarts the phase.
+struct Timer : Control {
+    Timer(Form& F, std::string N, int I = No_Index);
+    ~Timer() override;
+    void Set_Interval(double Interval_ms); // to a whole microsecond
+    double Interval_ms() const { return static_cast<double>(Entry.Period_us) / 1000.0; }
+    Handler Tick;
+    Control_Value Current() const override { return Interval_ms(); }
+
+  private:
+    Timer_Queue::Entry Entry;
+};
+
+// Like controls of one name with indices First to Last.
+template <class T, int First, int Last>
+struct Control_Array {
+    template <class... More>
+    Control_Array(Form& F, const std::string& Name, const More&... Arguments) {
+        for (int I = First; I <= Last; ++I) Elements.push_back(std::make_unique<T>(F, Name, Arguments..., I));
+    }
+    T& operator[](int I) const {
+        if (I < First || I > Last) throw Run_Time_Error(error_text::Subscript);
+        return *Elements[static_cast<std::size_t>(I - First)];
+    }
+    auto begin() const { return Elements.begin(); }
+    auto end() const { return Elements.end(); }
+
+    std::vector<std::unique_ptr<T>> Elements;
+};
+
+} // namespace brinewright

@@ -1,0 +1,164 @@
+#include "platform/desktop.hpp"
+
+#include <algorithm>
+
+namespace brinewright {
+
+Desktop::Desktop(Timer_Queue& Queue) : Timers(Queue) {
+    Timers.Dispatch = [this](Timer_Queue::Entry& Due) { Event([&Due] { Due.Tick(); }); };
+}
+
+void Desktop::Show(std::shared_ptr<Form> Window) {
+    Window->Loaded = true;
+    Forms.push_back(Window);
+    Activate(*Window);
+}
+
+void Desktop::Activate(Form& Window) {
+    Active_Form = &Window;
+    Window.Revision = ++Revision;
+}
+
+void Desktop::Unload(Form& Window) {
+    if (!Window.Loaded) return;
+    Window.Loaded = false;
+    if (Window.On_Unload) Window.On_Unload();
+    // The box that has the focus is not left: closing a window throws away what is half typed in it.
+    if (Focus && &Focus->Owner == &Window) {
+        Focus = nullptr;
+        Focus_Entered = false;
+    }
+    for (Control* C : Window.Controls)
+        if (C->Kind == Control_Kind::Timer) static_cast<Timer*>(C)->Set_Interval(0);
+    const auto Place = std::find_if(Forms.begin(), Forms.end(), [&](const auto& F) { return F.get() == &Window; });
+    if (Place != Forms.end()) {
+        Unloaded.push_back(std::move(*Place));
+        Forms.erase(Place);
+    }
+    if (Active_Form == &Window) Active_Form = Forms.empty() ? nullptr : Forms.back().get();
+    ++Revision;
+}
+
+Form* Desktop::Find_Form(std::string_view Form_Path) const {
+    for (const auto& F : Forms)
+        if (F->Path() == Form_Path) return F.get();
+    return nullptr;
+}
+
+Control* Desktop::Find_Control(std::string_view Full_Path) const {
+    const auto Dot = Full_Path.find('.');
+    if (Dot == std::string_view::npos) return nullptr;
+    const Form* Window = Find_Form(Full_Path.substr(0, Dot));
+    return Window ? Window->Find(Full_Path.substr(Dot + 1)) : nullptr;
+}
+
+bool Desktop::Is_Open(const Form& Window) const { return Window.Loaded; }
+
+bool Desktop::Usable(const Control& Target, std::string* Why) const {
+    const auto Refuse = [&](const char* Reason) {
+        if (Why) *Why = Target.Owner.Path() + "." + Target.Path() + Reason;
+        return false;
+    };
+    if (!Target.Owner.Loaded) return Refuse(" is in a window that is closed");
+    if (Target.Kind == Control_Kind::Timer) return Refuse(" is a timer and cannot be operated");
+    const auto& Seen = static_cast<const Visible_Control&>(Target);
+    if (!*Seen.Visible) return Refuse(" is hidden");
+    if (!*Seen.Enabled) return Refuse(" is disabled");
+    return true;
+}
+
+namespace {
+
+void Require_Usable(const Desktop& Windows, const Control& Target) {
+    std::string Why;
+    if (!Windows.Usable(Target, &Why)) throw User_Refusal(Why);
+}
+
+} // namespace
+
+void Desktop::User_Focus(Control& Target) {
+    Require_Usable(*this, Target);
+    if (Target.Can_Focus()) Set_Focus(&Target);
+}
+
+void Desktop::User_Click(Control& Target, Mouse_Button Which) {
+    User_Focus(Target);
+    // The box that was left may have changed the world: the control can be gone or disabled by now.
+    if (Usable(Target)) Target.User_Click(Which);
+}
+
+void Desktop::User_Type(Control& Target, const std::string& Text) {
+    User_Focus(Target);
+    Target.User_Set(Text);
+}
+
+void Desktop::User_Set(Control& Target, const Control_Value& New) {
+    User_Focus(Target);
+    Target.User_Set(New);
+    const bool Typed = Target.Kind == Control_Kind::Text_Box;
+    if (Typed && Focus == &Target) Set_Focus(nullptr);
+}
+
+void Desktop::User_Key(Form& Window, int Key_Code) {
+    if (!Window.Loaded) throw User_Refusal(Window.Path() + " is closed");
+    if (Window.Key_Preview && Window.On_Key_Down && Window.On_Key_Down(Key_Code)) return;
+    if (!Focus || &Focus->Owner != &Window) return;
+    if (Focus->Kind == Control_Kind::Text_Box) {
+        const auto& Box = static_cast<Text_Box&>(*Focus);
+        if (Box.Key_Down) Box.Key_Down(Key_Code);
+    }
+}
+
+void Desktop::User_Close(Form& Window) { Unload(Window); }
+
+void Desktop::Set_Focus(Control* Target) {
+    if (Target == Focus) return;
+    Control* Left = Focus;
+    const bool Was_Entered = Focus_Entered;
+    Focus = Target;
+    Focus_Entered = false;
+    if (Left && Was_Entered) Left->Lose_Focus();
+    // A handler that puts the focus back has entered its control already.
+    if (Focus != Target || Focus_Entered) return;
+    Focus_Entered = Target != nullptr;
+    if (Target) Target->Gain_Focus();
+}
+
+void Desktop::Ask_File(File_Dialog Question) {
+    Question.Id = ++Boxes.Last_Id;
+    File_Dialogs.push_back(std::move(Question));
+    ++Revision;
+}
+
+bool Desktop::Answer_File(std::int64_t Id, const std::string& Path) {
+    const auto Found =
+        std::find_if(File_Dialogs.begin(), File_Dialogs.end(), [&](const File_Dialog& D) { return D.Id == Id; });
+    if (Found == File_Dialogs.end()) return false;
+    const File_Dialog Question = std::move(*Found);
+    File_Dialogs.erase(Found);
+    ++Revision;
+    if (Question.Answer) Question.Answer(Path);
+    return true;
+}
+
+void Desktop::Tell_Failure(const char* What) noexcept {
+    try {
+        Boxes.Show(What, "", Box_Icon::Stop);
+    } catch (...) {
+        // Nothing is left to tell it with; going on is still better than ending.
+    }
+}
+
+void Desktop::Settle() noexcept {
+    if (Settling) return;
+    Settling = true;
+    try {
+        Unloaded.clear();
+        for (const Handler& Look : On_Settled) Look();
+    } catch (const std::exception& Failure) {
+        Tell_Failure(Failure.what());
+    }
+    Settling = false;
+}
+
+} // namespace brinewright

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <string>
+
+namespace brinewright {
+
+enum class Box_Icon { None, Information, Warning, Stop };
+
+struct Message_Box {
+    std::int64_t Id = 0; // counts from 1, to answer it by
+    std::string Text;
+    std::string Title;
+    Box_Icon Icon = Box_Icon::None;
+};
+
+// The message boxes that stand, oldest first. A box has one button, OK. The handler that shows one goes on at
+// once: nothing that follows a box depends on its answer, and the timers keep ticking behind it. Send_NMEA sends
+// nothing while one stands.
+struct Message_Boxes {
+    std::deque<Message_Box> Standing;
+    std::int64_t Last_Id = 0;
+    std::function<void(const Message_Box&)> On_Show; // told of each new box; may answer it at once
+    std::function<void(std::int64_t Id)> On_Answer;  // told when a box went away
+
+    void Show(std::string Text, std::string Title = {}, Box_Icon Icon = Box_Icon::None);
+    // Takes box Id away; false when no such box stands.
+    bool Answer(std::int64_t Id);
+};
+
+} // namespace brinewright

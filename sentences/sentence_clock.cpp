@@ -1,0 +1,103 @@
+#include "sentences/sentence_clock.hpp"
+
+#include <array>
+#include <chrono>
+#include <cmath>
+
+namespace brinewright {
+namespace {
+
+constexpr std::int16_t Second_GNSS = 2;
+
+// GNSS 2 alone has an offset in seconds besides that in minutes.
+std::int64_t UTC_Offset_s(const UTC_State& UTC, std::int16_t Instance) {
+    const std::int64_t Offset_s = std::int64_t{UTC_Offset_min(UTC, Instance)} * 60;
+    return Instance == Second_GNSS ? Offset_s + UTC.GNSS2_UTC_Offset_Seconds : Offset_s;
+}
+
+// The value that a group of letters in a date pattern stands for.
+int Calendar_Part(const Calendar_Time& Time, std::string_view Group, bool Is_Behind_Hour) {
+    switch (Group[0]) {
+    case 'y': return Group.size() == 4 ? Time.Year : Time.Year % 100;
+    case 'm': return Is_Behind_Hour ? Time.Minute : Time.Month;
+    case 'd': return Time.Day;
+    case 'h': return Time.Hour;
+    case 'n': return Time.Minute;
+    default: return Time.Second;
+    }
+}
+
+} // namespace
+
+Calendar_Time Split_Time(std::int64_t Local_us) {
+    using namespace std::chrono;
+    const sys_time<microseconds> Moment{microseconds{Local_us}};
+    const auto Midnight = floor<days>(Moment);
+    const year_month_day Date{Midnight};
+    const hh_mm_ss<seconds> Time{floor<seconds>(Moment - Midnight)};
+    return {int{Date.year()},
+            static_cast<int>(unsigned{Date.month()}),
+            static_cast<int>(unsigned{Date.day()}),
+            static_cast<int>(Time.hours().count()),
+            static_cast<int>(Time.minutes().count()),
+            static_cast<int>(Time.seconds().count())};
+}
+
+void Append_Dot(std::string& Out, const Calendar_Time& Time, std::string_view Pattern) {
+    constexpr std::array<std::string_view, 7> Groups = {"yyyy", "yy", "mm", "dd", "hh", "nn", "ss"};
+    bool Is_Behind_Hour = false;
+    while (!Pattern.empty()) {
+        std::size_t Taken = 1;
+        bool Is_Literal = true;
+        for (const std::string_view Group : Groups) {
+            if (!Pattern.starts_with(Group)) continue;
+            Append_Dot(Out, Calendar_Part(Time, Group, Is_Behind_Hour),
+                       Group.size() == 4 ? "0000"_Pattern : "00"_Pattern);
+            Is_Behind_Hour = Group == "hh";
+            Taken = Group.size();
+            Is_Literal = false;
+            break;
+        }
+        if (Is_Literal) Out += Pattern[0] == ',' ? '.' : Pattern[0];
+        Pattern.remove_prefix(Taken);
+    }
+}
+
+std::string Format_Dot(const Calendar_Time& Time, std::string_view Pattern) {
+    std::string Text;
+    Append_Dot(Text, Time, Pattern);
+    return Text;
+}
+
+std::int16_t UTC_Offset_min(const UTC_State& UTC, std::int16_t Instance) {
+    return Instance == Second_GNSS ? UTC.GNSS2_UTC_Offset_Hours : UTC.UTC_Offset_Hours;
+}
+
+void Append_UTC(std::string& Out, const Sentence_Time& Time, std::int16_t Decimals, std::int16_t Instance,
+                bool Apply_Offset) {
+    const std::int64_t Offset_s = Apply_Offset ? UTC_Offset_s(Time.UTC, Instance) : 0;
+    const std::int64_t Whole_us = Time.Machine_Clock.Local_us() + Offset_s * us_Per_Second;
+    Append_Dot(Out, Split_Time(Whole_us), "hhmmss");
+    if (Decimals <= 0) return;
+
+    // It is required that this is a second reading of the clock, and that the two are not reconciled: the
+    // second may have changed in between, and a fraction that rounds up prints as "1.0" behind the old
+    // second.
+    const float Day_s = Time_Of_Day_s(Time.Machine_Clock.Local_us());
+    const float Fraction = Day_s - std::floor(Day_s);
+    switch (Decimals) {
+    case 1: return Append_Dot(Out, Fraction, "#.0"_Pattern);
+    case 2: return Append_Dot(Out, Fraction, "#.00"_Pattern);
+    case 3: return Append_Dot(Out, Fraction, "#.000"_Pattern);
+    default: return;
+    }
+}
+
+std::string Compose_UTC(const Sentence_Time& Time, std::int16_t Decimals, std::int16_t Instance,
+                        bool Apply_Offset) {
+    std::string Text;
+    Append_UTC(Text, Time, Decimals, Instance, Apply_Offset);
+    return Text;
+}
+
+} // namespace brinewright

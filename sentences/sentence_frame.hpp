@@ -1,0 +1,32 @@
+#pragma once
+
+#include "sentences/number_pattern.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace brinewright {
+
+// The frame of every sentence: Begin_Sentence, one Add_... for each field in order, Finish_Sentence. A field
+// brings the comma in front of it, so an empty one keeps its comma and a sentence without fields has none.
+// Line ends and faults are put behind the finished sentence by the transmit path.
+
+// "$", the talker and the type. A talker is a fixed field of two characters: a longer one is cut, a shorter
+// one filled with blanks.
+std::string Begin_Sentence(std::string_view Talker, std::string_view Type);
+
+// A comma, then the text as it stands; no check is made for characters that frame a sentence.
+inline void Add_Text(std::string& Out, std::string_view Text) { (Out += ',') += Text; }
+inline void Add_Letter(std::string& Out, char Letter) { (Out += ',') += Letter; }
+
+// A comma, then Value in Pattern, or nothing behind it for the empty marker.
+template <Printable_Number Number>
+void Add_Number(std::string& Out, Number Value, const Number_Pattern& Pattern) {
+    Out += ',';
+    Append_Field(Out, Value, Pattern);
+}
+
+// "*" and the checksum, unless No_Checksum: then the sentence ends with its last field. Returns the sentence.
+std::string Finish_Sentence(std::string Out, bool No_Checksum);
+
+} // namespace brinewright

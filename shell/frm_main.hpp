@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/controls.hpp"
+#include "platform/form.hpp"
+
+namespace brinewright {
+
+struct Simulator;
+
+// The container window: menus, status bar, and the start and end of the program. Items whose window does not exist are
+// not in the menus.
+struct frmMain : Form {
+    explicit frmMain(Desktop& Windows);
+
+    Menu_Item mnuFileOpen{*this, "mnuFileOpen", "&Open", "File"};
+    Menu_Item mnuFileSave{*this, "mnuFileSave", "&Save", "File"};
+    Menu_Item mnuFileSaveAs{*this, "mnuFileSaveAs", "Save &As", "File"};
+    Menu_Item mnuFileExit{*this, "mnuFileExit", "E&xit", "File"};
+    Menu_Item mnuMode_Ship{*this, "mnuMode", "&Ship simulator", "Mode", 1};
+    Menu_Item mnuMode_Sensor{*this, "mnuMode", "S&ensor", "Mode", 2};
+    Menu_Item mnuSetupStartOption{*this, "mnuSetupStartOption", "Start with navdata from last session", "Setup"};
+    Menu_Item mnuSetupLatLonFormat{*this, "mnuSetupLatLonFormat", "Lat/Lon format", "Setup"};
+    Menu_Item mnuOpenForm_GNSS1{*this, "mnuOpenForm", "GNSS 1", "Window", 1};
+    Menu_Item mnuOpenForm_GNSS2{*this, "mnuOpenForm", "GNSS 2", "Window", 2};
+    Menu_Item mnuMonitor{*this, "mnuMonitor", "Comport monitor", "Window"};
+    Menu_Item mnuExtendedMonitor{*this, "mnuExtendedMonitor", "Extended Comport monitor", "Window"};
+    Menu_Item mnuOptionIEC450{*this, "mnuOptionIEC450", "IEC 61162-450 enabled", "Options"};
+    Menu_Item mnuOptionsChecksumDisabled{*this, "mnuOptionsChecksumDisabled", "Checksum disabled", "Options"};
+    Menu_Item mnuOptionsFaultyChecksum{*this, "mnuOptionsFaultyChecksum", "Simulate faulty checksum", "Options"};
+    Menu_Item mnuOptionsCrLfDisabled{*this, "mnuOptionsCrLfDisabled",
+                                     "Simulate merged msgs (No CarriageReturn/LineFeed)", "Options"};
+    Menu_Item mnuOptionCuttedMsg{*this, "mnuOptionCuttedMsg", "Simulate cutted messages", "Options"};
+    Menu_Item mnuOptionSplittedMsg{*this, "mnuOptionSplittedMsg", "Simulate splitted messages", "Options"};
+    Menu_Item mnuHelpContents{*this, "mnuHelpContents", "&Contents", "Help"};
+    Menu_Item mnuHelpSearch{*this, "mnuHelpSearch", "&Search For Help On...", "Help"};
+
+    Control_Array<Label, 1, 16> sbStatusBar; // one panel for each serial port
+    Timer timer_Sky{*this, "timer_Sky"};
+
+    // Null for form indices whose window does not exist.
+    Menu_Item* mnuOpenForm(int Form_Index);
+};
+
+// Brings the system up from the setup file: windows, links, saved places. Called once, as one event.
+void MDIForm_Load(Simulator& Sim);
+
+// Opens sensor window Form_Index (1 to 11) or gives it the focus.
+void mnuOpenForm_Click(Simulator& Sim, std::int16_t Form_Index);
+
+// Index 1 Ship mode, 2 Sensor mode: every open sensor window is loaded anew, since sensors read Mode at load only.
+void mnuMode_Click(Simulator& Sim, int Index);
+
+} // namespace brinewright

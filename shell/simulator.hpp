@@ -1,0 +1,72 @@
+#pragma once
+
+#include "links/link_table.hpp"
+#include "platform/desktop.hpp"
+#include "platform/platform.hpp"
+#include "platform/timer_queue.hpp"
+#include "shell/simulator_state.hpp"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brinewright {
+
+struct frmMain;
+struct frmPosition;
+struct frmMonitor;
+struct frmExtendedMonitor;
+struct frmTCPIP;
+struct frmIEC61162;
+struct frmGeoFormat;
+
+// What the user said at the start of the program.
+struct Start_Options {
+    std::string Setup_File; // empty: the instance's own file in the data folder
+    bool No_Save = false;   // the setup file is left as it is at the end
+    std::string Data_Folder; // with its final separator
+    std::int16_t Instance_Number = 0;
+};
+
+// What has been sent since the start, by port number; element 0 counts sentences without a port.
+struct Send_Counts {
+    Table<std::uint64_t, 0, 28> Sent;
+    Table<std::uint64_t, 0, 28> Failed; // the link refused the sentence
+    std::uint64_t Dropped_By_Box = 0;   // a message box stood
+};
+
+// The whole simulator: state, windows, links and the platform below them. There is no other place for state, so that
+// every test makes a fresh one.
+struct Simulator {
+    Simulator(Platform& Its_Platform, Start_Options Its_Options);
+    Simulator(const Simulator&) = delete;
+    Simulator& operator=(const Simulator&) = delete;
+    ~Simulator();
+
+    Platform& Services;
+    Start_Options Options;
+    Simulator_State State;
+    Timer_Queue Timers;
+    Desktop Windows;
+    Link_Table Links;
+    Send_Counts Counts;
+    // Told of each sentence as it left, with faults and line end, when its link took it.
+    std::vector<std::function<void(std::string_view Text, int Port)>> On_Sent;
+
+    // The windows; null while closed. A window is made afresh at each opening.
+    std::shared_ptr<frmMain> Main;
+    Per_Instance<std::shared_ptr<frmPosition>> frmPosition_Instance;
+    std::shared_ptr<frmMonitor> Monitor;
+    std::shared_ptr<frmExtendedMonitor> Extended_Monitor;
+    std::shared_ptr<frmTCPIP> TCPIP;
+    std::shared_ptr<frmIEC61162> IEC61162;
+    std::shared_ptr<frmGeoFormat> GeoFormat;
+
+    bool Setup_Unreadable = false; // the setup file failed to load, so that the save at the end leaves it alone
+    bool Ended = false;            // frmMain has unloaded
+};
+
+} // namespace brinewright
