@@ -30,6 +30,9 @@ struct Link_Table {
     Table<std::unique_ptr<Serial_Port>, 1, 16> MSComm;
     std::unique_ptr<TCP_Listener> Listener;
     std::vector<std::unique_ptr<TCP_Element>> WinsockArray;
+    std::vector<int> Connected;                      // the elements that hold a client
+    std::vector<std::string> Connection_History;     // what frmTCPIP lists
+    std::unique_ptr<TCP_Connection> Gone_Connection; // the last one that went, see its closing
     Table<std::unique_ptr<UDP_Socket>, 0, 10> WinsockUDP;
     std::string Rx_Buffer; // received text without its line feed yet; one for all serial ports
 };

@@ -20,7 +20,7 @@ constexpr Default_Interval Default_Intervals[] = {
     {&Message_State::DPT_Interval, 2},   {&Message_State::MWV_Interval, 2}, {&Message_State::MWD_Interval, 0},
 };
 
-void Fill(Per_Instance<std::string>& Talkers, const char* Text) { Talkers[1] = Talkers[2] = Text; }
+void Fill(Per_Instance<std::string>& Talkers, const std::string& Text) { Talkers[1] = Talkers[2] = Text; }
 
 void Load_Default_Intervals(Message_State& S) {
     for (const Default_Interval& Default : Default_Intervals)
@@ -36,15 +36,15 @@ void Load_Default_Talkers(Talker_State& S) {
     Fill(S.Log_Talker, "VW");
     Fill(S.Echo_Talker, "SD");
     Fill(S.Wind_Talker, "WI");
-    S.ARPA_Talker = "RA";
+    S.ARPA_Talker = std::string("RA");
 }
 
 void Load_Default_Configuration(GNSS_State& S) {
     for (int Slot = 1; Slot <= 6; ++Slot) {
         S.GNSS_System_Mode[1][Slot] = 1;
-        S.GNS_Mode_Indicator[Slot] = "A";
-        S.GNSS_Systems_Text[Slot] = "GPS";
-        S.GNS_Talker[Slot] = "GP";
+        S.GNS_Mode_Indicator[Slot] = std::string("A");
+        S.GNSS_Systems_Text[Slot] = std::string("GPS");
+        S.GNS_Talker[Slot] = std::string("GP");
     }
 }
 
@@ -63,7 +63,7 @@ void Load_Default_Data(Simulator_State& State) {
         State.Gyro_Decimals[I] = 1;
     }
     Load_Default_Talkers(State);
-    State.Mode = "Ship";
+    State.Mode = std::string("Ship");
     Load_Default_Configuration(State);
 }
 

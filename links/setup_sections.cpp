@@ -141,8 +141,9 @@ void Second_Instance_Lines(Walker& W, State& S) {
 
 template <class Walker, class State>
 void Random_ARPA_Lines(Walker& W, State& S) {
-    Line(W, S.ARPA_Random_Count, S.ARPA_Max_Range, S.ARPA_Max_Speed);
-    // The targets themselves are not kept, so a run starts without any.
+    // The targets themselves are not kept, so a run starts without any, and a count is read but never set.
+    std::int16_t Count = S.ARPA_Random_Count;
+    Line(W, Count, S.ARPA_Max_Range, S.ARPA_Max_Speed);
     if constexpr (Is_Read<State>) S.ARPA_Random_Count = 0;
 }
 
@@ -270,7 +271,9 @@ constexpr Setup_Section Sections[] = {
     Section("REM Autopilot", [](auto& W, auto& S) { Line(W, S.Autopilot_Mode, S.Route_File); }),
     Section("REM Current navdata", [](auto& W, auto& S) { Current_Navdata_Lines(W, S); }),
     Section("REM Noise", [](auto& W, auto& S) { Noise_Lines(W, S); }),
-    Section("REM ShipNoise", [](auto& W, auto& S) { Line(W, S.Ship_SOG_Noise_Index, S.Ship_ROT_Noise_Index); }),
+    Section("REM ShipNoise", [](auto& W, auto& S) {
+        Line(W, S.Ship_SOG_Noise_Index, S.Ship_ROT_Noise_Index);
+    }),
     Section("REM WindReference", [](auto& W, auto& S) { Line(W, S.Wind_Relative_Ref[1]); }),
     Section("REM Talker ID", [](auto& W, auto& S) {
         Line(W, S.GNSS_Talker[1], S.GNSS_Talker[2], S.Gyro_Talker[1], S.Gyro_Talker[2]);

@@ -8,10 +8,12 @@ Desktop::Desktop(Timer_Queue& Queue) : Timers(Queue) {
     Timers.Dispatch = [this](Timer_Queue::Entry& Due) { Event([&Due] { Due.Tick(); }); };
 }
 
-void Desktop::Show(std::shared_ptr<Form> Window) {
-    Window->Loaded = true;
-    Forms.push_back(Window);
-    Activate(*Window);
+void Desktop::Show(std::shared_ptr<Form> Window, bool With_Focus) {
+    Form& Shown = *Window;
+    Shown.Loaded = true;
+    Shown.Revision = ++Revision;
+    Forms.push_back(std::move(Window));
+    if (With_Focus || !Active_Form) Activate(Shown);
 }
 
 void Desktop::Activate(Form& Window) {
@@ -22,7 +24,12 @@ void Desktop::Activate(Form& Window) {
 void Desktop::Unload(Form& Window) {
     if (!Window.Loaded) return;
     Window.Loaded = false;
-    if (Window.On_Unload) Window.On_Unload();
+    std::exception_ptr Failure;
+    try {
+        if (Window.On_Unload) Window.On_Unload();
+    } catch (...) {
+        Failure = std::current_exception();
+    }
     // The box that has the focus is not left: closing a window throws away what is half typed in it.
     if (Focus && &Focus->Owner == &Window) {
         Focus = nullptr;
@@ -37,6 +44,7 @@ void Desktop::Unload(Form& Window) {
     }
     if (Active_Form == &Window) Active_Form = Forms.empty() ? nullptr : Forms.back().get();
     ++Revision;
+    if (Failure) std::rethrow_exception(Failure);
 }
 
 Form* Desktop::Find_Form(std::string_view Form_Path) const {
@@ -143,6 +151,9 @@ bool Desktop::Answer_File(std::int64_t Id, const std::string& Path) {
 
 void Desktop::Tell_Failure(const char* What) noexcept {
     try {
+        // A failure that comes back with every tick is told once as long as its box stands.
+        for (const Message_Box& B : Boxes.Standing)
+            if (B.Text == What) return;
         Boxes.Show(What, "", Box_Icon::Stop);
     } catch (...) {
         // Nothing is left to tell it with; going on is still better than ending.

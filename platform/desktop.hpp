@@ -51,9 +51,10 @@ class Desktop {
         if (--Depth == 0) Settle();
     }
 
-    void Show(std::shared_ptr<Form> Window); // adds it to the open ones and gives it the focus of windows
+    void Show(std::shared_ptr<Form> Window, bool With_Focus = true); // adds it to the open ones
     void Activate(Form& Window);
-    void Unload(Form& Window); // runs On_Unload once; a second call does nothing
+    // Runs On_Unload once; a second call does nothing. What On_Unload throws comes out after the window is gone.
+    void Unload(Form& Window);
     Form* Find_Form(std::string_view Form_Path) const;
     Control* Find_Control(std::string_view Full_Path) const; // frmPosition[1].chkGGA
     bool Is_Open(const Form& Window) const;

@@ -2,15 +2,20 @@
 
 #include "sentences/number_pattern.hpp"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
 namespace brinewright {
 
 std::string Hex2(std::int16_t Value) {
     if (Value < 10) return Format_Dot(Value, "00");
     constexpr std::string_view Digits = "0123456789ABCDEF";
-    std::string Text;
-    for (unsigned Rest = static_cast<unsigned>(Value); Rest != 0; Rest /= 16)
-        Text.insert(Text.begin(), Digits[Rest % 16]);
-    return Value < 16 ? '0' + Text : Text;
+    std::array<char, 4> Text{'0', '0', '0', '0'};
+    std::size_t First = Text.size();
+    for (int Rest = Value; Rest != 0; Rest /= 16) Text[--First] = Digits[static_cast<std::size_t>(Rest % 16)];
+    First = std::min(First, Text.size() - 2);
+    return {Text.data() + First, Text.size() - First};
 }
 
 std::string Add_Checksum(std::string_view Sentence) {

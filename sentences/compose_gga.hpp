@@ -24,8 +24,8 @@ struct GGA_Record {
 
 // GGA: fix data.
 //
-//        1         2         3 4          5 6 7 8   9   10 11 12 13 14
-//        |         |         | |          | | | |   |   |  |   | |   |
+//        1         2         3 4          5 6 7 8   9   10    12    14
+//        |         |         | |          | | | |   |   | |   | |   |
 // $--GGA,hhmmss.ss,ddmm.mmmm,a,dddmm.mmmm,a,x,x,x.x,x.x,M,x.x,M,x.x,xxxx*hh
 //
 //  1  time of the sensor's clock

@@ -23,8 +23,8 @@ struct GNS_Record {
 
 // GNS: fix data of several constellations, in the form of IEC 61162-1:2024.
 //
-//        1         2         3 4          5 6    7 8   9   10  11  12 13
-//        |         |         | |          | |    | |   |   |   |   |  |
+//        1         2         3 4          5 6    7 8   9   10  11  12
+//        |         |         | |          | |    | |   |   |   |   | |
 // $--GNS,hhmmss.ss,ddmm.mmmm,a,dddmm.mmmm,a,c--c,x,x.x,x.x,x.x,x.x,x,a*hh
 //
 //  1  time of the sensor's clock

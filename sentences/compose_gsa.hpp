@@ -19,8 +19,8 @@ struct GSA_Record {
 
 // GSA: satellites in use.
 //
-//        1 2 3 4    14 15  16  17
-//        | | | |    |  |   |   |
+//        1 2 3 4      15  16  17
+//        | | | |    | |   |   |
 // $--GSA,a,x,x,x,..,x,x.x,x.x,x.x*hh
 //
 //  1      A automatic or M manual choice of 2D and 3D

@@ -21,8 +21,8 @@ struct GSV_Record {
 
 // GSV: satellites in view, four in each sentence of a series.
 //
-//        1 2 3  4 5  6   7     16 17  18 19
-//        | | |  | |  |   |     |  |   |  |
+//        1 2 3  4 5  6   7       17 18  19
+//        | | |  | |  |   |     | |  |   |
 // $--GSV,x,x,xx,x,xx,xxx,xx,..,x,xx,xxx,xx*hh
 //
 //  1      sentences in the series

@@ -1,8 +1,8 @@
 #include "sentences/sentence_clock.hpp"
 
-#include <array>
 #include <chrono>
 #include <cmath>
+#include <cstddef>
 
 namespace brinewright {
 namespace {
@@ -15,15 +15,22 @@ std::int64_t UTC_Offset_s(const UTC_State& UTC, std::int16_t Instance) {
     return Instance == Second_GNSS ? Offset_s + UTC.GNSS2_UTC_Offset_Seconds : Offset_s;
 }
 
-// The value that a group of letters in a date pattern stands for.
-int Calendar_Part(const Calendar_Time& Time, std::string_view Group, bool Is_Behind_Hour) {
-    switch (Group[0]) {
-    case 'y': return Group.size() == 4 ? Time.Year : Time.Year % 100;
-    case 'm': return Is_Behind_Hour ? Time.Minute : Time.Month;
-    case 'd': return Time.Day;
-    case 'h': return Time.Hour;
-    case 'n': return Time.Minute;
-    default: return Time.Second;
+// How many letters at the start of Pattern belong together: "yyyy" is the only group of four.
+std::size_t Group_Size(std::string_view Pattern) {
+    if (Pattern.starts_with("yyyy")) return 4;
+    return Pattern.size() > 1 && Pattern[1] == Pattern[0] ? 2 : 1;
+}
+
+// The part of the date that a group of Letter stands for; nullptr when it is text to be copied.
+const int* Find_Part(const Calendar_Time& Time, char Letter, bool Is_Behind_Hour) {
+    switch (Letter) {
+    case 'y': return &Time.Year;
+    case 'm': return Is_Behind_Hour ? &Time.Minute : &Time.Month;
+    case 'd': return &Time.Day;
+    case 'h': return &Time.Hour;
+    case 'n': return &Time.Minute;
+    case 's': return &Time.Second;
+    default: return nullptr;
     }
 }
 
@@ -44,22 +51,18 @@ Calendar_Time Split_Time(std::int64_t Local_us) {
 }
 
 void Append_Dot(std::string& Out, const Calendar_Time& Time, std::string_view Pattern) {
-    constexpr std::array<std::string_view, 7> Groups = {"yyyy", "yy", "mm", "dd", "hh", "nn", "ss"};
     bool Is_Behind_Hour = false;
     while (!Pattern.empty()) {
-        std::size_t Taken = 1;
-        bool Is_Literal = true;
-        for (const std::string_view Group : Groups) {
-            if (!Pattern.starts_with(Group)) continue;
-            Append_Dot(Out, Calendar_Part(Time, Group, Is_Behind_Hour),
-                       Group.size() == 4 ? "0000"_Pattern : "00"_Pattern);
-            Is_Behind_Hour = Group == "hh";
-            Taken = Group.size();
-            Is_Literal = false;
-            break;
+        const std::size_t Size = Group_Size(Pattern);
+        const int* const Part = Size > 1 ? Find_Part(Time, Pattern[0], Is_Behind_Hour) : nullptr;
+        if (Part == nullptr) {
+            Out += Pattern[0] == ',' ? '.' : Pattern[0];
+            Pattern.remove_prefix(1);
+            continue;
         }
-        if (Is_Literal) Out += Pattern[0] == ',' ? '.' : Pattern[0];
-        Pattern.remove_prefix(Taken);
+        Append_Dot(Out, Size == 2 ? *Part % 100 : *Part, Size == 2 ? "00"_Pattern : "0000"_Pattern);
+        Is_Behind_Hour = Pattern[0] == 'h';
+        Pattern.remove_prefix(Size);
     }
 }
 

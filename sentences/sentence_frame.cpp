@@ -8,8 +8,7 @@ namespace brinewright {
 
 std::string Begin_Sentence(std::string_view Talker, std::string_view Type) {
     constexpr std::size_t Talker_Size = 2;
-    constexpr std::size_t Usual_Size =
-        112; // GGA with six decimals and its checksum, and a tag block's room to spare
+    constexpr std::size_t Usual_Size = 112; // of the longest, GGA with six decimals, with room to spare
     std::string Out;
     Out.reserve(Usual_Size);
     Out += '$';

@@ -3,9 +3,14 @@
 #include "platform/controls.hpp"
 #include "platform/form.hpp"
 
+#include <memory>
+#include <vector>
+
 namespace brinewright {
 
 struct Simulator;
+
+inline constexpr const char* Version_Text = "7.00 2026-04-21";
 
 // The container window: menus, status bar, and the start and end of the program. Items whose window does not exist are
 // not in the menus.
@@ -36,6 +41,7 @@ struct frmMain : Form {
 
     Control_Array<Label, 1, 16> sbStatusBar; // one panel for each serial port
     Timer timer_Sky{*this, "timer_Sky"};
+    std::vector<std::unique_ptr<Timer>> timerTCPIP_StateCheck; // one for each element of WinsockArray
 
     // Null for form indices whose window does not exist.
     Menu_Item* mnuOpenForm(int Form_Index);
@@ -46,6 +52,14 @@ void MDIForm_Load(Simulator& Sim);
 
 // Opens sensor window Form_Index (1 to 11) or gives it the focus.
 void mnuOpenForm_Click(Simulator& Sim, std::int16_t Form_Index);
+
+// The open sensor window of a form index; null when it is closed or does not exist.
+Form* Sensor_Window(Simulator& Sim, std::int16_t Form_Index);
+
+// Sets the checks of the mode menu from Mode.
+void Show_Mode(Simulator& Sim);
+
+void Wire_Menus(Simulator& Sim);
 
 // Index 1 Ship mode, 2 Sensor mode: every open sensor window is loaded anew, since sensors read Mode at load only.
 void mnuMode_Click(Simulator& Sim, int Index);

@@ -65,8 +65,8 @@ struct Simulator {
     std::shared_ptr<frmIEC61162> IEC61162;
     std::shared_ptr<frmGeoFormat> GeoFormat;
 
-    bool Setup_Unreadable = false; // the setup file failed to load, so that the save at the end leaves it alone
-    bool Ended = false;            // frmMain has unloaded
+    std::string Unreadable_Setup;  // the setup file that failed to load; the save at the end leaves it alone
+    bool Ended = false;           // frmMain has unloaded
 };
 
 } // namespace brinewright

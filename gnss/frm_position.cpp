@@ -1,0 +1,229 @@
+#include "gnss/frm_position.hpp"
+
+#include "gnss/gnss_records.hpp"
+#include "gnss/gnss_satellites.hpp"
+#include "gnss/gnss_ticks.hpp"
+#include "gnss/motion_controls.hpp"
+#include "gnss/position_simulator.hpp"
+#include "gnss/position_tips.hpp"
+#include "links/port_list.hpp"
+#include "ownship/position_text.hpp"
+#include "shell/form_position.hpp"
+#include "shell/frm_main.hpp"
+#include "shell/simulator.hpp"
+#include "shell/talker_box.hpp"
+
+namespace brinewright {
+
+namespace {
+
+// Lengths in twentieths of a point.
+constexpr int GGA_Width = 7095;
+constexpr int GSA_Width = 5295;
+constexpr int GSV_Width = 2775;
+constexpr int GST_Width = 3615;
+constexpr int Alone_Margin = 300; // right of frmGGA when it stands alone
+constexpr int Margin = 200;       // right of the last frame otherwise
+constexpr float Sensor_Height = 9330;
+constexpr float Simulator_Height = 3495;
+constexpr float Simulator_Control_Height = 975;
+
+constexpr double Simulator_Period_ms = 1000;
+
+constexpr int First_Position_Decimals = 3;
+constexpr const char* Position_Decimals[] = {" 3", " 4", " 5", " 6"};
+constexpr int Default_Position_Decimals = 1; // ListIndex
+constexpr const char* Time_Decimals[] = {" 0", " 1", " 2"};
+
+// Everything in frmSimulator and frmSimulatorControl.
+std::vector<Visible_Control*> Simulator_Controls(frmPosition& W) {
+    return {&W.frmSimulator,
+            &W.lblStartLat,
+            &W.txtLat,
+            &W.lblStartLon,
+            &W.txtLon,
+            &W.chkFixOffset,
+            &W.lblLatitude,
+            &W.lblLat,
+            &W.lblLongitude,
+            &W.lblLon,
+            &W.frmSOG,
+            &W.scrSOG,
+            &W.lblSOG,
+            &W.txtSOG,
+            &W.lblSOGUnit,
+            &W.frmCOG,
+            &W.scrCOG,
+            &W.lblCOG,
+            &W.txtCOG,
+            &W.lblCOGUnit,
+            &W.chkNoise,
+            &W.lblMaxNoise,
+            &W.cmbNoise,
+            W.optAccumulatedNoise.Buttons[0].get(),
+            W.optAccumulatedNoise.Buttons[1].get(),
+            &W.frmSimulatorControl,
+            &W.cmdStart,
+            &W.cmdPause,
+            &W.cmdArrows};
+}
+
+// In Ship mode the ship model moves the sensor: the window is its sentences alone. What stands in the hidden
+// frames is hidden one by one, so that nobody can press START from outside either. The messages move up by
+// themselves where the frames have left.
+void Apply_Mode(const Simulator& Sim, frmPosition& W) {
+    const bool Ship_Mode = Sim.State.Mode == "Ship";
+    W.lblShipControl.Visible = Ship_Mode;
+    if (Ship_Mode)
+        for (Visible_Control* Part : Simulator_Controls(W)) Part->Visible = false;
+    W.Resize(W.Width,
+             Ship_Mode ? Sensor_Height - Simulator_Height - Simulator_Control_Height : Sensor_Height);
+}
+
+void Fill_Lists(Simulator& Sim, frmPosition& W) {
+    Rebuild_Port_List(Sim, W);
+    for (const char* Entry : Position_Decimals) W.cmbDecimals.Add_Item(Entry);
+    for (const char* Entry : Time_Decimals) W.cmbDecimalsTime.Add_Item(Entry);
+    Fill_Noise_List(W.cmbNoise);
+}
+
+// A stored choice that its list does not have, as a setup file may hold, becomes the default one.
+void Restore_Choice(Combo_Box& List, int Stored, int Default) {
+    const int Count = static_cast<int>(List.Items().size());
+    List.Set_List_Index(Stored >= 0 && Stored < Count ? Stored : Default);
+}
+
+// Selecting runs the click operations, so that what depends on a choice fills itself.
+void Restore_Settings(Simulator& Sim, frmPosition& W) {
+    const Simulator_State& S = Sim.State;
+    const int I = W.Instance;
+    Restore_Choice(W.cmbDecimals, S.GNSS_Decimals_Position[I] - First_Position_Decimals,
+                   Default_Position_Decimals);
+    Restore_Choice(W.cmbDecimalsTime, S.GNSS_Decimals_Time[I], 0);
+    Restore_Choice(W.cmbNoise, S.GNSS_Noise_Index[I], 0);
+    W.optAccumulatedNoise.Select(S.GNSS_Noise_Accumulated[I] ? 1 : 0);
+    W.chkNoise.Set_Value(S.GNSS_Noise_Enabled[I]);
+    chkNoise_Click(Sim, W); // an unchecked box has not clicked: its controls are disabled from the start
+    Restore_Intervals(W.Sentences);
+}
+
+void Wire_Controls(Simulator& Sim, frmPosition& W) {
+    W.cmdStart.Click = [&] { cmdStart_Click(Sim, W); };
+    W.cmdPause.Click = [&] { cmdPause_Click(Sim, W); };
+    W.cmbComPort.Click = [&] { cmbComPort_Click(Sim, W); };
+    W.cmbDecimals.Click = [&] { cmbDecimals_Click(Sim, W); };
+    W.cmbDecimalsTime.Click = [&] { cmbDecimalsTime_Click(Sim, W); };
+    Wire_Talker_Box(Sim.Windows, W.txtTalker, Sim.State.GNSS_Talker[W.Instance],
+                    [&W](const std::string& Talker) { Set_Talker(W, Talker); });
+    Wire_Position_Simulator(Sim, W);
+    Wire_Motion_Controls(Sim, W);
+    Wire_Sentences<frmPosition>(W.Sentences, GNSS_Sentences(), Sim, Sim.State, W, W.Instance);
+}
+
+void Form_Load(Simulator& Sim, frmPosition& W) {
+    W.Sentences.Is_Loading = true;
+    W.Tag = std::to_string(W.Instance);
+    W.chkFixOffset.Visible = W.Instance == 2;
+    Show_Motion(Sim.State, W); // before the wiring: showing the speed and course must not write them
+    Wire_Controls(Sim, W);
+    Fit_Width(Sim, W);
+    Apply_Mode(Sim, W);
+    W.txtTalker.Set_Text(Sim.State.GNSS_Talker[W.Instance]);
+    Show_Start_Position(Sim.State, W);
+    Show_Reported_Position(Sim.State, W);
+    Fill_Lists(Sim, W);
+    Restore_Settings(Sim, W);
+    Preset_Records(Sim.State, W);
+    Choose_Default_Satellites(Sim.State, W);
+    Start_Enabled_Sentences(W.Sentences);
+    W.Sentences.Is_Loading = false;
+}
+
+// The entry of the menu is cleared first, since a change of mode loads the window anew right after. Keeping
+// the place comes last, since it fails when the list of places is full.
+void Form_Unload(Simulator& Sim, const frmPosition& W) {
+    const auto Kept_Alive = W.shared_from_this();
+    if (Sim.Main)
+        if (Menu_Item* Entry = Sim.Main->mnuOpenForm(W.Instance)) Entry->Checked = false;
+    Sim.frmPosition_Instance[W.Instance].reset();
+    Save_Form_Position(Sim, W);
+}
+
+} // namespace
+
+frmPosition::frmPosition(Desktop& Its_Windows, int Its_Instance)
+    : Form(Its_Windows, "frmPosition", Its_Instance, Form_Kind::Child), Sentences(Its_Windows.Timers) {
+    frmGGA.Width = GGA_Width;
+    frmGSA.Width = GSA_Width;
+    frmGSV.Width = GSV_Width;
+    frmGST.Width = GST_Width;
+    lblShipControl.Visible = false;
+    lblArrows.Visible = false;
+    txtDummy.Visible = false;
+    cmdPause.Enabled = false;
+    Set_Tool_Tips(*this);
+}
+
+std::shared_ptr<frmPosition> Load_frmPosition(Simulator& Sim) {
+    const int Instance = Sim.State.Open_Form_Index;
+    std::shared_ptr<frmPosition>& Place = Sim.frmPosition_Instance[Instance];
+    auto Window = std::make_shared<frmPosition>(Sim.Windows, Instance);
+    Place = Window;
+    Form_Load(Sim, *Window);
+    // Sim keeps no hold on the window once it has unloaded; the desktop does until the event is over.
+    Window->On_Unload = [&Sim, &W = *Window] { Form_Unload(Sim, W); };
+    return Window;
+}
+
+void Rebuild_Port_List(Simulator& Sim, frmPosition& W) {
+    Fill_Port_List(Sim, W.cmbComPort, Sim.State.Sensor_Table[W.Instance].Port);
+}
+
+void Fit_Width(Simulator& Sim, frmPosition& W) {
+    const struct {
+        const Frame& Place;
+        bool Enabled;
+    } Frames[] = {{W.frmGSA, Sim.State.GSA_Enabled[W.Instance]},
+                  {W.frmGSV, Sim.State.GSV_Enabled[W.Instance]},
+                  {W.frmGST, Sim.State.GST_Enabled[W.Instance]}};
+    int Sum = W.frmGGA.Width;
+    int Fitting = Sum + Alone_Margin;
+    for (const auto& F : Frames) {
+        Sum += F.Place.Width;
+        if (F.Enabled) Fitting = Sum + Margin;
+    }
+    W.Resize(static_cast<float>(Fitting), W.Height);
+}
+
+// The caption stays: it becomes "Continue" by a pause and "START" again by another position.
+void cmdStart_Click(Simulator&, frmPosition& W) {
+    W.cmdPause.Enabled = true;
+    W.txtLat.Enabled = false;
+    W.txtLon.Enabled = false;
+    W.timer_Simulator.Set_Interval(Simulator_Period_ms);
+    Start_Sentences(W.Sentences);
+}
+
+void cmdPause_Click(Simulator&, frmPosition& W) {
+    W.txtLat.Enabled = true;
+    W.txtLon.Enabled = true;
+    W.cmdStart.Caption = std::string("Continue");
+    W.timer_Simulator.Set_Interval(0);
+    Pause_Sentences(W.Sentences);
+}
+
+void cmbComPort_Click(Simulator& Sim, frmPosition& W) {
+    if (W.cmbComPort.List_Index() < 0) return;
+    Sim.State.Sensor_Table[W.Instance].Port = static_cast<std::int16_t>(W.cmbComPort.Item_Data());
+}
+
+void cmbDecimals_Click(Simulator& Sim, frmPosition& W) {
+    Sim.State.GNSS_Decimals_Position[W.Instance] =
+        static_cast<std::int16_t>(W.cmbDecimals.List_Index() + First_Position_Decimals);
+}
+
+void cmbDecimalsTime_Click(Simulator& Sim, frmPosition& W) {
+    Sim.State.GNSS_Decimals_Time[W.Instance] = static_cast<std::int16_t>(W.cmbDecimalsTime.List_Index());
+}
+
+} // namespace brinewright

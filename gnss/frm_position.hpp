@@ -1,0 +1,145 @@
+#pragma once
+
+#include "platform/controls.hpp"
+#include "platform/form.hpp"
+#include "sentences/compose_dtm.hpp"
+#include "sentences/compose_gga.hpp"
+#include "sentences/compose_gll.hpp"
+#include "sentences/compose_gns.hpp"
+#include "sentences/compose_gsa.hpp"
+#include "sentences/compose_gst.hpp"
+#include "sentences/compose_gsv.hpp"
+#include "sentences/compose_rmc.hpp"
+#include "sentences/compose_vtg.hpp"
+#include "sentences/compose_zda.hpp"
+#include "shell/sentence_family.hpp"
+
+#include <memory>
+#include <string>
+
+namespace brinewright {
+
+struct Simulator;
+
+// The window of one positioning sensor, GNSS 1 or GNSS 2. Instance, 1 or 2, is at once its form index, its
+// Tag and its element of all per-sensor tables.
+struct frmPosition : Form {
+    frmPosition(Desktop& Windows, int Its_Instance);
+
+    // What the sentences are composed from. The ticks refresh what changes; all else stays as the controls
+    // left it.
+    brinewright::GGA_Record GGA_Record;
+    brinewright::GLL_Record GLL_Record;
+    brinewright::RMC_Record RMC_Record;
+    brinewright::GNS_Record GNS_Record;
+    brinewright::VTG_Record VTG_Record;
+    brinewright::ZDA_Record ZDA_Record;
+    brinewright::DTM_Record DTM_Record;
+    brinewright::GSA_Record GSA_Record;
+    brinewright::GSA_Record GSA2_Record; // GLONASS; nothing gives it a satellite, so it never leaves
+    brinewright::GSV_Record GSV_Record;
+    brinewright::GST_Record GST_Record;
+
+    Sentence_Family Sentences;
+    float Offset_North = 0; // metres from GNSS 1, held while chkFixOffset is checked
+    float Offset_East = 0;
+
+    // frmGGA holds all that is here; the other three stand to its right and show when the window is wide
+    // enough.
+    Frame frmGGA{*this, "frmGGA"};
+    Frame frmGSA{*this, "frmGSA", "GSA data"};
+    Frame frmGSV{*this, "frmGSV", "GSV data"};
+    Frame frmGST{*this, "frmGST", "GST Data"};
+    Label lblShipControl{*this, "lblShipControl", "Lat/Lon and SOG/COG control by Ship"};
+
+    Frame frmSimulator{*this, "frmSimulator"};
+    Label lblStartLat{*this, "lblStartLat", "Start Lat"};
+    Text_Box txtLat{*this, "txtLat"};
+    Label lblStartLon{*this, "lblStartLon", "Start Lon"};
+    Text_Box txtLon{*this, "txtLon"};
+    Check_Box chkFixOffset{*this, "chkFixOffset", "Fix Offset fr Pos1"};
+    Label lblLatitude{*this, "lblLatitude", "Latitude"};
+    Label lblLat{*this, "lblLat"};
+    Label lblLongitude{*this, "lblLongitude", "Longitude"};
+    Label lblLon{*this, "lblLon"};
+    Frame frmSOG{*this, "frmSOG", "SOG"};
+    Scroll_Bar scrSOG{*this, "scrSOG", 400, 0, 10}; // tenths of a knot
+    Label lblSOG{*this, "lblSOG"};
+    Text_Box txtSOG{*this, "txtSOG"};
+    Label lblSOGUnit{*this, "lblSOGUnit", "knots"};
+    Frame frmCOG{*this, "frmCOG", "COG"};
+    Scroll_Bar scrCOG{*this, "scrCOG", -1, 3600, 10}; // tenths of a degree; both ends wrap
+    Label lblCOG{*this, "lblCOG"};
+    Text_Box txtCOG{*this, "txtCOG"};
+    Label lblCOGUnit{*this, "lblCOGUnit", "degrees"};
+    Check_Box chkNoise{*this, "chkNoise", "Random noise On"};
+    Label lblMaxNoise{*this, "lblMaxNoise", "Max noise"};
+    Combo_Box cmbNoise{*this, "cmbNoise"};
+    Option_Group optAccumulatedNoise{*this, "optAccumulatedNoise", {"Not Accumulated", "Accumulated "}};
+
+    Frame frmSimulatorControl{*this, "frmSimulatorControl", "Simulator Control"};
+    Button cmdStart{*this, "cmdStart", "START"};
+    Button cmdPause{*this, "cmdPause", "PAUSE"};
+    Button cmdArrows{*this, "cmdArrows", "Control SOG/COG by keyboard Arrow keys"};
+    Label lblArrows{*this, "lblArrows", "SOG/COG control by Arrow keys"};
+    Text_Box txtDummy{*this, "txtDummy"}; // catches the keyboard for the arrow keys
+    Timer timer_Simulator{*this, "timer_Simulator"};
+
+    Frame frameNMEAMessages{*this, "frameNMEAMessages", "NMEA Messages"};
+    Check_Box chkGGA{*this, "chkGGA", "GGA"};
+    Combo_Box cmbGGAInterval{*this, "cmbGGAInterval"};
+    Timer timer_GGA{*this, "timer_GGA"};
+    Check_Box chkVTG{*this, "chkVTG", "VTG"};
+    Combo_Box cmbVTGInterval{*this, "cmbVTGInterval"};
+    Timer timer_VTG{*this, "timer_VTG"};
+    Check_Box chkGLL{*this, "chkGLL", "GLL"};
+    Combo_Box cmbGLLInterval{*this, "cmbGLLInterval"};
+    Timer timer_GLL{*this, "timer_GLL"};
+    Check_Box chkRMC{*this, "chkRMC", "RMC"};
+    Combo_Box cmbRMCInterval{*this, "cmbRMCInterval"};
+    Timer timer_RMC{*this, "timer_RMC"};
+    Check_Box chkZDA{*this, "chkZDA", "ZDA"};
+    Combo_Box cmbZDAInterval{*this, "cmbZDAInterval"};
+    Timer timer_ZDA{*this, "timer_ZDA"};
+    Check_Box chkGNS{*this, "chkGNS", "GNS"};
+    Combo_Box cmbGNSInterval{*this, "cmbGNSInterval"};
+    Timer timer_GNS{*this, "timer_GNS"};
+    Check_Box chkDTM{*this, "chkDTM", "DTM"};
+    Combo_Box cmbDTMInterval{*this, "cmbDTMInterval"};
+    Timer timer_DTM{*this, "timer_DTM"};
+    Check_Box chkGSA{*this, "chkGSA", "GSA"};
+    Combo_Box cmbGSAInterval{*this, "cmbGSAInterval"};
+    Timer timer_GSA{*this, "timer_GSA"};
+    Check_Box chkGSV{*this, "chkGSV", "GSV"};
+    Combo_Box cmbGSVInterval{*this, "cmbGSVInterval"};
+    Timer timer_GSV{*this, "timer_GSV"};
+    Check_Box chkGST{*this, "chkGST", "GST"};
+    Combo_Box cmbGSTInterval{*this, "cmbGSTInterval"};
+    Timer timer_GST{*this, "timer_GST"};
+
+    Text_Box txtTalker{*this, "txtTalker", "GP"};
+    Combo_Box cmbComPort{*this, "cmbComPort"};
+    Label lblDecimals{*this, "lblDecimals", "No of decimals"};
+    Label lblDecimalsPosition{*this, "lblDecimalsPosition", "Lat/Lon"};
+    Combo_Box cmbDecimals{*this, "cmbDecimals"};
+    Label lblDecimalsTime{*this, "lblDecimalsTime", "UTC, sec"};
+    Combo_Box cmbDecimalsTime{*this, "cmbDecimalsTime"};
+};
+
+// Makes the window of form index Open_Form_Index, 1 or 2, and runs its opening up to the point where it can
+// be shown. Any other index throws Run_Time_Error "Subscript out of range".
+std::shared_ptr<frmPosition> Load_frmPosition(Simulator& Sim);
+
+// Fills cmbComPort with the links that are in use now and selects the window's own, if it is among them.
+void Rebuild_Port_List(Simulator& Sim, frmPosition& W);
+
+// The width that shows frmGGA and, left to right, as far as the last of GSA, GSV and GST that is enabled.
+void Fit_Width(Simulator& Sim, frmPosition& W);
+
+void cmdStart_Click(Simulator& Sim, frmPosition& W);
+void cmdPause_Click(Simulator& Sim, frmPosition& W);
+void cmbComPort_Click(Simulator& Sim, frmPosition& W);
+void cmbDecimals_Click(Simulator& Sim, frmPosition& W);
+void cmbDecimalsTime_Click(Simulator& Sim, frmPosition& W);
+
+} // namespace brinewright

@@ -1,0 +1,90 @@
+#include "links/frm_iec61162.hpp"
+
+#include "shell/frm_main.hpp"
+#include "shell/simulator.hpp"
+
+#include <array>
+
+namespace brinewright {
+
+namespace {
+
+struct Tag_Row {
+    const char* Caption;
+    bool IEC450_State::*Use;
+};
+
+constexpr std::array<Tag_Row, 7> Tag_Rows{{
+    {"s: Source Identification", &IEC450_State::Use_s_Tag},
+    {"d: Destination Identification 1", &IEC450_State::Use_d_Tag},
+    {"d: Destination Identification 2", &IEC450_State::Use_d2_Tag},
+    {"n: Line-count parameter", &IEC450_State::Use_n_Tag},
+    {"g: Grouping control", &IEC450_State::Use_g_Tag},
+    {"c: Time, sec since 1 Jan 1970", &IEC450_State::Use_c_Tag},
+    {"t:Text string", &IEC450_State::Use_t_Tag},
+}};
+
+struct Text_Row {
+    Text_Box& (*Box)(frmIEC61162&);
+    std::string IEC450_State::*Value;
+    const char* Default_Text; // shown while the value is empty
+};
+
+const std::array<Text_Row, 4> Text_Rows{{
+    {[](frmIEC61162& F) -> Text_Box& { return F.txtSourceId; }, &IEC450_State::s_Tag, "Brinewright"},
+    {[](frmIEC61162& F) -> Text_Box& { return F.txtDestinationId[0]; }, &IEC450_State::d_Tag, "Listener 1"},
+    {[](frmIEC61162& F) -> Text_Box& { return F.txtDestinationId[1]; }, &IEC450_State::d2_Tag, "Listener 2"},
+    {[](frmIEC61162& F) -> Text_Box& { return F.txtTextString; }, &IEC450_State::t_Tag,
+     "Type your text string here"},
+}};
+
+void cmdOK_Click(Simulator& Sim, frmIEC61162& F) {
+    const bool On = F.chkIEC61162_450.Value();
+    Sim.Main->mnuOptionIEC450.Checked = On;
+    Sim.Windows.Boxes.Show(On ? "IEC 61162-450 option enabled." : "IEC 61162-450 option disabled.");
+    Sim.State.IEC450_Enabled = On;
+    Sim.State.UdPbC_Header_Enabled = F.chkUdpbc.Value();
+    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) Sim.State.*Tag_Rows[I].Use = F.chkIEC61162[I]->Value();
+    for (const Text_Row& Row : Text_Rows) Sim.State.*Row.Value = Row.Box(F).Text();
+    Sim.Windows.Unload(F);
+}
+
+void frmIEC61162_Load(Simulator& Sim, frmIEC61162& F) {
+    const Simulator_State& S = Sim.State;
+    F.chkIEC61162_450.Set_Value(S.IEC450_Enabled);
+    F.chkUdpbc.Set_Value(S.UdPbC_Header_Enabled);
+    F.chkIEC61162_450.Tool_Tip = std::string("Puts a tag block in front of every sentence on every link");
+    F.chkUdpbc.Tool_Tip = std::string("Puts the UdPbC datagram header in front of the tag block");
+    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) F.chkIEC61162[I]->Set_Value(S.*Tag_Rows[I].Use);
+    for (const Text_Row& Row : Text_Rows) {
+        Text_Box& Box = Row.Box(F);
+        const std::string& Value = S.*Row.Value;
+        Box.Set_Text(Value.empty() ? Row.Default_Text : Value);
+        Box.Got_Focus = [&Box] { Box.Select_All(); };
+    }
+    F.cmdOK.Click = [&Sim, &F] { cmdOK_Click(Sim, F); };
+    F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
+    F.On_Unload = [&Sim] { Sim.IEC61162.reset(); };
+}
+
+} // namespace
+
+frmIEC61162::frmIEC61162(Desktop& Its_Windows) : Form(Its_Windows, "frmIEC61162", 0, Form_Kind::Dialog) {
+    Caption = "IEC 61162-450 Multiple talkers and listeners";
+    for (const Tag_Row& Row : Tag_Rows)
+        chkIEC61162.push_back(std::make_unique<Check_Box>(*this, "chkIEC61162", Row.Caption,
+                                                          static_cast<int>(chkIEC61162.size())));
+}
+
+void mnuOptionIEC450_Click(Simulator& Sim) {
+    if (Sim.IEC61162) {
+        Sim.Windows.Activate(*Sim.IEC61162);
+        return;
+    }
+    auto Window = std::make_shared<frmIEC61162>(Sim.Windows);
+    frmIEC61162_Load(Sim, *Window);
+    Sim.IEC61162 = Window;
+    Sim.Windows.Show(std::move(Window));
+}
+
+} // namespace brinewright

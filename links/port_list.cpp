@@ -1,0 +1,31 @@
+#include "links/port_list.hpp"
+
+#include "shell/number_text.hpp"
+#include "shell/simulator.hpp"
+
+namespace brinewright {
+
+bool Link_In_Use(const Simulator& Sim, int Port) {
+    if (Port < 1 || Port > port_number::Last) return false;
+    const Port_Setting& Link = Sim.State.Port_Table[Port];
+    return Link.Present && Link.Enabled;
+}
+
+void Fill_Port_List(const Simulator& Sim, Combo_Box& List, std::int16_t Selected) {
+    List.Clear();
+    for (int Port = 1; Port <= port_number::Last; ++Port) {
+        if (!Link_In_Use(Sim, Port)) continue;
+        if (Port <= port_number::Last_Serial)
+            List.Add_Item("COM" + Number_Text(Port), Port);
+        else if (Port == port_number::TCP)
+            List.Add_Item("TCP/IP", Port);
+        else
+            List.Add_Item("UDP" + Number_Text(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]), Port);
+    }
+    // The virtual port shares the port number of the first UDP link; nothing turns this option on.
+    if (Sim.State.Virtual_Port_Option)
+        List.Add_Item("vCom" + Number_Text(Sim.State.Virtual_Port_Number), port_number::First_UDP);
+    List.Choose_Data(Selected);
+}
+
+} // namespace brinewright

@@ -1,0 +1,126 @@
+#include "links/serial_ports.hpp"
+
+#include "links/port_list.hpp"
+#include "links/tcp_server.hpp"
+#include "links/udp_links.hpp"
+#include "shell/frm_extended_monitor.hpp"
+#include "shell/frm_main.hpp"
+#include "shell/frm_monitor.hpp"
+#include "shell/number_text.hpp"
+#include "shell/simulator.hpp"
+
+namespace brinewright {
+
+namespace {
+
+constexpr int Last_Swept_Slot = 8;               // slots 9 to 11 keep the port of a link that is gone
+constexpr std::size_t Line_Limit_Bytes = 65'536; // a line that never ends starts over
+
+std::string Settings_Text(const Port_Setting& Port) {
+    const std::string Letter = Port.Parity.empty() ? std::string() : Port.Parity.substr(0, 1);
+    return std::to_string(Port.BaudRate) + "," + Letter + "," + std::to_string(Port.DataBits) + "," +
+           std::to_string(Port.StopBits);
+}
+
+Serial_Port& Port_Object(Simulator& Sim, int Index) {
+    auto& Object = Sim.Links.MSComm[Index];
+    if (!Object) {
+        Object = Sim.Services.Make_Serial_Port(Index);
+        Object->On_Comm = [&Sim, Index](Comm_Event Event) {
+            Sim.Windows.Event([&] { MSComm_OnComm(Sim, Index, Event); });
+        };
+    }
+    return *Object;
+}
+
+void Open_Comport(Simulator& Sim, int Index) {
+    try {
+        Serial_Port& Port = Port_Object(Sim, Index);
+        if (Port.Is_Open()) Port.Close();
+        Port.Open(Settings_Text(Sim.State.Port_Table[Index]));
+    } catch (const Run_Time_Error& Failure) {
+        Sim.Windows.Boxes.Show(std::string(Failure.what()) + ". Comport " + Number_Text(Index) +
+                               " not available! Please re-arrange your COM Setup! (Use Reset buttom on Com Setup)");
+    }
+    // The panel shows in spite of a failure.
+    Sim.Main->sbStatusBar[Index].Visible = true;
+}
+
+void Leave_Comport(Simulator& Sim, int Index, bool Hide_Panel) {
+    Close_Comport(Sim, Index);
+    for (int Slot = 1; Slot <= Last_Swept_Slot; ++Slot)
+        if (Sim.State.Sensor_Table[Slot].Port == Index) Sim.State.Sensor_Table[Slot].Port = port_number::None;
+    if (Hide_Panel) Sim.Main->sbStatusBar[Index].Visible = false;
+}
+
+void Take_Lines(Simulator& Sim, int Index) {
+    std::string& Buffer = Sim.Links.Rx_Buffer;
+    Buffer += Sim.Links.MSComm[Index]->Input();
+    for (std::size_t Feed = Buffer.find('\n'); Feed != std::string::npos; Feed = Buffer.find('\n')) {
+        std::string Line = Buffer.substr(0, Feed + 1);
+        Buffer.erase(0, Feed + 1);
+        if (Extended_Monitor_Shows(Sim, Index)) Extended_Monitor_Rx(Sim, std::move(Line));
+    }
+    if (Buffer.size() > Line_Limit_Bytes) Buffer.clear();
+}
+
+void Reset_Comport(Simulator& Sim, int Index, const char* Failure_Text) {
+    Sim.Windows.Boxes.Show(Failure_Text, "ERROR - A Communication error has occured on COM-port, port is reset");
+    const auto& Port = Sim.Links.MSComm[Index];
+    if (!Port || !Port->Is_Open()) return;
+    Port->Close();
+    Port->Open(Settings_Text(Sim.State.Port_Table[Index]));
+}
+
+} // namespace
+
+void Close_Comport(Simulator& Sim, int Index) {
+    const auto& Port = Sim.Links.MSComm[Index];
+    if (Port && Port->Is_Open()) Port->Close();
+}
+
+void Init_Comports(Simulator& Sim, std::int16_t Count) {
+    Simulator_State& S = Sim.State;
+    Label& First_Panel = Sim.Main->sbStatusBar[1];
+    First_Panel.Caption = std::string(Count != 0 ? "COM 1" : "No comports enabled");
+    First_Panel.Visible = Count == 0;
+    S.Comport_Count = Count;
+    for (int Index = 1; Index <= port_number::Last_Serial; ++Index) {
+        if (Link_In_Use(Sim, Index))
+            Open_Comport(Sim, Index);
+        else
+            Leave_Comport(Sim, Index, Index != 1 || Count != 0);
+    }
+    if (Link_In_Use(Sim, port_number::TCP)) {
+        Show_frmTCPIP(Sim);
+        TCP_Listen(Sim);
+    } else if (Sim.Links.Listener) {
+        TCP_Stop(Sim);
+    }
+    for (std::int16_t K = 0; K <= 10; ++K)
+        if (Link_In_Use(Sim, port_number::First_UDP + K)) Open_UDP(Sim, K);
+    S.Ports_Initialised = true;
+}
+
+void MSComm_OnComm(Simulator& Sim, int Index, Comm_Event Event) {
+    // Dropped for all ports but the one on the monitor: what has been received stays in the port.
+    if (!Sim.Extended_Monitor || !*Sim.Main->mnuExtendedMonitor.Checked || Index != Sim.State.Extended_Monitor_Port)
+        return;
+    try {
+        switch (Event) {
+        case Comm_Event::Break:
+        case Comm_Event::Framing:
+        case Comm_Event::Overrun:
+        case Comm_Event::Receive_Overflow:
+        case Comm_Event::Parity:
+            // A half-received line is lost with the error; nothing is shown of it.
+            Sim.Links.Rx_Buffer.clear();
+            break;
+        case Comm_Event::Receive: Take_Lines(Sim, Index); break;
+        }
+    } catch (const Run_Time_Error& Failure) {
+        Reset_Comport(Sim, Index, Failure.what());
+    }
+}
+
+} // namespace brinewright

@@ -1,0 +1,36 @@
+#include "links/udp_links.hpp"
+
+#include "links/port_list.hpp"
+#include "shell/frm_extended_monitor.hpp"
+#include "shell/simulator.hpp"
+
+namespace brinewright {
+
+namespace {
+
+constexpr const char* Broadcast = "255.255.255.255";
+
+// Data that the monitor does not show is left unread; the socket keeps only so much of it.
+void DataArrival(Simulator& Sim, std::int16_t K) {
+    if (!Extended_Monitor_Shows(Sim, port_number::First_UDP + K)) return;
+    Extended_Monitor_Rx(Sim, Sim.Links.WinsockUDP[K]->Receive());
+}
+
+} // namespace
+
+void Open_UDP(Simulator& Sim, std::int16_t K) {
+    try {
+        auto& Link = Sim.Links.WinsockUDP[K];
+        if (!Link) {
+            Link = Sim.Services.Make_UDP_Socket();
+            Link->On_Data_Arrival = [&Sim, K] { Sim.Windows.Event([&] { DataArrival(Sim, K); }); };
+        }
+        if (Link->Is_Open()) Link->Close();
+        Link->Open(Sim.State.UDP_Mode != 0 ? Sim.State.UDP_Remote_Host : Broadcast, Sim.State.UDP_Port_Number[K]);
+    } catch (const Run_Time_Error& Failure) {
+        Sim.Windows.Boxes.Show(std::string("UDP Error : ") + Failure.what() + " Select another port number", "",
+                               Box_Icon::Stop);
+    }
+}
+
+} // namespace brinewright

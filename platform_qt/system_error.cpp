@@ -1,0 +1,17 @@
+#include "platform_qt/system_error.hpp"
+
+#include "platform/run_time_error.hpp"
+
+#include <cstring>
+
+namespace brinewright {
+
+std::string System_Text(int Error_Number) {
+    // Not strerror: the toolkit sets the user's locale, which would translate it.
+    const char* Text = ::strerrordesc_np(Error_Number);
+    return Text != nullptr ? Text : "System error " + std::to_string(Error_Number);
+}
+
+void Throw_System_Error(int Error_Number) { throw Run_Time_Error(System_Text(Error_Number)); }
+
+} // namespace brinewright

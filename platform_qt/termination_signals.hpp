@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform_qt/event_loop.hpp"
+#include "platform_qt/unique_fd.hpp"
+
+#include <csignal>
+#include <functional>
+#include <memory>
+
+namespace brinewright {
+
+// SIGTERM, SIGINT and SIGHUP call On_Terminate from the event loop, as often as they come; SIGPIPE is
+// ignored. A SIGHUP that was ignored at the start (nohup) stays ignored. Make it before any thread is
+// started, as threads take over what is blocked here. Throws Run_Time_Error.
+class Termination_Signals {
+  public:
+    explicit Termination_Signals(std::function<void()> On_Terminate);
+    ~Termination_Signals();
+    Termination_Signals(const Termination_Signals&) = delete;
+    Termination_Signals& operator=(const Termination_Signals&) = delete;
+
+  private:
+    sigset_t Mask_Before{};
+    Unique_Fd Signals;
+    std::unique_ptr<QSocketNotifier> Watch;
+};
+
+} // namespace brinewright

@@ -1,0 +1,141 @@
+#include "gnss/gnss_sky.hpp"
+#include "links/serial_ports.hpp"
+#include "links/setup_file.hpp"
+#include "shell/file_menu.hpp"
+#include "shell/frm_main.hpp"
+#include "shell/simulator.hpp"
+
+#include "sentences/number_pattern.hpp"
+
+#include <array>
+
+namespace brinewright {
+
+namespace {
+
+constexpr const char* Application_Title = "Brinewright";
+constexpr std::int64_t Window_Stagger_us = 350'000; // spreads the sentence timers of the windows over time
+constexpr double Sky_Period_ms = 10'000;
+
+struct Place_Setting {
+    const char* Key;
+    const char* Default;
+    float Form::*Value;
+};
+
+constexpr std::array<Place_Setting, 4> Main_Place{{
+    {"MainLeft", "1000", &Form::Left},
+    {"MainTop", "1000", &Form::Top},
+    {"MainWidth", "6500", &Form::Width},
+    {"MainHeight", "6500", &Form::Height},
+}};
+
+void Load_First_Setup(Simulator& Sim) {
+    const std::string File = Setup_File_Name(Sim);
+    if (Sim.Services.Disk().Exists(File)) {
+        Load_Setup(Sim, File);
+        if (Sim.State.Comport_Count > 0) Init_Comports(Sim, Sim.State.Comport_Count);
+        return;
+    }
+    Sim.Windows.Boxes.Show("No setupfile exist. Default data loaded and no comports initialized ! ");
+    Load_Default_Data(Sim.State);
+}
+
+// Labels of the setup file only. On purpose they do not follow the order of the form indices from slot 5 on.
+void Name_Sensor_Slots(Simulator& Sim) {
+    constexpr std::array<const char*, 8> Names{"GNSS1", "GNSS2",       "Gyro1", "Gyro2",
+                                               "Log",   "Echosounder", "ARPA",  "Wind Gauge"};
+    for (std::size_t I = 0; I < Names.size(); ++I) Sim.State.Sensor_Table[static_cast<int>(I) + 1].Name = Names[I];
+}
+
+void Repair_Talkers(Simulator& Sim) {
+    Simulator_State& S = Sim.State;
+    const auto Repair = [](std::string& Talker, const char* Default) {
+        if (Talker.empty()) Talker = Default;
+    };
+    for (const int I : {1, 2}) {
+        Repair(S.GNSS_Talker[I], "GP");
+        Repair(S.Gyro_Talker[I], "HE");
+        Repair(S.Log_Talker[I], "VW");
+        Repair(S.Echo_Talker[I], "SD");
+        Repair(S.Wind_Talker[I], "WI");
+    }
+    Repair(S.ARPA_Talker, "RA");
+}
+
+std::string Main_Caption(const Simulator& Sim) {
+    const std::int16_t Instance = Sim.State.Instance_Number;
+    const char* Copy = Instance == 2 ? "-2" : Instance == 3 ? "-3" : "";
+    return std::string(Application_Title) + "  " + Copy + " - Version : " + Version_Text;
+}
+
+void Place_Main_Window(Simulator& Sim) {
+    for (const Place_Setting& P : Main_Place)
+        (*Sim.Main).*P.Value = static_cast<float>(Val(Sim.Services.Settings().Get(P.Key, P.Default)));
+}
+
+void Keep_Main_Place(Simulator& Sim) {
+    if (Sim.Main->State == Window_State::Minimised) return;
+    for (const Place_Setting& P : Main_Place)
+        Sim.Services.Settings().Set(P.Key, Format_Dot((*Sim.Main).*P.Value, ""));
+}
+
+void Open_Saved_Windows(Simulator& Sim) {
+    for (int I = 1; I <= Sim.State.Open_Form_Count; ++I) {
+        const std::int16_t Index = Sim.State.Open_Form_List[I].Index;
+        if (Index == 0) continue; // the ship window, which opens without a wait, does not exist here
+        Sim.Timers.Spin_us(Window_Stagger_us);
+        mnuOpenForm_Click(Sim, Index);
+    }
+    Sim.State.Open_Form_Count = 0;
+}
+
+void MDIForm_Unload(Simulator& Sim) {
+    // Child windows go first, each adding itself to the list of open windows. One that fails to (the list is full) is
+    // told in a box, and the end goes on.
+    const auto Open_Now = Sim.Windows.Forms;
+    for (const auto& Window : Open_Now)
+        if (Window != Sim.Main) Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
+    Keep_Main_Place(Sim);
+    Save_Setup_At_End(Sim);
+    Sim.Ended = true;
+    Sim.Services.Quit();
+}
+
+} // namespace
+
+void MDIForm_Load(Simulator& Sim) {
+    Simulator_State& S = Sim.State;
+    frmMain& Main = *Sim.Main;
+    S.Instance_Number = Sim.Options.Instance_Number;
+    Sim.Services.Disk().Make_Folder(Sim.Options.Data_Folder);
+    S.Data_Folder = Sim.Options.Data_Folder;
+    Load_First_Setup(Sim);
+    Name_Sensor_Slots(Sim);
+    Repair_Talkers(Sim);
+    Init_Sky(Sim);
+    Main.timer_Sky.Tick = [&Sim] { timer_Sky_Tick(Sim); };
+    Main.timer_Sky.Set_Interval(Sky_Period_ms);
+    Main.Set_Caption(Main_Caption(Sim));
+    Place_Main_Window(Sim);
+    Show_Mode(Sim);
+    Open_Saved_Windows(Sim);
+    Main.mnuSetupStartOption.Checked = S.Start_With_Last_Navdata;
+    Main.mnuOptionIEC450.Checked = S.IEC450_Enabled;
+}
+
+Simulator::Simulator(Platform& Its_Platform, Start_Options Its_Options)
+    : Services(Its_Platform), Options(std::move(Its_Options)), Timers(Its_Platform.Time()), Windows(Timers),
+      Main(std::make_shared<frmMain>(Windows)) {
+    Main->On_Unload = [this] { MDIForm_Unload(*this); };
+    Wire_Menus(*this);
+    Windows.Show(Main);
+}
+
+// The windows hold timers of the queue and handlers on the simulator, so they go while both still stand.
+Simulator::~Simulator() {
+    for (const auto& Window : Windows.Forms) Window->On_Unload = nullptr;
+    while (!Windows.Forms.empty()) Windows.Event([this] { Windows.Unload(*Windows.Forms.back()); });
+}
+
+} // namespace brinewright
