@@ -3,6 +3,7 @@
 #include "automation/automation.hpp"
 #include "platform/virtual_platform.hpp"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -73,6 +74,7 @@ struct Little_Desktop {
     Desktop Windows{Timers};
     std::shared_ptr<Little_Form> Window = Open();
     std::vector<std::string> Pushed;
+    double Hooks_Limit_s = 1e9; // of one advance
     Automation_Session Session{Target(), Hooks()};
 
     Little_Desktop() {
@@ -86,7 +88,7 @@ struct Little_Desktop {
     Automation_Target Target() { return {Windows, State, Links, Counts}; }
     Automation_Hooks Hooks() {
         Automation_Hooks Lent;
-        Lent.Advance = [this](double Seconds) { Advance(Seconds); };
+        Lent.Advance = [this](double Seconds) { Advance(std::min(Seconds, Hooks_Limit_s)); };
         return Lent;
     }
     void Advance(double Seconds) {

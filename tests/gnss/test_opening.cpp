@@ -61,7 +61,7 @@ TEST(GNSS_Opening, Staggers_Each_Enabled_Sentence_But_The_First) {
             }
         EXPECT_NEAR(static_cast<double>(Bench.Now_us()) / 1e6, Opened_s, 50e-6) << Types;
         for (auto& Row : Ticks) (W.*Row.first->Clock).Tick = [&] { Row.second.push_back(Bench.Now_us()); };
-        Bench.Run_To(10);
+        Bench.Run_To(9.5);
         double Start_s = 0;
         for (const auto& [T, Times_us] : Ticks) {
             if (T != Ticks.front().first) Start_s += T->Stagger_s;
@@ -71,7 +71,6 @@ TEST(GNSS_Opening, Staggers_Each_Enabled_Sentence_But_The_First) {
                 EXPECT_NEAR(static_cast<double>(Times_us[I]) / 1e6,
                             Start_s + 2.0 * static_cast<double>(I + 1), 50e-6)
                     << T->Type;
-            if (T == Ticks.front().first) Start_s = 0;
         }
     }
 }
@@ -211,8 +210,6 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
         frmPosition& W = Bench.Open();
         EXPECT_EQ(Bench.Last_Box(), "");
         for (const Told_Sentence& T : Told) {
-            const bool In_List = Garbage == 10 && (W.*T.List).Items().size() > 10;
-            EXPECT_FALSE(In_List);
             EXPECT_EQ((W.*T.List).List_Index(), T.Default_Entry) << T.Type;
             EXPECT_EQ((State.*T.Interval)[1], T.Default_Entry) << T.Type;
         }

@@ -13,8 +13,11 @@ namespace {
 std::string Shown(const std::vector<Line_Item>& Items) {
     std::string Text;
     for (const Line_Item& Item : Items) {
-        Text += Item.Event == Comm_Event::Receive ? Item.Data
-                                                  : "<" + std::to_string(static_cast<int>(Item.Event)) + ">";
+        if (Item.Event == Comm_Event::Receive) {
+            Text += Item.Data;
+        } else {
+            Text.append("<").append(std::to_string(static_cast<int>(Item.Event))).append(">");
+        }
     }
     return Text;
 }

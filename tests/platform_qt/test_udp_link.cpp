@@ -129,8 +129,9 @@ TEST(UDP_Link, Wrong_hosts_ports_and_settings_are_refused_and_the_broadcast_addr
                   std::string::npos);
     }
     for (const char* Host : {"", "localhost", "1.2.3", "1.2.3.256", "1.2.3.4 ", "::1"}) {
-        EXPECT_EQ(Error_Of([&] { Link.Open(Host, 1000); }),
-                  "\"" + std::string(Host) + "\" is not an IPv4 address.");
+        const std::string Told = Error_Of([&] { Link.Open(Host, 1000); });
+        EXPECT_NE(Told.find("is not an IPv4 address"), std::string::npos) << Host;
+        EXPECT_NE(Told.find(Host), std::string::npos) << Host;
     }
     EXPECT_EQ(Error_Of([&] { Link.Open("255.255.255.255", 60001); }), "");
     EXPECT_TRUE(Link.Is_Open());
