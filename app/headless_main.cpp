@@ -53,7 +53,12 @@ void End_Program(Simulator& Sim) {
 std::vector<Script_Line> Load_Script(const std::string& File) {
     constexpr std::size_t Script_Limit_Bytes = 64 * 1024 * 1024;
     std::vector<Script_Line> Lines;
-    const std::string Wrong = Read_Script(Disk_Files().Read(File, Script_Limit_Bytes), Lines);
+    std::string Wrong;
+    try {
+        Wrong = Read_Script(Disk_Files().Read(File, Script_Limit_Bytes), Lines);
+    } catch (const Run_Time_Error& Failure) {
+        Wrong = Failure.what();
+    }
     if (!Wrong.empty()) throw Run_Time_Error(File + ": " + Wrong);
     return Lines;
 }

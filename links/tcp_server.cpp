@@ -29,26 +29,25 @@ void Show_Status(Simulator& Sim) {
     Sim.TCPIP->lblStatus.Caption = "Connected to" + Number_Text(Sim.State.TCP_Client_Count) + " clients";
 }
 
-// The list follows the history, which outlives a closing of the window.
+// The list follows the history, which outlives a closing of the window: new entries come behind, and of the others
+// only the one that is selected can have changed.
 void Show_History(Simulator& Sim, int Selected) {
     if (!Sim.TCPIP) return;
     Combo_Box& List = Sim.TCPIP->cmbConnections;
     const auto& History = Sim.Links.Connection_History;
-    for (std::size_t I = 0; I < History.size(); ++I) {
-        if (I < List.Items().size())
-            List.Set_Item(static_cast<int>(I), History[I]);
-        else
-            List.Add_Item(History[I]);
-    }
+    while (List.Items().size() < History.size()) List.Add_Item(History[List.Items().size()]);
     List.Visible = !History.empty();
-    if (Selected >= 0 && Selected < static_cast<int>(History.size())) List.Set_List_Index(Selected);
+    if (Selected < 0 || Selected >= static_cast<int>(History.size())) return;
+    List.Set_Item(Selected, History[static_cast<std::size_t>(Selected)]);
+    List.Set_List_Index(Selected);
 }
 
 std::string Now_Text(Simulator& Sim) { return Date_Time_Text(Sim.Services.Time().Local_us()); }
 
 void WinsockArray_Close(Simulator& Sim, int Index) {
     TCP_Element& Gone = Element(Sim, Index);
-    Gone.State = socket_state::Closing;
+    // Its timer sees the closed state and stops, so that the clients of a long run leave nothing that ticks.
+    Gone.State = socket_state::Closed;
     if (Gone.Connection) {
         Gone.Skipped = Gone.Connection->Skipped_Count();
         Gone.Connection->Close();
@@ -73,7 +72,6 @@ void Close_Listening_Element(Simulator& Sim, int Index) {
     if (Listening.State == socket_state::Closed) return;
     Listening.Tag = No_Reduction;
     WinsockArray_Close(Sim, Index);
-    Listening.State = socket_state::Closed;
 }
 
 void Start_State_Check(Simulator& Sim, int Index) {
@@ -124,7 +122,10 @@ frmTCPIP::frmTCPIP(Desktop& Its_Windows) : Form(Its_Windows, "frmTCPIP", 0, Form
 }
 
 void Show_frmTCPIP(Simulator& Sim) {
-    if (Sim.TCPIP) return;
+    if (Sim.TCPIP) {
+        Sim.TCPIP->lblPort.Caption = std::to_string(Sim.State.TCP_Port);
+        return;
+    }
     auto Window = std::make_shared<frmTCPIP>(Sim.Windows);
     Window->Set_Place(Sim.State.frmTCPIP_Left, Sim.State.frmTCPIP_Top, 7830, 1590);
     Window->lblIP.Caption = Sim.Services.Local_IP();

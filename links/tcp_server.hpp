@@ -20,7 +20,7 @@ struct frmTCPIP : Form {
     Label lblPort{*this, "lblPort"};
 };
 
-void Show_frmTCPIP(Simulator& Sim); // without focus; nothing when it is open
+void Show_frmTCPIP(Simulator& Sim); // without focus; an open one only gets the port that is set now
 
 // Listens on TCP_Port with the element TCP_Client_Max_Index. A port that is taken is told in a box, and the program
 // goes on without a server.

@@ -4,6 +4,8 @@
 #include "shell/frm_extended_monitor.hpp"
 #include "shell/simulator.hpp"
 
+#include <utility>
+
 namespace brinewright {
 
 namespace {
@@ -13,7 +15,10 @@ constexpr const char* Broadcast = "255.255.255.255";
 // Data that the monitor does not show is left unread; the socket keeps only so much of it.
 void DataArrival(Simulator& Sim, std::int16_t K) {
     if (!Extended_Monitor_Shows(Sim, port_number::First_UDP + K)) return;
-    Extended_Monitor_Rx(Sim, Sim.Links.WinsockUDP[K]->Receive());
+    // What was left unread before comes with it, so that the pane does not lag behind the link from then on.
+    UDP_Socket& Link = *Sim.Links.WinsockUDP[K];
+    for (std::string Text = Link.Receive(); !Text.empty(); Text = Link.Receive())
+        Extended_Monitor_Rx(Sim, std::move(Text));
 }
 
 } // namespace

@@ -102,6 +102,7 @@ void Desktop::User_Type(Control& Target, const std::string& Text) {
 
 void Desktop::User_Set(Control& Target, const Control_Value& New) {
     User_Focus(Target);
+    Require_Usable(*this, Target); // the box that was left may have changed the world
     Target.User_Set(New);
     const bool Typed = Target.Kind == Control_Kind::Text_Box;
     if (Typed && Focus == &Target) Set_Focus(nullptr);

@@ -60,7 +60,7 @@ class Timer_Queue {
 
     std::set<Entry*, Earlier> Running;
     std::uint64_t Last_Order = 0;
-    std::array<Spin, 64> Recent_Spins{};
+    std::array<Spin, 1024> Recent_Spins{}; // more than the waits of a start with every window open
     std::size_t Spin_Count = 0;
 };
 

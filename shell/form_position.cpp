@@ -1,9 +1,9 @@
 #include "shell/form_position.hpp"
 
+#include "sentences/number_pattern.hpp"
 #include "shell/simulator.hpp"
 
-#include <cmath>
-#include <cstdlib>
+#include <algorithm>
 
 namespace brinewright {
 
@@ -12,7 +12,7 @@ void Save_Form_Position(Simulator& Sim, const Form& Window) {
     // The list is full at 20 entries: the subscript failure that follows is required.
     Open_Form_Entry& Entry = S.Open_Form_List[S.Open_Form_Count + 1];
     Entry.Name = Window.Name;
-    Entry.Index = static_cast<std::int16_t>(std::atoi(Window.Tag.c_str()));
+    Entry.Index = static_cast<std::int16_t>(Val(Window.Tag));
     Entry.Top = Window.Top;
     Entry.Left = Window.Left;
     Entry.Height = Window.Height;
@@ -21,8 +21,11 @@ void Save_Form_Position(Simulator& Sim, const Form& Window) {
 }
 
 void Restore_Form_Position(const Simulator& Sim, Form& Window, std::int16_t Form_Index) {
-    for (const Open_Form_Entry& Entry : Sim.State.Open_Form_List) {
-        if (Entry.Index != Form_Index || Entry.Name.empty()) continue;
+    const Simulator_State& S = Sim.State;
+    const int Count = std::min<int>(S.Open_Form_Count, S.Open_Form_List.Last_Index);
+    for (int I = 1; I <= Count; ++I) {
+        const Open_Form_Entry& Entry = S.Open_Form_List[I];
+        if (Entry.Index != Form_Index) continue;
         Window.Resize(Entry.Width, Entry.Height);
         Window.Left = Entry.Left;
         Window.Top = Entry.Top;

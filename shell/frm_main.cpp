@@ -145,7 +145,9 @@ void mnuMode_Click(Simulator& Sim, int Index) {
     Show_Mode(Sim);
     // The unload clears the check, so that the call loads the window anew, in the new mode.
     For_Open_Windows([&Sim](std::int16_t Form_Index) {
-        if (Form* Window = Sensor_Window(Sim, Form_Index)) Sim.Windows.Unload(*Window);
+        // An event of its own: keeping the place fails when the list of places is full. That is told, and the window
+        // opens again all the same.
+        if (Form* Window = Sensor_Window(Sim, Form_Index)) Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
         mnuOpenForm_Click(Sim, Form_Index);
     });
 }

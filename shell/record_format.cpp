@@ -96,15 +96,16 @@ std::optional<std::string> Unescape(std::string_view Text) {
 } // namespace
 
 void Record_Writer::Append(std::string& Out, std::int64_t Local_us, int Port, std::string_view Text) {
-    const std::int64_t This_Second = Local_us / us_Per_Second;
-    if (This_Second != Second) {
+    const std::int64_t Fraction_us = (Local_us % us_Per_Second + us_Per_Second) % us_Per_Second;
+    const std::int64_t This_Second = (Local_us - Fraction_us) / us_Per_Second;
+    if (This_Second != Second || Second_Text.empty()) {
         Second = This_Second;
         const Calendar_Time Now = Split_Time(Local_us);
         Second_Text = Format_Dot(Now, "yyyy-mm-dd") + "T" + Format_Dot(Now, "hh:nn:ss") + ".";
     }
     Out += Second_Text;
     char Fraction[6];
-    for (std::int64_t Rest = Local_us % us_Per_Second, I = 5; I >= 0; --I, Rest /= 10)
+    for (std::int64_t Rest = Fraction_us, I = 5; I >= 0; --I, Rest /= 10)
         Fraction[I] = static_cast<char>('0' + Rest % 10);
     Out.append(Fraction, sizeof Fraction);
     Out += ' ';

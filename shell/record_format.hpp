@@ -21,7 +21,7 @@ struct Recorded_Sentence {
 
 // Appends such lines; it keeps the text of the present second, because most sentences share it.
 struct Record_Writer {
-    std::int64_t Second = -1;
+    std::int64_t Second = 0;
     std::string Second_Text;
     void Append(std::string& Out, std::int64_t Local_us, int Port, std::string_view Text);
 };

@@ -121,6 +121,7 @@ void Send_NMEA(Simulator& Sim, std::string& Text, std::int16_t Port) {
     if (Port <= port_number::Last) ++(Link_Took_It ? Sim.Counts.Sent : Sim.Counts.Failed)[Port];
     // A datagram that could not leave shows on the monitors all the same: UDP failures are ignored.
     Tell_Monitors(Sim, Text, Port);
+    if (!Link_Took_It) return;
     for (const auto& Tell : Sim.On_Sent) Tell(Text, Port);
 }
 

@@ -61,6 +61,12 @@ void Repair_Talkers(Simulator& Sim) {
         Repair(S.Wind_Talker[I], "WI");
     }
     Repair(S.ARPA_Talker, "RA");
+    // A setup from before the GNSS configuration says nothing of these; GNS would leave without talker and mode.
+    for (int Slot = 1; Slot <= 6; ++Slot) {
+        Repair(S.GNS_Talker[Slot], "GP");
+        Repair(S.GNS_Mode_Indicator[Slot], "A");
+        Repair(S.GNSS_Systems_Text[Slot], "GPS");
+    }
 }
 
 std::string Main_Caption(const Simulator& Sim) {
@@ -85,7 +91,8 @@ void Open_Saved_Windows(Simulator& Sim) {
         const std::int16_t Index = Sim.State.Open_Form_List[I].Index;
         if (Index == 0) continue; // the ship window, which opens without a wait, does not exist here
         Sim.Timers.Spin_us(Window_Stagger_us);
-        mnuOpenForm_Click(Sim, Index);
+        // An event of its own: a window that fails to open is told in a box, and the others open.
+        Sim.Windows.Event([&] { mnuOpenForm_Click(Sim, Index); });
     }
     Sim.State.Open_Form_Count = 0;
 }
@@ -96,8 +103,9 @@ void MDIForm_Unload(Simulator& Sim) {
     const auto Open_Now = Sim.Windows.Forms;
     for (const auto& Window : Open_Now)
         if (Window != Sim.Main) Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
-    Keep_Main_Place(Sim);
-    Save_Setup_At_End(Sim);
+    // Whatever fails from here on, the program ends.
+    Sim.Windows.Event([&] { Keep_Main_Place(Sim); });
+    Sim.Windows.Event([&] { Save_Setup_At_End(Sim); });
     Sim.Ended = true;
     Sim.Services.Quit();
 }
@@ -108,8 +116,9 @@ void MDIForm_Load(Simulator& Sim) {
     Simulator_State& S = Sim.State;
     frmMain& Main = *Sim.Main;
     S.Instance_Number = Sim.Options.Instance_Number;
-    Sim.Services.Disk().Make_Folder(Sim.Options.Data_Folder);
     S.Data_Folder = Sim.Options.Data_Folder;
+    // Without the folder the program still starts: the setup may stand elsewhere, and its save must not be of nothing.
+    Sim.Windows.Event([&] { Sim.Services.Disk().Make_Folder(S.Data_Folder); });
     Load_First_Setup(Sim);
     Name_Sensor_Slots(Sim);
     Repair_Talkers(Sim);

@@ -30,7 +30,9 @@ TEST(Motion_Controls, Typed_Speed_Outlives_The_Bar) {
         EXPECT_EQ(Bench.Sim.State.GNSS_SOG[1], T.Value) << T.Text;
         EXPECT_EQ(W.scrSOG.Value(), T.Bar) << T.Text;
         EXPECT_EQ(W.txtSOG.Text(), *W.lblSOG.Caption);
-        if (T.Shown) EXPECT_EQ(*W.lblSOG.Caption, T.Shown) << T.Text;
+        if (T.Shown) {
+            EXPECT_EQ(*W.lblSOG.Caption, T.Shown) << T.Text;
+        }
     }
     W.scrSOG.Set_Value(77);
     EXPECT_EQ(Bench.Sim.State.GNSS_SOG[1], 7.7F);
@@ -44,7 +46,7 @@ TEST(Motion_Controls, Typed_Course_Gives_Way_To_A_Bar_That_Moves) {
     frmPosition& W = Bench.Open();
     for (const Typed_Value& T : {Typed_Value{"360", 0, "000.0", 0},
                                  {"359.9", 359.9F, "359.9", 3599},
-                                 {"359.95", 0, "000.0", 0},
+                                 {"359.92", 0, "000.0", 0},
                                  {"-1", 0, "000.0", 0},
                                  {"7,5", 7.5F, "007.5", 75},
                                  {"123.45", 123.4F, "123.4", 1234},

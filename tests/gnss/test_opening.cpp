@@ -138,14 +138,17 @@ TEST(GNSS_Opening, Fills_The_Lists_And_Restores_The_Settings) {
     EXPECT_EQ(W.cmbNoise.Items()[16].Text, " 16 m");
     EXPECT_EQ(W.cmbNoise.Items()[19].Text, "100 m");
     for (const Told_Sentence& T : Told)
-        if (T.Interval != &S::GGA_Interval) EXPECT_EQ((W.*T.List).List_Index(), T.Default_Entry) << T.Type;
+        if (T.Interval != &S::GGA_Interval) {
+            EXPECT_EQ((W.*T.List).List_Index(), T.Default_Entry) << T.Type;
+        }
     EXPECT_TRUE(W.chkFixOffset.Visible);
     EXPECT_FALSE(Bench.Open(1).chkFixOffset.Visible);
     EXPECT_FALSE(W.cmdPause.Enabled);
     EXPECT_EQ(W.Height, 9330);
     for (const Control* C : W.Controls)
-        if (C->Kind != Control_Kind::Timer)
+        if (C->Kind != Control_Kind::Timer) {
             EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
+        }
 }
 
 TEST(GNSS_Opening, Width_Reaches_To_The_Last_Enabled_Data_Frame) {
@@ -196,7 +199,8 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
         for (const Told_Sentence& T : Told) (State.*T.Interval)[1] = Garbage;
         State.GNSS_Decimals_Position[1] = State.GNSS_Decimals_Time[1] = Garbage;
         State.GNSS_Noise_Index[1] = static_cast<std::int16_t>(Garbage == 10 ? 20 : Garbage);
-        State.Sensor_Table[1].Port = Garbage;
+        const std::int16_t No_Such_Port = Garbage == 10 ? std::int16_t{100} : Garbage;
+        State.Sensor_Table[1].Port = No_Such_Port;
         State.GNSS_Noise_Enabled[1] = true;
         State.GNSS_Talker[1] = "much too long";
         State.GNSS_Start_Lat[1] = std::numeric_limits<double>::quiet_NaN();
@@ -217,7 +221,7 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
         EXPECT_EQ(State.GNSS_Decimals_Time[1], 0);
         EXPECT_EQ(State.GNSS_Noise_Max[1], 0);
         EXPECT_EQ(W.cmbComPort.List_Index(), -1);
-        EXPECT_EQ(State.Sensor_Table[1].Port, Garbage)
+        EXPECT_EQ(State.Sensor_Table[1].Port, No_Such_Port)
             << "a port that is not in use stays until another is picked";
         Bench.Click(W.cmdStart);
         for (const int Key : {key::Left, key::Right, key::Up, key::Down}) {

@@ -135,6 +135,12 @@ TEST(Local_Line_Server_, The_socket_file_is_the_users_own_and_only_a_dead_one_is
         EXPECT_TRUE(std::filesystem::exists(Path)) << "the refused one must not remove it";
     }
     EXPECT_FALSE(std::filesystem::exists(Path));
+    {
+        const Local_Line_Server Server(Path);
+        std::filesystem::remove(Path);
+        std::ofstream(Path) << "by somebody else";
+    }
+    EXPECT_TRUE(std::filesystem::exists(Path)) << "only its own file is removed";
 
     std::ofstream(Path) << "a document";
     EXPECT_EQ(Error_Of([&] { Local_Line_Server Server(Path); }), Path + " exists and is not a socket");

@@ -151,7 +151,14 @@ TEST(Serial_Line, A_handler_may_close_and_reopen_or_destroy_its_port) {
     EXPECT_TRUE(Run_Until([&] { return Calls == 1; }));
     At.Write("second");
     EXPECT_TRUE(Run_Until([&] { return At.Port.Input() == "second"; }));
-    At.Port.Close();
+    // Closed at the first of two events of one reading: the second does not come.
+    At.Port.On_Comm = [&](Comm_Event Event) {
+        At.Events.push_back(Event);
+        if (Event == Comm_Event::Receive_Overflow) At.Port.Close();
+    };
+    At.Write(std::string(1500, 'x'));
+    EXPECT_TRUE(Run_Until([&] { return !At.Port.Is_Open(); }));
+    EXPECT_EQ(At.Events.back(), Comm_Event::Receive_Overflow);
 
     auto Short_Lived = std::make_unique<Termios_Serial_Port>("COM 6", [&] { return At.Path; });
     Short_Lived->On_Comm = [&](Comm_Event) { Short_Lived.reset(); };

@@ -73,7 +73,7 @@ TEST(Machine_Clock_, Local_time_is_the_systems_and_a_spin_lasts_longer_than_aske
 TEST(Wake_Up_, Timers_keep_their_rates_and_a_stopped_one_is_silent) {
     Machine_Clock Clock;
     Timer_Queue Queue(Clock);
-    Timer_Queue::Entry Fast, Slow, Early;
+    Timer_Queue::Entry Fast, Slow, Early, Far_Off;
     const Wake_Up Waker(Queue);
     int Fast_Ticks = 0, Slow_Ticks = 0, Early_Ticks = 0;
     Fast.Tick = [&] { ++Fast_Ticks; };
@@ -82,8 +82,9 @@ TEST(Wake_Up_, Timers_keep_their_rates_and_a_stopped_one_is_silent) {
     };
     Early.Tick = [&] { ++Early_Ticks; };
     const std::int64_t Start_us = Clock.Wide_us();
-    Queue.Start(Slow, 60'000);
-    Queue.Start(Fast, 10'000); // an earlier due time than the one that is armed
+    Queue.Start(Far_Off, 3600 * us_Per_Second);
+    Queue.Start(Slow, 60'000); // an earlier due time than the one that is armed
+    Queue.Start(Fast, 10'000);
     Queue.Start(Early, 50'000);
     ASSERT_TRUE(Run_Until([&] { return Slow_Ticks == 5; }));
     const std::int64_t Passed_us = Clock.Wide_us() - Start_us;
@@ -95,6 +96,7 @@ TEST(Wake_Up_, Timers_keep_their_rates_and_a_stopped_one_is_silent) {
     EXPECT_GE(Early_Ticks, 1);
     Queue.Stop(Fast);
     Queue.Stop(Slow);
+    Queue.Stop(Far_Off);
     Fast_Ticks = 0;
     Run_For(30);
     EXPECT_EQ(Fast_Ticks, 0);

@@ -1,0 +1,130 @@
+#include "tests/support/virtual_simulator.hpp"
+
+namespace brinewright {
+namespace {
+
+TEST(Serial_Ports, Are_Brought_To_The_State_Of_The_Table) {
+    Virtual_Simulator V;
+    Simulator_State& S = V.Sim.State;
+    S.Port_Table[1] = {true, true, 4800, 8, "none", 1};
+    S.Port_Table[2] = {true, true, 38400, 7, "even", 2};
+    S.Port_Table[3] = {true, true, 115200, 8, "odd", 1};
+    S.Port_Table[4] = {true, false, 4800, 8, "none", 1};
+    S.Port_Table[16] = {false, true, 4800, 8, "none", 1};
+    for (int Slot = 1; Slot <= 11; ++Slot) S.Sensor_Table[Slot].Port = 3;
+    V.Init(4);
+    EXPECT_EQ(V.World.Log,
+              (Texts{"COM 1 open 4800,n,8,1", "COM 2 open 38400,e,7,2", "COM 3 open 115200,o,8,1"}));
+    EXPECT_EQ(S.Comport_Count, 4);
+    EXPECT_TRUE(S.Ports_Initialised);
+    auto& Panels = V.Sim.Main->sbStatusBar;
+    EXPECT_EQ(*Panels[1].Caption, "COM 1");
+    for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port <= 3) << Port;
+
+    // Again: open ports are closed first. A port that is not used any more loses its panel and its sensors, but for
+    // slots 9 to 11; those of other ports stay.
+    S.Port_Table[3].Enabled = false;
+    S.Port_Table[1].Present = false;
+    S.Sensor_Table[2].Port = 2;
+    V.World.Log.clear();
+    V.Init(4);
+    EXPECT_EQ(V.World.Log, (Texts{"COM 1 close", "COM 2 close", "COM 2 open 38400,e,7,2", "COM 3 close"}));
+    for (int Slot = 1; Slot <= 11; ++Slot) EXPECT_EQ(S.Sensor_Table[Slot].Port, Slot == 2 ? 2 : Slot <= 8 ? 0 : 3);
+    for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port == 2) << Port;
+
+    S.Port_Table[2].Enabled = false;
+    V.Init(0);
+    EXPECT_EQ(S.Comport_Count, 0);
+    EXPECT_EQ(*Panels[1].Caption, "No comports enabled");
+    for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port == 1) << Port;
+    EXPECT_TRUE(V.Told.empty());
+}
+
+TEST(Serial_Ports, One_That_Does_Not_Open_Is_Told_And_The_Others_Open) {
+    Virtual_Simulator V;
+    V.World.Failures["COM 2 open"] = "Device unavailable";
+    V.Use({1, 2, 3});
+    EXPECT_EQ(V.Take_Boxes(),
+              Texts{"Device unavailable. Comport  2 not available! Please re-arrange your COM Setup! (Use Reset buttom "
+                    "on Com Setup)"});
+    EXPECT_TRUE(V.World.Coms[3]->Opened);
+    EXPECT_TRUE(*V.Sim.Main->sbStatusBar[2].Visible); // the panel shows in spite of it
+    V.World.Failures.clear();
+    V.Init();
+    EXPECT_TRUE(V.World.Coms[2]->Opened);
+    EXPECT_TRUE(V.Told.empty());
+}
+
+// The extended monitor on port 3, with another port beside it.
+struct Receiving : testing::Test, Virtual_Simulator {
+    void SetUp() override {
+        Use({3, 4});
+        Sim.State.Extended_Monitor_Port = 3;
+        mnuExtendedMonitor_Click(Sim);
+        Sim.State.Extended_Monitor_Lines = 100;
+    }
+    std::string Pane() { return Sim.Extended_Monitor->txtInput.Text(); }
+    Played_Platform::Serial& Com(int Number) { return *World.Coms[Number]; }
+};
+
+TEST_F(Receiving, Whole_Lines_Of_The_Watched_Port_Show) {
+    Com(3).Arrive("one\r\ntw");
+    EXPECT_EQ(Pane(), "one\r\n");
+    Com(3).Arrive("o\n\nthree\nfo");
+    EXPECT_EQ(Pane(), "one\r\ntwo\n\nthree\n");
+    EXPECT_EQ(Sim.State.Transmit.Extended_Rx_Line_Count, 4);
+    Com(4).Arrive("unseen\n");
+    EXPECT_EQ(Com(4).Received, "unseen\n"); // it stays in the port
+    EXPECT_EQ(Sim.State.Transmit.Extended_Rx_Line_Count, 4);
+
+    // Frozen, lines are taken and lost. The buffer is one for all ports.
+    Click(Sim.Extended_Monitor->cmdFreeze);
+    Com(3).Arrive("ur\nfi");
+    Click(Sim.Extended_Monitor->cmdFreeze);
+    Sim.Extended_Monitor->cmbComPort.Set_List_Index(1);
+    Com(4).Arrive("x\n");
+    EXPECT_EQ(Pane(), "fiunseen\nx\n");
+
+    Close(*Sim.Extended_Monitor);
+    Com(4).Arrive("later\n");
+    EXPECT_EQ(Com(4).Received, "later\n");
+}
+
+TEST_F(Receiving, Line_Errors_Empty_The_Half_Received_Line_And_Show_Nothing) {
+    for (const int Event : {1001, 1004, 1006, 1008, 1009}) {
+        Com(3).Arrive("half");
+        Com(4).On_Comm(static_cast<Comm_Event>(Event)); // another port's: dropped
+        EXPECT_EQ(Sim.Links.Rx_Buffer, "half");
+        Com(3).On_Comm(static_cast<Comm_Event>(Event));
+        EXPECT_EQ(Sim.Links.Rx_Buffer, "");
+    }
+    Com(3).Arrive("half");
+    Com(3).On_Comm(static_cast<Comm_Event>(3)); // any other event does nothing
+    EXPECT_EQ(Sim.Links.Rx_Buffer, "half");
+    EXPECT_EQ(Pane(), "");
+    EXPECT_TRUE(Told.empty());
+    for (int I = 0; I < 100; ++I) Com(3).Arrive(std::string(1000, 'x')); // a line that never ends
+    EXPECT_LT(Sim.Links.Rx_Buffer.size(), 70000u);
+}
+
+TEST_F(Receiving, A_Failure_Is_Told_And_The_Port_Opened_Anew) {
+    World.Log.clear();
+    World.Failures["COM 3 input"] = "Input/output error";
+    Com(3).Arrive("x\n");
+    ASSERT_EQ(Told.size(), 1u);
+    EXPECT_EQ(Told[0].Text, "Input/output error");
+    EXPECT_EQ(Told[0].Title, "ERROR - A Communication error has occured on COM-port, port is reset");
+    EXPECT_EQ(World.Log, (Texts{"COM 3 close", "COM 3 open 4800,n,8,1"}));
+    Take_Boxes();
+
+    World.Failures["COM 3 open"] = "Device unavailable"; // the reset fails in its turn
+    Com(3).Arrive("x\n");
+    EXPECT_EQ(Take_Boxes(), (Texts{"Input/output error", "Device unavailable"}));
+    World.Log.clear();
+    Com(3).Arrive("x\n"); // closed now: not opened by a failure
+    EXPECT_EQ(Take_Boxes(), Texts{"Input/output error"});
+    EXPECT_TRUE(World.Log.empty());
+}
+
+} // namespace
+} // namespace brinewright

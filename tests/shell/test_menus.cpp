@@ -1,0 +1,254 @@
+#include "tests/support/virtual_simulator.hpp"
+
+namespace brinewright {
+namespace {
+
+constexpr const char* Saved_Box = "Setup saved as /data/Brinewright.ini";
+
+// Started in Sensor mode on a setup without windows.
+struct Menus : testing::Test, Virtual_Simulator {
+    void SetUp() override {
+        Load_Default_Data(Setup);
+        Setup.Mode = "Sensor";
+        Setup.Comport_Count = 1;
+        Start(Setup);
+    }
+    frmMain& Main() { return *Sim.Main; }
+    Simulator_State Setup;
+};
+
+TEST_F(Menus, Items_With_Their_Captions) {
+    struct Item {
+        std::string Path, Menu, Caption;
+        bool operator==(const Item&) const = default;
+    };
+    const std::vector<Item> Expected{
+        {"mnuFileOpen", "File", "&Open"},
+        {"mnuFileSave", "File", "&Save"},
+        {"mnuFileSaveAs", "File", "Save &As"},
+        {"mnuFileExit", "File", "E&xit"},
+        {"mnuMode(1)", "Mode", "&Ship simulator"},
+        {"mnuMode(2)", "Mode", "S&ensor"},
+        {"mnuSetupStartOption", "Setup", "Start with navdata from last session"},
+        {"mnuSetupLatLonFormat", "Setup", "Lat/Lon format"},
+        {"mnuOpenForm(1)", "Window", "GNSS 1"},
+        {"mnuOpenForm(2)", "Window", "GNSS 2"},
+        {"mnuMonitor", "Window", "Comport monitor"},
+        {"mnuExtendedMonitor", "Window", "Extended Comport monitor"},
+        {"mnuOptionIEC450", "Options", "IEC 61162-450 enabled"},
+        {"mnuOptionsChecksumDisabled", "Options", "Checksum disabled"},
+        {"mnuOptionsFaultyChecksum", "Options", "Simulate faulty checksum"},
+        {"mnuOptionsCrLfDisabled", "Options", "Simulate merged msgs (No CarriageReturn/LineFeed)"},
+        {"mnuOptionCuttedMsg", "Options", "Simulate cutted messages"},
+        {"mnuOptionSplittedMsg", "Options", "Simulate splitted messages"},
+        {"mnuHelpContents", "Help", "&Contents"},
+        {"mnuHelpSearch", "Help", "&Search For Help On..."}};
+    std::vector<Item> Found;
+    for (const Control* C : Main().Controls)
+        if (const auto* I = dynamic_cast<const Menu_Item*>(C)) Found.push_back({I->Path(), I->Menu, *I->Caption});
+    // Every one of them stands in this order; items of later windows may stand between.
+    auto Place = Found.begin();
+    for (const Item& E : Expected) {
+        Place = std::find(Place, Found.end(), E);
+        ASSERT_NE(Place, Found.end()) << E.Path;
+    }
+    for (const char* Help : {"mnuHelpContents", "mnuHelpSearch"}) {
+        Click(*Main().Find(Help));
+        EXPECT_EQ(Take_Boxes(),
+                  Texts{"Unable to display Help Contents. There is no Help associated with this project."});
+    }
+}
+
+TEST_F(Menus, Fault_Options_And_The_Start_Option_Tell_What_They_Do) {
+    const struct {
+        Menu_Item& Item;
+        const char *On, *Off;
+    } Options[] = {
+        {Main().mnuOptionsChecksumDisabled, "Checksum disabled. All simulated NMEA messages will be without checksum",
+         "Checksum enabled again. All simulated NMEA messages will be with checksum"},
+        {Main().mnuOptionsFaultyChecksum,
+         "Faulty checksum enabled. All simulated NMEA messages will be simulated with faulty checksum", nullptr},
+        {Main().mnuOptionsCrLfDisabled,
+         "Merged messages will be simulated. All simulated NMEA messages will be without Carriage return/Line Feed",
+         nullptr},
+        {Main().mnuOptionCuttedMsg,
+         "Cutted messages will be simulated. All simulated NMEA messages will be cutted at a random character", nullptr},
+        {Main().mnuOptionSplittedMsg,
+         "Splitted messages will be simulated. All simulated NMEA messages will be cutted at a random character and "
+         "remaining characters will start next message",
+         nullptr},
+        {Main().mnuSetupStartOption, "At restart the program will start with pos, speed, course etc. from last session",
+         nullptr}};
+    for (const auto& O : Options) {
+        EXPECT_FALSE(*O.Item.Checked);
+        Click(O.Item);
+        EXPECT_TRUE(*O.Item.Checked);
+        EXPECT_EQ(Take_Boxes(), Texts{O.On});
+        if (&O.Item == &Main().mnuSetupStartOption) { EXPECT_TRUE(Sim.State.Start_With_Last_Navdata); }
+        Click(O.Item);
+        EXPECT_FALSE(*O.Item.Checked);
+        EXPECT_EQ(Take_Boxes(), O.Off ? Texts{O.Off} : Texts{});
+    }
+    EXPECT_FALSE(Sim.State.Start_With_Last_Navdata);
+}
+
+TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
+    Open_Form(2);
+    Open_Form(1);
+    mnuMonitor_Click(Sim);
+    const std::weak_ptr<Form> Old = Sim.frmPosition_Instance[1];
+    EXPECT_FALSE(*Sim.frmPosition_Instance[1]->lblShipControl.Visible);
+    Click(Main().mnuMode_Sensor); // checked already: nothing at all
+    EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+    EXPECT_EQ(Old.lock(), Sim.frmPosition_Instance[1]);
+
+    Sim.frmPosition_Instance[1]->Set_Place(11, 12, 13, 14);
+    Click(Main().mnuMode_Ship);
+    EXPECT_EQ(Sim.State.Mode, "Ship");
+    EXPECT_TRUE(*Main().mnuMode_Ship.Checked);
+    EXPECT_FALSE(*Main().mnuMode_Sensor.Checked);
+    EXPECT_TRUE(Old.expired());
+    for (const int I : {1, 2}) {
+        ASSERT_TRUE(Sim.frmPosition_Instance[I]);
+        EXPECT_TRUE(*Main().mnuOpenForm(I)->Checked);
+        EXPECT_TRUE(*Sim.frmPosition_Instance[I]->lblShipControl.Visible);
+    }
+    EXPECT_EQ(Sim.frmPosition_Instance[1]->Left, 11);
+    EXPECT_EQ(Sim.Windows.Active_Form, Sim.frmPosition_Instance[2].get());
+    EXPECT_EQ(Sim.State.Open_Form_Count, 2); // their unloads have added them
+    EXPECT_TRUE(Sim.Monitor);
+
+    // With the list full the failure is told, and the windows are there all the same.
+    Sim.State.Open_Form_Count = 20;
+    Hold_Boxes = true;
+    Click(Main().mnuMode_Sensor);
+    EXPECT_EQ(Take_Boxes(), Texts{"Subscript out of range"});
+    EXPECT_EQ(Sim.State.Mode, "Sensor");
+    for (const int I : {1, 2}) {
+        ASSERT_TRUE(Sim.frmPosition_Instance[I]);
+        EXPECT_FALSE(*Sim.frmPosition_Instance[I]->lblShipControl.Visible);
+    }
+}
+
+TEST_F(Menus, A_Second_Choice_Of_A_Window_Gives_It_The_Focus) {
+    Open_Form(1);
+    Open_Form(2);
+    Click(*Main().mnuOpenForm(1));
+    EXPECT_EQ(Sim.Windows.Active_Form, Sim.frmPosition_Instance[1].get());
+    EXPECT_EQ(Sim.State.Open_Form_Index, 1);
+    EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
+    Open_Form(0); // a setup can name any window
+    Open_Form(12);
+    EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
+    EXPECT_TRUE(Told.empty());
+}
+
+TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
+    Open_Form(1);
+    Open_Form(2);
+    for (int Save = 1; Save <= 10; ++Save) {
+        Click(Main().mnuFileSave);
+        EXPECT_EQ(Take_Boxes(), Texts{Saved_Box});
+        EXPECT_EQ(Saved().Open_Form_Count, 2 * Save);
+        EXPECT_EQ(Sim.State.Open_Form_Count, 2 * Save);
+    }
+    const std::string Before = Disk.Content.at(Setup_Name);
+    Click(Main().mnuFileSave);
+    EXPECT_EQ(Take_Boxes(), Texts{"Subscript out of range"});
+    EXPECT_EQ(Disk.Content.at(Setup_Name), Before);
+    EXPECT_TRUE(Sim.frmPosition_Instance[1]);
+}
+
+TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
+    Open_Form(2);
+    for (int Save = 1; Save <= 2; ++Save) {
+        Click(Main().mnuFileSaveAs);
+        ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
+        const File_Dialog& Dialog = Sim.Windows.File_Dialogs[0];
+        EXPECT_TRUE(Dialog.Save);
+        EXPECT_EQ(Dialog.Title, "Save Setup As");
+        EXPECT_EQ(Dialog.Filter, "Brinewright setup files (*.ini)|*.ini");
+        EXPECT_EQ(Dialog.Default_Extension, ".ini");
+        EXPECT_EQ(Dialog.Folder, "/data/");
+        Answer_File("/tmp/mine.ini");
+        EXPECT_EQ(Take_Boxes(), Texts{"Setup saved as /tmp/mine.ini"});
+        EXPECT_EQ(Saved("/tmp/mine.ini").Open_Form_Count, 1);
+        EXPECT_EQ(Saved("/tmp/mine.ini").Open_Form_List[1].Index, 2);
+        EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+    }
+    Click(Main().mnuFileSaveAs);
+    Answer_File("");
+    EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+    EXPECT_TRUE(Told.empty());
+
+    Disk.Refuse_Writing = true;
+    Click(Main().mnuFileSaveAs);
+    Answer_File("/tmp/mine.ini");
+    Click(Main().mnuFileSave);
+    EXPECT_EQ(Take_Boxes(), (Texts{"Disk full", "Disk full"}));
+}
+
+TEST_F(Menus, Open_Replaces_The_Session) {
+    Use({3, 10, 11, 17, 18});
+    Open_Form(1);
+    World.Log.clear();
+    Click(Main().mnuFileOpen);
+    ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
+    EXPECT_FALSE(Sim.Windows.File_Dialogs[0].Save);
+    EXPECT_EQ(Sim.Windows.File_Dialogs[0].Title, "Open Setup File");
+    EXPECT_EQ(Sim.Windows.File_Dialogs[0].Filter, "Brinewright setup files (*.ini)|*.ini");
+    EXPECT_EQ(Sim.Windows.File_Dialogs[0].Default_Extension, ".ini");
+    EXPECT_EQ(Sim.Windows.File_Dialogs[0].Folder, "/data/");
+    Answer_File("");
+    EXPECT_TRUE(Sim.frmPosition_Instance[1]);
+
+    // A file that is not there changes nothing but the check of the start option.
+    Sim.State.Start_With_Last_Navdata = true;
+    Click(Main().mnuFileOpen);
+    Answer_File("/tmp/none.ini");
+    EXPECT_EQ(Take_Boxes(), Texts{"File /tmp/none.ini do not exist."});
+    EXPECT_TRUE(*Main().mnuSetupStartOption.Checked);
+    EXPECT_TRUE(Sim.frmPosition_Instance[1]);
+    EXPECT_TRUE(World.Log.empty());
+
+    // Ports 1 to 10 are closed; without ports in the new setup the others stay as they are.
+    Simulator_State Other = Setup;
+    Other.Mode = "Ship";
+    Other.Comport_Count = 0;
+    Other.Sensor_Table[1].Name = "As in the file";
+    Other.Open_Form_List[++Other.Open_Form_Count] = {"frmPosition", 2, 210, 220, 5230, 7240};
+    Other.Open_Form_List[++Other.Open_Form_Count] = {"frmShip", 0, 1, 2, 3, 4};
+    Disk.Content["/tmp/other.ini"] = Write_Setup(Other);
+    const auto Before_us = Now_us();
+    Click(Main().mnuFileOpen);
+    Answer_File("/tmp/other.ini");
+    EXPECT_EQ(Now_us(), Before_us); // no waits here
+    EXPECT_EQ(World.Log, (Texts{"COM 3 close", "COM 10 close"}));
+    EXPECT_FALSE(Sim.frmPosition_Instance[1]);
+    ASSERT_TRUE(Sim.frmPosition_Instance[2]);
+    EXPECT_EQ(Sim.frmPosition_Instance[2]->Top, 210);
+    EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+    EXPECT_EQ(Sim.State.Mode, "Ship");
+    EXPECT_TRUE(*Main().mnuMode_Ship.Checked);
+    EXPECT_FALSE(*Main().mnuMode_Sensor.Checked);
+    EXPECT_EQ(Sim.State.Sensor_Table[1].Name, "As in the file");
+
+    // With ports they are brought to the new state; port 11 is not used any more and is let go.
+    Other.Comport_Count = 2;
+    Set_Up_Link(Other, 10);
+    Disk.Content["/tmp/other.ini"] = Write_Setup(Other);
+    World.Log.clear();
+    Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
+    EXPECT_EQ(World.Log, (Texts{"COM 10 open 4800,n,8,1", "COM 11 close", "listen close"}));
+
+    // One that cannot be read: told, and the defaults.
+    Disk.Content["/tmp/other.ini"] = "\"REM UTCOffset\"\r\n99999\r\n";
+    Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
+    EXPECT_EQ(Take_Boxes(), Texts{"Overflow  Default data loaded"});
+    EXPECT_EQ(Sim.State.Mode, "Ship");
+    Stop();
+    EXPECT_EQ(Saved().TCP_Port, 8040);
+}
+
+} // namespace
+} // namespace brinewright
