@@ -1,6 +1,7 @@
-# A library of this tree: every source of its folder, warnings on, headers found from the root.
-function(brinewright_library Name Folder)
-  file(GLOB Sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${Folder}/*.cpp)
+# A library of this tree: every source of its folders, warnings on, headers found from the root.
+function(brinewright_library Name Folders)
+  list(TRANSFORM Folders REPLACE "(.+)" "${CMAKE_SOURCE_DIR}/\\1/*.cpp" OUTPUT_VARIABLE Patterns)
+  file(GLOB Sources CONFIGURE_DEPENDS ${Patterns})
   add_library(${Name} STATIC ${Sources})
   target_link_libraries(${Name} PUBLIC brinewright_options ${ARGN})
 endfunction()

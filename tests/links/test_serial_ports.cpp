@@ -21,15 +21,16 @@ TEST(Serial_Ports, Are_Brought_To_The_State_Of_The_Table) {
     EXPECT_EQ(*Panels[1].Caption, "COM 1");
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port <= 3) << Port;
 
-    // Again: open ports are closed first. A port that is not used any more loses its panel and its sensors, but for
-    // slots 9 to 11; those of other ports stay.
+    // Again: open ports are closed first. A port that is not used any more loses its panel and its sensors,
+    // but for slots 9 to 11; those of other ports stay.
     S.Port_Table[3].Enabled = false;
     S.Port_Table[1].Present = false;
     S.Sensor_Table[2].Port = 2;
     V.World.Log.clear();
     V.Init(4);
     EXPECT_EQ(V.World.Log, (Texts{"COM 1 close", "COM 2 close", "COM 2 open 38400,e,7,2", "COM 3 close"}));
-    for (int Slot = 1; Slot <= 11; ++Slot) EXPECT_EQ(S.Sensor_Table[Slot].Port, Slot == 2 ? 2 : Slot <= 8 ? 0 : 3);
+    for (int Slot = 1; Slot <= 11; ++Slot)
+        EXPECT_EQ(S.Sensor_Table[Slot].Port, Slot == 2 ? 2 : Slot <= 8 ? 0 : 3);
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port == 2) << Port;
 
     S.Port_Table[2].Enabled = false;
@@ -44,9 +45,9 @@ TEST(Serial_Ports, One_That_Does_Not_Open_Is_Told_And_The_Others_Open) {
     Virtual_Simulator V;
     V.World.Failures["COM 2 open"] = "Device unavailable";
     V.Use({1, 2, 3});
-    EXPECT_EQ(V.Take_Boxes(),
-              Texts{"Device unavailable. Comport  2 not available! Please re-arrange your COM Setup! (Use Reset buttom "
-                    "on Com Setup)"});
+    EXPECT_EQ(V.Take_Boxes(), Texts{"Device unavailable. Comport  2 not available! Please re-arrange your "
+                                    "COM Setup! (Use Reset buttom "
+                                    "on Com Setup)"});
     EXPECT_TRUE(V.World.Coms[3]->Opened);
     EXPECT_TRUE(*V.Sim.Main->sbStatusBar[2].Visible); // the panel shows in spite of it
     V.World.Failures.clear();

@@ -56,6 +56,16 @@ TEST_F(Timers_In_Virtual_Time, A_late_tick_is_not_made_up_for_and_the_phase_is_k
     EXPECT_LE(Queue.Own_Lateness.Largest_us, 1); // all of the delay was a wait that was asked for
 }
 
+// Late in the day the staggers of a start with many sentences are hundreds of small waits.
+TEST_F(Timers_In_Virtual_Time, The_own_lateness_behind_hundreds_of_waits_has_none_of_them) {
+    auto A = Named("A");
+    Queue.Start(A, 100'000);
+    for (int I = 0; I < 500; ++I) Queue.Spin_us(1000);
+    Run_To_ms(501);
+    EXPECT_GE(Queue.Lateness.Largest_us, 400'000);
+    EXPECT_EQ(Queue.Own_Lateness.Largest_us, 0);
+}
+
 TEST_F(Timers_In_Virtual_Time, Setting_the_interval_inside_the_tick_restarts_the_phase) {
     Timer_Queue::Entry A;
     A.Tick = [&] {

@@ -45,7 +45,8 @@ TEST_F(Menus, Items_With_Their_Captions) {
         {"mnuHelpSearch", "Help", "&Search For Help On..."}};
     std::vector<Item> Found;
     for (const Control* C : Main().Controls)
-        if (const auto* I = dynamic_cast<const Menu_Item*>(C)) Found.push_back({I->Path(), I->Menu, *I->Caption});
+        if (const auto* I = dynamic_cast<const Menu_Item*>(C))
+            Found.push_back({I->Path(), I->Menu, *I->Caption});
     // Every one of them stands in this order; items of later windows may stand between.
     auto Place = Found.begin();
     for (const Item& E : Expected) {
@@ -64,27 +65,35 @@ TEST_F(Menus, Fault_Options_And_The_Start_Option_Tell_What_They_Do) {
         Menu_Item& Item;
         const char *On, *Off;
     } Options[] = {
-        {Main().mnuOptionsChecksumDisabled, "Checksum disabled. All simulated NMEA messages will be without checksum",
+        {Main().mnuOptionsChecksumDisabled,
+         "Checksum disabled. All simulated NMEA messages will be without checksum",
          "Checksum enabled again. All simulated NMEA messages will be with checksum"},
         {Main().mnuOptionsFaultyChecksum,
-         "Faulty checksum enabled. All simulated NMEA messages will be simulated with faulty checksum", nullptr},
+         "Faulty checksum enabled. All simulated NMEA messages will be simulated with faulty checksum",
+         nullptr},
         {Main().mnuOptionsCrLfDisabled,
-         "Merged messages will be simulated. All simulated NMEA messages will be without Carriage return/Line Feed",
+         "Merged messages will be simulated. All simulated NMEA messages will be without Carriage "
+         "return/Line Feed",
          nullptr},
         {Main().mnuOptionCuttedMsg,
-         "Cutted messages will be simulated. All simulated NMEA messages will be cutted at a random character", nullptr},
+         "Cutted messages will be simulated. All simulated NMEA messages will be cutted at a random "
+         "character",
+         nullptr},
         {Main().mnuOptionSplittedMsg,
-         "Splitted messages will be simulated. All simulated NMEA messages will be cutted at a random character and "
+         "Splitted messages will be simulated. All simulated NMEA messages will be cutted at a random "
+         "character and "
          "remaining characters will start next message",
          nullptr},
-        {Main().mnuSetupStartOption, "At restart the program will start with pos, speed, course etc. from last session",
-         nullptr}};
+        {Main().mnuSetupStartOption,
+         "At restart the program will start with pos, speed, course etc. from last session", nullptr}};
     for (const auto& O : Options) {
         EXPECT_FALSE(*O.Item.Checked);
         Click(O.Item);
         EXPECT_TRUE(*O.Item.Checked);
         EXPECT_EQ(Take_Boxes(), Texts{O.On});
-        if (&O.Item == &Main().mnuSetupStartOption) { EXPECT_TRUE(Sim.State.Start_With_Last_Navdata); }
+        if (&O.Item == &Main().mnuSetupStartOption) {
+            EXPECT_TRUE(Sim.State.Start_With_Last_Navdata);
+        }
         Click(O.Item);
         EXPECT_FALSE(*O.Item.Checked);
         EXPECT_EQ(Take_Boxes(), O.Off ? Texts{O.Off} : Texts{});

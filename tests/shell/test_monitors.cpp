@@ -29,7 +29,9 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
         EXPECT_EQ(*F.cmdClear[Port].Visible, Shown) << Port;
         EXPECT_EQ(*F.cmdFreeze[Port].Caption, "Freeze");
         EXPECT_EQ(*F.cmdClear[Port].Caption, "Clear");
-        if (Shown) { EXPECT_EQ(*F.lblComport[Port].Caption, Names.at(Port)); }
+        if (Shown) {
+            EXPECT_EQ(*F.lblComport[Port].Caption, Names.at(Port));
+        }
     }
 
     // A second choice gives it the focus; closing clears the check.
@@ -95,7 +97,7 @@ TEST(Monitor, The_NUL_Of_The_Header_Becomes_A_Blank) {
     EXPECT_EQ(Shown(Framed), Framed + "\r\n");
     V.Sim.State.IEC450_Enabled = true;
     EXPECT_EQ(Shown(Framed), "UdPbC \\s:A*11\\$M\r\n");
-    EXPECT_EQ(Shown("UdP"), "UdP\r\n"); // five characters have no sixth
+    EXPECT_EQ(Shown("UdP"), "UdP\r\n");       // five characters have no sixth
     EXPECT_EQ(Shown("$GPGGA"), "$GPGG \r\n"); // whatever it is
     V.Sim.State.UdPbC_Header_Enabled = false;
     EXPECT_EQ(Shown(Framed), Framed + "\r\n");
@@ -163,9 +165,10 @@ TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
     V.Sim.State.Extended_Monitor_Port = 18;
     V.Click(V.Sim.Main->mnuExtendedMonitor);
     frmExtendedMonitor& F = *V.Sim.Extended_Monitor;
-    // A pane of 200 holds none, and every 200 more one; halves go to the even number. Beside the two panes the
-    // window holds 1500.
-    for (const auto& [Pane, Lines] : {std::pair(0, -1), {200, 0}, {500, 2}, {700, 2}, {900, 4}, {1040, 4}, {2000, 9}}) {
+    // A pane of 200 holds none, and every 200 more one; halves go to the even number. Beside the two panes
+    // the window holds 1500.
+    for (const auto& [Pane, Lines] :
+         {std::pair(0, -1), {200, 0}, {500, 2}, {700, 2}, {900, 4}, {1040, 4}, {2000, 9}}) {
         F.Resize(9000, static_cast<float>(1500 + 2 * Pane));
         EXPECT_EQ(V.Sim.State.Extended_Monitor_Lines, Lines) << Pane;
     }

@@ -80,7 +80,8 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
 
     V.Click(V.Sim.Main->mnuOptionCuttedMsg);
     for (int I = 0; I < 40; ++I)
-        EXPECT_EQ(V.Send(Sentence, 18), Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size())) + "\r\n");
+        EXPECT_EQ(V.Send(Sentence, 18),
+                  Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size())) + "\r\n");
     EXPECT_EQ(V.Send("X", 18), "\r\n"); // any draw cuts it to nothing
     Same_Draws.Draw();
 
@@ -117,8 +118,8 @@ TEST(Send_NMEA, Pacing_Is_A_Fresh_Wait_From_The_Moment_Of_Noticing) {
         double Time_Of_Day;
         std::vector<Step> Steps; // the pause before each sentence
     };
-    // From 18:12:16 on the 32-bit time of day moves in steps of 1/128 s: 3 ms later may still be the same moment.
-    // At midnight it falls to zero, and a last time of zero counts as never.
+    // From 18:12:16 on the 32-bit time of day moves in steps of 1/128 s: 3 ms later may still be the same
+    // moment. At midnight it falls to zero, and a last time of zero counts as never.
     const Case Cases[] = {{1, {{0, false}, {0, true}, {1000, true}, {1999, true}, {2100, false}, {0, true}}},
                           {82800, {{0, false}, {3000, true}, {0, true}, {8000, false}, {3000, true}}},
                           {86399.9985, {{0, false}, {2500, true}, {0, true}, {3000, false}}},
@@ -136,8 +137,7 @@ TEST(Send_NMEA, Pacing_Is_A_Fresh_Wait_From_The_Moment_Of_Noticing) {
                 EXPECT_TRUE(Waited_us > 2000 && Waited_us < 2100) << Waited_us << " at " << C.Time_Of_Day;
             else
                 EXPECT_EQ(Waited_us, 0) << C.Time_Of_Day << " after " << S.Pause_us;
-            EXPECT_EQ(V.Sim.State.Transmit.Last_Send_Time,
-                      Time_Of_Day_s(V.World.Machine_Clock.Local_us()));
+            EXPECT_EQ(V.Sim.State.Transmit.Last_Send_Time, Time_Of_Day_s(V.World.Machine_Clock.Local_us()));
         }
     }
 }
@@ -157,11 +157,12 @@ TEST(Send_NMEA, Every_Port_Number_Finds_Its_Link_Or_None) {
     EXPECT_TRUE(V.Told.empty());
     for (const auto& Pane : V.Sim.Monitor->txtCom) EXPECT_EQ(Pane->Text(), "");
     for (const int Port : {1, 16, 17, 18, 28}) V.Send("$P" + std::to_string(Port), Port);
-    const std::vector<std::pair<std::string, std::string>> Expected{{"COM 1", "$P1\r\n"},
-                                                                    {"COM 16", "$P16\r\n"},
-                                                                    {"TCP 0", "$P17\r\n"},
-                                                                    {"UDP 255.255.255.255:60001", "$P18\r\n"},
-                                                                    {"UDP 255.255.255.255:60011", "$P28\r\n"}};
+    const std::vector<std::pair<std::string, std::string>> Expected{
+        {"COM 1", "$P1\r\n"},
+        {"COM 16", "$P16\r\n"},
+        {"TCP 0", "$P17\r\n"},
+        {"UDP 255.255.255.255:60001", "$P18\r\n"},
+        {"UDP 255.255.255.255:60011", "$P28\r\n"}};
     EXPECT_EQ(V.World.Sent, Expected);
     EXPECT_EQ(V.Left.size(), 5u);
     for (const int Port : {1, 16, 17, 18, 28}) EXPECT_EQ(V.Sim.Counts.Sent[Port], 1u);
@@ -180,9 +181,9 @@ TEST(Send_NMEA, A_Failing_Serial_Write_Is_Told_Once_Per_Port) {
     V.Send("$A*5A", 4);
     V.Send("$A*5A", 5); // never opened
     V.Send("$A*5A", 5);
-    EXPECT_EQ(V.Take_Boxes(),
-              (Texts{"Comport error COM 3. Check your Comport settings!", "Comport error COM 4. Check your Comport settings!",
-                     "Comport error COM 5. Check your Comport settings!"}));
+    EXPECT_EQ(V.Take_Boxes(), (Texts{"Comport error COM 3. Check your Comport settings!",
+                                     "Comport error COM 4. Check your Comport settings!",
+                                     "Comport error COM 5. Check your Comport settings!"}));
     EXPECT_EQ(V.Sim.Monitor->txtCom[3].Text(), ""); // the monitors are not told
     EXPECT_TRUE(V.Left.empty());
     EXPECT_EQ(V.Sim.Counts.Failed[3], 3u);
@@ -222,7 +223,7 @@ TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {
     const struct {
         double Time_s;
         const char* Text;
-    } Cases[] = {{45296.2, "12:34:56.2"}, {45299.3, "12:34:59.3"},  {45299.75, "12:34:-00.3"},
+    } Cases[] = {{45296.2, "12:34:56.2"}, {45299.3, "12:34:59.3"},   {45299.75, "12:34:-00.3"},
                  {59.5, "00:00:-00.5"},   {59.96875, "00:00:-00.0"}, {86399.75, "23:59:-00.3"},
                  {3605, "01:00:05.0"}};
     for (const auto& C : Cases) {
@@ -232,7 +233,8 @@ TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {
         EXPECT_EQ(*Panel.Caption, std::string("COM 3 : TX ") + C.Text);
     }
 
-    // The label of the server: one client alone needs a second sentence, with two the second client's sending is one.
+    // The label of the server: one client alone needs a second sentence, with two the second client's sending
+    // is one.
     const auto Label = [&] { return *V.Sim.TCPIP->lblTX.Caption; };
     V.Send("$A", 17);
     EXPECT_EQ(Label(), ""); // nobody there

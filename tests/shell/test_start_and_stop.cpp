@@ -10,7 +10,9 @@ Simulator_State Default_Setup(const std::string& Mode = "Sensor") {
     return S;
 }
 
-void Add_Window(Simulator_State& S, const Open_Form_Entry& Entry) { S.Open_Form_List[++S.Open_Form_Count] = Entry; }
+void Add_Window(Simulator_State& S, const Open_Form_Entry& Entry) {
+    S.Open_Form_List[++S.Open_Form_Count] = Entry;
+}
 
 // GNSS 1 and 2 on UDP links, each with a GGA every second.
 Simulator_State Two_Windows() {
@@ -71,7 +73,8 @@ TEST(Start, Saved_Windows_Open_One_After_The_Other_In_Their_Places) {
 TEST(Start, Without_A_Setup_File) {
     Virtual_Simulator V;
     V.Start();
-    EXPECT_EQ(V.Take_Boxes(), Texts{"No setupfile exist. Default data loaded and no comports initialized ! "});
+    EXPECT_EQ(V.Take_Boxes(),
+              Texts{"No setupfile exist. Default data loaded and no comports initialized ! "});
     EXPECT_EQ(V.Sim.State.Mode, "Ship");
     EXPECT_TRUE(*V.Sim.Main->mnuMode_Ship.Checked);
     EXPECT_FALSE(*V.Sim.Main->mnuMode_Sensor.Checked);
@@ -99,8 +102,8 @@ TEST(Start, What_The_Setup_Says_And_What_Is_Repaired) {
     EXPECT_TRUE(*V.Sim.Main->mnuSetupStartOption.Checked);
     EXPECT_TRUE(*V.Sim.Main->mnuOptionIEC450.Checked);
     EXPECT_TRUE(*V.Sim.Main->mnuMode_Sensor.Checked);
-    const char* Names[] = {"GNSS1",       "GNSS2", "Gyro1",      "Gyro2", "Log",
-                           "Echosounder", "ARPA",  "Wind Gauge", "Ninth", "", ""};
+    const char* Names[] = {"GNSS1", "GNSS2",      "Gyro1", "Gyro2", "Log", "Echosounder",
+                           "ARPA",  "Wind Gauge", "Ninth", "",      ""};
     for (int Slot = 1; Slot <= 11; ++Slot) EXPECT_EQ(V.Sim.State.Sensor_Table[Slot].Name, Names[Slot - 1]);
 
     // A file of one section: all else is zero, but for the talkers.
@@ -252,7 +255,8 @@ TEST(Stop, Whatever_Fails_Is_Told_And_The_Program_Ends) {
 }
 
 TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
-    const std::string Broken = "\"REM Mode\"\r\n\"Sensor\"\r\n\"REM TCP/IP settings\"\r\n#TRUE#,maybe,8040\r\n";
+    const std::string Broken =
+        "\"REM Mode\"\r\n\"Sensor\"\r\n\"REM TCP/IP settings\"\r\n#TRUE#,maybe,8040\r\n";
     const std::string Beside = std::string(Setup_Name) + ".recovered.ini";
     {
         Virtual_Simulator V;

@@ -12,8 +12,8 @@
 
 namespace brinewright {
 
-// Virtual time with links whose far end the test plays: it lets clients come and go, data arrive and operations
-// fail. Links are told apart by name: "COM 3", "TCP 0" (clients in the order of their coming),
+// Virtual time with links whose far end the test plays: it lets clients come and go, data arrive and
+// operations fail. Links are told apart by name: "COM 3", "TCP 0" (clients in the order of their coming),
 // "UDP 255.255.255.255:60001".
 class Played_Platform : public Virtual_Platform {
   public:
@@ -54,7 +54,8 @@ class Played_Platform : public Virtual_Platform {
 
     struct Client : TCP_Connection {
         Client(Played_Platform& Its_World, std::string IP)
-            : World(Its_World), Name("TCP " + std::to_string(Its_World.Clients.size())), Its_IP(std::move(IP)) {}
+            : World(Its_World), Name("TCP " + std::to_string(Its_World.Clients.size())),
+              Its_IP(std::move(IP)) {}
         ~Client() override { World.Log.push_back(Name + " gone"); }
         bool Send(std::string_view Text) override {
             if (!Reads) return false;

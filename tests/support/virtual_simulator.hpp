@@ -49,8 +49,8 @@ struct Faulty_Settings : Memory_Settings {
 inline constexpr std::int64_t Day_us = 1'767'225'600 * us_Per_Second; // 2026-01-01 00:00:00
 inline constexpr const char* Setup_Name = "/data/Brinewright.ini";
 
-// A whole simulator in virtual time, from a time of day of 2026-01-01 on. Message boxes are kept in Told and answered
-// at once, unless Hold_Boxes is set.
+// A whole simulator in virtual time, from a time of day of 2026-01-01 on. Message boxes are kept in Told and
+// answered at once, unless Hold_Boxes is set.
 struct Virtual_Simulator {
     explicit Virtual_Simulator(double Time_Of_Day = 36000, Start_Options Options = {})
         : World(Disk, Settings, Day_us + std::llround(Time_Of_Day * 1e6)), Sim(World, With_Folder(Options)) {
