@@ -13,7 +13,9 @@ Automation_Server::Automation_Server(const std::string& Socket_Path, Simulator& 
         const std::string Response = Sessions.at(Id)->Handle_Line(Line);
         if (!Response.empty()) Socket.Send_Line(Id, Response);
     };
-    Socket.On_Overlong = [this](std::int64_t Id) { Socket.Send_Line(Id, Automation_Session::Overlong_Response()); };
+    Socket.On_Overlong = [this](std::int64_t Id) {
+        Socket.Send_Line(Id, Automation_Session::Overlong_Response());
+    };
     Socket.On_Close = [this](std::int64_t Id) { Sessions.erase(Id); };
 }
 

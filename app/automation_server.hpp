@@ -12,7 +12,8 @@ namespace brinewright {
 // Automation over a local socket: one session for each connection.
 class Automation_Server {
   public:
-    Automation_Server(const std::string& Socket_Path, Simulator& Sim, Automation_Hooks Hooks); // throws Run_Time_Error
+    Automation_Server(const std::string& Socket_Path, Simulator& Sim,
+                      Automation_Hooks Hooks); // throws Run_Time_Error
 
   private:
     Simulator& Its_Simulator;

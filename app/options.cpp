@@ -45,7 +45,8 @@ void Declare(CLI::App& App, Program_Options& Chosen, Raw_Options& Raw) {
         ->type_name("FILE");
     App.add_flag("--no-save", Chosen.No_Save, "Leave the setup file as it is at the end");
     App.add_option("--data-folder", Chosen.Data_Folder,
-                   "Folder of the setup and of Routes (default: Tidewerk/Brinewright in the user's data folder); when "
+                   "Folder of the setup and of Routes (default: Tidewerk/Brinewright in the user's data "
+                   "folder); when "
                    "given, the application settings live there too")
         ->type_name("DIR");
     App.add_option("--instance", Raw.Instance, "Which running copy this is: names the setup file (default 1)")
@@ -61,23 +62,27 @@ void Declare(CLI::App& App, Program_Options& Chosen, Raw_Options& Raw) {
     App.add_option("--script", Chosen.Script_File, "Play automation lines at given times")->type_name("FILE");
     App.add_option("--automation", Chosen.Automation_Socket, "Local socket to drive the program by")
         ->type_name("PATH");
-    App.add_flag("--hold-boxes", Chosen.Hold_Boxes,
-                 "Message boxes stand until they are answered by automation (no sentence leaves meanwhile); without "
-                 "it they are printed and answered at once");
-    App.add_option("--seed", Raw.Seed, "Seed of the random draws (default: 0 in virtual time, else another each time)")
+    App.add_flag(
+        "--hold-boxes", Chosen.Hold_Boxes,
+        "Message boxes stand until they are answered by automation (no sentence leaves meanwhile); without "
+        "it they are printed and answered at once");
+    App.add_option("--seed", Raw.Seed,
+                   "Seed of the random draws (default: 0 in virtual time, else another each time)")
         ->type_name("N");
     App.add_option("--duration", Raw.Duration_s, "End after that many seconds")->type_name("S");
-    App.add_flag("--virtual", Chosen.Virtual,
-                 "Run in virtual time, without waiting and without touching a real link; needs --duration, --script "
-                 "or --automation");
-    App.add_option("--start-time", Raw.Start_Time, "Local date and time at which virtual time starts (default: now)")
+    App.add_flag(
+        "--virtual", Chosen.Virtual,
+        "Run in virtual time, without waiting and without touching a real link; needs --duration, --script "
+        "or --automation");
+    App.add_option("--start-time", Raw.Start_Time,
+                   "Local date and time at which virtual time starts (default: now)")
         ->type_name("ISO");
     App.add_flag("--headless", Raw.Headless, "Run without windows (this program always does)");
 }
 
 void Check(const CLI::App& App, Program_Options& Chosen, const Raw_Options& Raw) {
-    for (const std::string& Text : Raw.Com) Chosen.Com_Devices.insert_or_assign(Parse_Com_Option(Text).first,
-                                                                               Parse_Com_Option(Text).second);
+    for (const std::string& Text : Raw.Com)
+        Chosen.Com_Devices.insert_or_assign(Parse_Com_Option(Text).first, Parse_Com_Option(Text).second);
     Chosen.Instance_Number = static_cast<std::int16_t>(Raw.Instance == 1 ? 0 : Raw.Instance);
     if (App.count("--seed") > 0) Chosen.Seed = Raw.Seed;
     if (App.count("--duration") > 0) {
@@ -91,7 +96,8 @@ void Check(const CLI::App& App, Program_Options& Chosen, const Raw_Options& Raw)
             throw Run_Time_Error("--start-time: a time like 2026-01-01T00:00:00, from 1970 on, is wanted");
         if (!Chosen.Virtual) throw Run_Time_Error("--start-time goes with --virtual");
     }
-    if (Chosen.Virtual && !Chosen.Duration_s && Chosen.Script_File.empty() && Chosen.Automation_Socket.empty())
+    if (Chosen.Virtual && !Chosen.Duration_s && Chosen.Script_File.empty() &&
+        Chosen.Automation_Socket.empty())
         throw Run_Time_Error("--virtual needs --duration, --script or --automation");
     for (const char* Named : {"--setup", "--data-folder", "--record", "--script", "--automation"})
         if (App.count(Named) > 0 && App[Named]->as<std::string>().empty())
@@ -108,9 +114,10 @@ std::string First_Line(const std::string& Text) { return Text.substr(0, Text.fin
 
 std::optional<Program_Options> Read_Options(int Argument_Count, char** Arguments, const char* Program_Name,
                                             int& Exit_Status) {
-    CLI::App App{"Simulates the sensors of a ship's bridge: sends their IEC 61162-1 sentences over serial ports, a "
-                 "TCP server and UDP links.",
-                 Program_Name};
+    CLI::App App{
+        "Simulates the sensors of a ship's bridge: sends their IEC 61162-1 sentences over serial ports, a "
+        "TCP server and UDP links.",
+        Program_Name};
     Program_Options Chosen;
     Raw_Options Raw;
     Declare(App, Chosen, Raw);

@@ -10,8 +10,8 @@
 
 namespace brinewright {
 
-// Writes every sentence, as it left, to stdout or to a recording. In real time what is written is there for a reader at
-// once (stdout) or within a second (recording); in virtual time it is written in large pieces.
+// Writes every sentence, as it left, to stdout or to a recording. In real time what is written is there for a
+// reader at once (stdout) or within a second (recording); in virtual time it is written in large pieces.
 class Sentence_Sink {
   public:
     enum class Form { Plain, Record };

@@ -31,7 +31,8 @@ std::string Link_Text(const Simulator& Sim, int Port) {
     if (Port == port_number::TCP) {
         if (!Sim.Links.Listener || !Sim.Links.Listener->Is_Listening())
             return "TCP port " + std::to_string(S.TCP_Port) + ", which could not be opened";
-        return "TCP port " + std::to_string(S.TCP_Port) + "; look with: nc localhost " + std::to_string(S.TCP_Port);
+        return "TCP port " + std::to_string(S.TCP_Port) + "; look with: nc localhost " +
+               std::to_string(S.TCP_Port);
     }
     const std::string Host = S.UDP_Mode == 0 ? "255.255.255.255" : S.UDP_Remote_Host;
     return "UDP " + Host + ":" + std::to_string(S.UDP_Port_Number[Port - port_number::First_UDP]);

@@ -19,7 +19,8 @@ struct Window_Class {
 constexpr std::array Window_Classes{
     Window_Class{"frmMain"},      Window_Class{"frmPosition", 2}, Window_Class{"frmMonitor"},
     Window_Class{"frmTCPIP"},     Window_Class{"frmIEC61162"},    Window_Class{"frmExtendedMonitor"},
-    Window_Class{"frmGeoFormat"},
+    Window_Class{"frmGeoFormat"}, Window_Class{"frmGNSS", 2},     Window_Class{"frmSetup"},
+    Window_Class{"frmProgress"},  Window_Class{"frmComportInfo"}, Window_Class{"frmTraffic"},
 };
 
 constexpr std::string_view State_Prefix = "state.";

@@ -153,6 +153,8 @@ constexpr std::array Control_Properties{
     Control_Property{"Menu", Read<Menu_Item, &Menu_Item::Menu>},
     Control_Property{"Columns", Read_Columns},
     Control_Property{"Rows", Read_Rows},
+    Control_Property{"RowCount", Read<Grid, &Grid::Rows>},
+    Control_Property{"Selected", Read<Grid, &Grid::Selected_Row>, Settable::By_Number, Listed},
     Control_Property{"Focus", Read_Focus},
     Control_Property{"ToolTip", Read<Seen, &Seen::Tool_Tip>},
     Control_Property{"ForeColour", Read<Seen, &Seen::Fore_Colour>},

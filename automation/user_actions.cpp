@@ -74,6 +74,13 @@ void Check_Position(const Scroll_Bar& Bar, const Control_Value& Value) {
         Refuse_Value("The range is " + std::to_string(Least) + " to " + std::to_string(Greatest));
 }
 
+void Check_Row(const Grid& Table, const Control_Value& Value) {
+    const auto* Row = std::get_if<std::int64_t>(&Value);
+    if (!Row) Refuse_Value("The number of a row is wanted");
+    if (*Row < 0 || *Row >= Table.Rows())
+        Refuse_Value("The table has " + std::to_string(Table.Rows()) + " rows, the first is number 0");
+}
+
 // Before anything moves: would the control take this value from a hand?
 void Check_Value(const Control& Of, const Control_Value& Value) {
     const bool* Truth = std::get_if<bool>(&Value);
@@ -95,9 +102,9 @@ void Check_Value(const Control& Of, const Control_Value& Value) {
         return;
     case Control_Kind::Button:
     case Control_Kind::Menu_Item: Refuse("This takes clicks, not values");
+    case Control_Kind::Grid: Check_Row(static_cast<const Grid&>(Of), Value); return;
     case Control_Kind::Label:
     case Control_Kind::Frame:
-    case Control_Kind::Grid:
     case Control_Kind::Timer: Refuse("This takes no value");
     }
 }

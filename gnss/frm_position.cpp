@@ -1,11 +1,17 @@
 #include "gnss/frm_position.hpp"
 
+#include "gnss/control_text.hpp"
+#include "gnss/datum_controls.hpp"
+#include "gnss/fix_quality.hpp"
+#include "gnss/frm_gnss.hpp"
 #include "gnss/gnss_records.hpp"
-#include "gnss/gnss_satellites.hpp"
 #include "gnss/gnss_ticks.hpp"
+#include "gnss/gst_controls.hpp"
+#include "gnss/mode_lists.hpp"
 #include "gnss/motion_controls.hpp"
 #include "gnss/position_simulator.hpp"
 #include "gnss/position_tips.hpp"
+#include "gnss/satellite_controls.hpp"
 #include "links/port_list.hpp"
 #include "ownship/position_text.hpp"
 #include "shell/form_position.hpp"
@@ -82,9 +88,13 @@ void Apply_Mode(const Simulator& Sim, frmPosition& W) {
 
 void Fill_Lists(Simulator& Sim, frmPosition& W) {
     Rebuild_Port_List(Sim, W);
-    for (const char* Entry : Position_Decimals) W.cmbDecimals.Add_Item(Entry);
-    for (const char* Entry : Time_Decimals) W.cmbDecimalsTime.Add_Item(Entry);
+    Fill_Fix_Quality(W);
+    Fill_Mode_Lists(W);
+    Fill_Datum_Lists(W);
+    Add_Items(W.cmbDecimals, Position_Decimals);
+    Add_Items(W.cmbDecimalsTime, Time_Decimals);
     Fill_Noise_List(W.cmbNoise);
+    Fill_Satellite_Lists(W);
 }
 
 // A stored choice that its list does not have, as a setup file may hold, becomes the default one.
@@ -104,6 +114,11 @@ void Restore_Settings(Simulator& Sim, frmPosition& W) {
     W.optAccumulatedNoise.Select(S.GNSS_Noise_Accumulated[I] ? 1 : 0);
     W.chkNoise.Set_Value(S.GNSS_Noise_Enabled[I]);
     chkNoise_Click(Sim, W); // an unchecked box has not clicked: its controls are disabled from the start
+    Restore_Fix_Quality(W);
+    W.cmbModeIndicator.Set_List_Index(0);
+    Restore_Datum(W);
+    Restore_Satellites(Sim, W);
+    Show_GNSS_Configuration(S, W);
     Restore_Intervals(W.Sentences);
 }
 
@@ -117,6 +132,12 @@ void Wire_Controls(Simulator& Sim, frmPosition& W) {
                     [&W](const std::string& Talker) { Set_Talker(W, Talker); });
     Wire_Position_Simulator(Sim, W);
     Wire_Motion_Controls(Sim, W);
+    Wire_Fix_Quality(Sim, W);
+    Wire_Mode_Lists(W);
+    Wire_Datum_Controls(W);
+    W.cmdGNSS.Click = [&] { cmdGNSS_Click(Sim, W); };
+    Wire_Satellite_Controls(Sim, W);
+    Wire_GST_Controls(W);
     Wire_Sentences<frmPosition>(W.Sentences, GNSS_Sentences(), Sim, Sim.State, W, W.Instance);
 }
 
@@ -133,9 +154,10 @@ void Form_Load(Simulator& Sim, frmPosition& W) {
     Show_Reported_Position(Sim.State, W);
     Fill_Lists(Sim, W);
     Restore_Settings(Sim, W);
-    Preset_Records(Sim.State, W);
-    Choose_Default_Satellites(Sim.State, W);
+    Read_Records(Sim.State, W);
     Start_Enabled_Sentences(W.Sentences);
+    W.cmbInView.Set_List_Index(W.cmbInView.List_Index()); // builds the table
+    Reset_Mode_Lists(W);
     W.Sentences.Is_Loading = false;
 }
 
@@ -161,7 +183,10 @@ frmPosition::frmPosition(Desktop& Its_Windows, int Its_Instance)
     lblArrows.Visible = false;
     txtDummy.Visible = false;
     cmdPause.Enabled = false;
+    Preset_Satellite_Boxes(*this);
+    Preset_GST_Controls(*this);
     Set_Tool_Tips(*this);
+    Set_Fix_Tool_Tips(*this);
 }
 
 std::shared_ptr<frmPosition> Load_frmPosition(Simulator& Sim) {

@@ -43,6 +43,9 @@ struct frmPosition : Form {
     Sentence_Family Sentences;
     float Offset_North = 0; // metres from GNSS 1, held while chkFixOffset is checked
     float Offset_East = 0;
+    bool Sats_Changing = false;          // cmbSats is setting the boxes of the satellites
+    bool Sv_Click_Guard = false;         // the boxes of the satellites are setting cmbSats
+    Table<std::int16_t, 0, 5> Mode_Item; // last ListIndex of each cmbGLLRMVVTG_Mode
 
     // frmGGA holds all that is here; the other three stand to its right and show when the window is wide
     // enough.
@@ -124,6 +127,82 @@ struct frmPosition : Form {
     Combo_Box cmbDecimals{*this, "cmbDecimals"};
     Label lblDecimalsTime{*this, "lblDecimalsTime", "UTC, sec"};
     Combo_Box cmbDecimalsTime{*this, "cmbDecimalsTime"};
+
+    // Rest of frmGGA: what the fix claims to be.
+    Label lblQuality{*this, "lblQuality", " GGA Quality"};
+    Combo_Box cmbQuality{*this, "cmbQuality"};
+    Label lblSats{*this, "lblSats", "Svs"};
+    Combo_Box cmbSats{*this, "cmbSats"};
+    Label lblHdop{*this, "lblHdop", "Hdop"};
+    Combo_Box cmbHdop{*this, "cmbHdop"};
+    Label lblAge{*this, "lblAge", "Diff corr age"};
+    Combo_Box cmbAge{*this, "cmbAge"};
+    Label lblStnID{*this, "lblStnID", "Diff. Stn ID"};
+    Text_Box txtStnID{*this, "txtStnID", "100"};
+    Label lblAlt{*this, "lblAlt", "Altit AMSL"};
+    Text_Box txtAlt{*this, "txtAlt", "0.0 m"};
+    Label lblGeoidSep{*this, "lblGeoidSep", "Geoide Sep"};
+    Text_Box txtGeoidSep{*this, "txtGeoidSep", "0.0 m"};
+    Check_Box chkDifferential{*this, "chkDifferential", "Differential GNSS"};
+
+    Frame frmModeIndicator{*this, "frmModeIndicator",
+                           "Mode and Status indicators for GNS, GLL, RMC and VTG "};
+    Label lblModeIndicator{*this, "lblModeIndicator", "Type"};
+    Combo_Box cmbModeIndicator{*this, "cmbModeIndicator"};
+    // One place for all six: only the one that cmbModeIndicator names is visible.
+    Control_Array<Combo_Box, 0, 5> cmbGLLRMVVTG_Mode{*this, "cmbGLLRMVVTG_Mode", ""};
+
+    Label lblLocalDatum{*this, "lblLocalDatum", "Local datum"};
+    Label lblRefDatum{*this, "lblRefDatum", "Ref datum"};
+    Control_Array<Combo_Box, 0, 1> cmbDatum{*this, "cmbDatum", ""};
+    Label lblOffset{*this, "lblOffset", "Lat/Lon/Alt offset"};
+    Control_Array<Text_Box, 0, 2> txtOffset{*this, "txtOffset", ""};
+    Combo_Box cmbNS{*this, "cmbNS"}; // beside txtOffset(0)
+    Combo_Box cmbEW{*this, "cmbEW"}; // beside txtOffset(1)
+
+    Button cmdGNSS{*this, "cmdGNSS", "Configure GNSS"};
+    Label lblModeIndicatorTitle{*this, "lblModeIndicatorTitle", "GNS Mode Indicator : "};
+    Label lblGNS_ModeIndicator{*this, "lblGNS_ModeIndicator"};
+    Label lblSystemsTitle{*this, "lblSystemsTitle", "GNSS Systems in use :"};
+    Label lblGNSS{*this, "lblGNSS"};
+    Label lblTalkerTitle{*this, "lblTalkerTitle", "GNS Talker : "};
+    Label lblGNS_Talker{*this, "lblGNS_Talker"};
+
+    // In frmGSA.
+    Frame frmMode3D2D{*this, "frmMode3D2D", "     3D/2D"};
+    Option_Group optMode3D2D{*this, "optMode3D2D", {"3D", "2D"}};
+    Frame frmModeAutMan{*this, "frmModeAutMan", "mode"};
+    Option_Group optModeAutMan{*this, "optModeAutMan", {"Auto", "Manual"}};
+    Label lblPdop{*this, "lblPdop", "Pdop"};
+    Combo_Box cmbPdop{*this, "cmbPdop"};
+    Label lblVdop{*this, "lblVdop", "Vdop"};
+    Combo_Box cmbVdop{*this, "cmbVdop"};
+    Label lblGSAWarning{*this, "lblGSAWarning", "NB! Only 12 first svs will be included in GSA"};
+    Frame frmSvs{*this, "frmSvs", "GPS Sv's in use"};
+    Control_Array<Check_Box, 1, 32> chkSv{*this, "chkSv", ""};
+    Frame frmGlonassSvs{*this, "frmGlonassSvs", "GLONASS Sv's in use"};
+    Control_Array<Check_Box, 1, 24> chkGLSv{*this, "chkGLSv", ""};
+    Label lblGLSvNote{*this, "lblGLSvNote", "NMEA index 65-88 (Sv No. + 64)"};
+    Frame frmSBAS{*this, "frmSBAS", "SBAS Sv's in use"};
+    Label lblEGNOS{*this, "lblEGNOS", "EGNOS"}; // boxes 0 to 2
+    Label lblWAAS{*this, "lblWAAS", "WAAS"};    // 3 and 4
+    Label lblMSAS{*this, "lblMSAS", "MSAS"};    // 5 and 6
+    Label lblGAGAN{*this, "lblGAGAN", "GAGAN"}; // 7
+    Control_Array<Check_Box, 0, 7> chkWAASSv{*this, "chkWAASSv", ""};
+    Label lblWAASSvNote{*this, "lblWAASSvNote", "NMEA index 33-64 (Sv No. - 87)"};
+
+    // In frmGSV. The titles of the table are no row of it, so that it has a row for each satellite in view.
+    // Its columns are 500 wide; it is as high as its rows up to 19 satellites and scrolls from 20 on.
+    Label lblInView{*this, "lblInView", "Svs in view"};
+    Combo_Box cmbInView{*this, "cmbInView"};
+    Grid hfgGSV{*this, "hfgGSV", {"PRN", "El", "Az", "SNR"}};
+    Timer timer_GSVUpdate{*this, "timer_GSVUpdate"};
+
+    // In frmGST.
+    Control_Array<Label, 0, 6> lblGST{*this, "lblGST", ""};
+    Control_Array<Text_Box, 0, 6> txtGST{*this, "txtGST", ""};
+    Label lblGSTIncrease{*this, "lblGSTIncrease", " Left click on label to increase"};
+    Label lblGSTDecrease{*this, "lblGSTDecrease", "Right click on label to decrease"};
 };
 
 // Makes the window of form index Open_Form_Index, 1 or 2, and runs its opening up to the point where it can

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 
 namespace brinewright {
 
@@ -9,13 +8,14 @@ struct frmPosition;
 struct Simulator;
 struct Simulator_State;
 
-// Gives the window the eight GPS satellites 3, 6, 8, 12, 19, 24, 25 and 32 in use, as many in view.
-void Choose_Default_Satellites(Simulator_State& State, frmPosition& W);
+// Identifiers of Sky_Table: 1 to 32 GPS, 33 to 64 SBAS, 65 to 88 GLONASS.
+inline constexpr int SBAS_Number_Offset = 87; // SBAS 120 is satellite 33
+inline constexpr int Before_GLONASS = 64;     // GLONASS 1 is satellite 65
 
-// The satellites in use become Identifiers, ascending identifiers of Sky_Table (1 to 32 GPS): the list and
-// the marks, which both windows share (the last choice holds for both), the first twelve numbers of GSA, and
-// the counts of GGA and GNS.
-void Choose_Satellites(Simulator_State& State, frmPosition& W, std::span<const std::int16_t> Identifiers);
+// The number that GSV and GSA report for a satellite.
+std::int16_t Reported_Number(std::int16_t Identifier);
+
+bool Is_In_Sky(const Simulator_State& State, std::int16_t Identifier);
 
 // Sends the series of GSV back to back: first the satellites in use, then the others in view, four in a
 // sentence. With none in view nothing leaves.

@@ -11,16 +11,16 @@ bool Link_In_Use(const Simulator& Sim, int Port) {
     return Link.Present && Link.Enabled;
 }
 
+std::string Link_Name(const Simulator& Sim, int Port) {
+    if (Port <= port_number::Last_Serial) return "COM" + Number_Text(Port);
+    if (Port == port_number::TCP) return "TCP/IP";
+    return "UDP" + Number_Text(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]);
+}
+
 void Fill_Port_List(const Simulator& Sim, Combo_Box& List, std::int16_t Selected) {
     List.Clear();
     for (int Port = 1; Port <= port_number::Last; ++Port) {
-        if (!Link_In_Use(Sim, Port)) continue;
-        if (Port <= port_number::Last_Serial)
-            List.Add_Item("COM" + Number_Text(Port), Port);
-        else if (Port == port_number::TCP)
-            List.Add_Item("TCP/IP", Port);
-        else
-            List.Add_Item("UDP" + Number_Text(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]), Port);
+        if (Link_In_Use(Sim, Port)) List.Add_Item(Link_Name(Sim, Port), Port);
     }
     // The virtual port shares the port number of the first UDP link; nothing turns this option on.
     if (Sim.State.Virtual_Port_Option)

@@ -3,6 +3,7 @@
 #include "platform/controls.hpp"
 
 #include <cstdint>
+#include <string>
 
 namespace brinewright {
 
@@ -16,8 +17,11 @@ inline constexpr std::int16_t None = 0, Last_Serial = 16, TCP = 17, First_UDP = 
 // Whether link Port is present and enabled. False outside 1 to 28.
 bool Link_In_Use(const Simulator& Sim, int Port);
 
-// Fills a sensor's cmbComPort with the links in use, each with its port number as item data, and selects Selected; a
-// port that is not in use leaves nothing selected and runs nothing.
+// The name of link Port (1 to 28) as lists and monitors show it: "COM 3", "TCP/IP", "UDP 60001".
+std::string Link_Name(const Simulator& Sim, int Port);
+
+// Fills a sensor's cmbComPort with the links in use, each with its port number as item data, and selects
+// Selected; a port that is not in use leaves nothing selected and runs nothing.
 void Fill_Port_List(const Simulator& Sim, Combo_Box& List, std::int16_t Selected);
 
 } // namespace brinewright

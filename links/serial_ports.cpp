@@ -22,20 +22,9 @@ std::string Settings_Text(const Port_Setting& Port) {
            std::to_string(Port.StopBits);
 }
 
-Serial_Port& Port_Object(Simulator& Sim, int Index) {
-    auto& Object = Sim.Links.MSComm[Index];
-    if (!Object) {
-        Object = Sim.Services.Make_Serial_Port(Index);
-        Object->On_Comm = [&Sim, Index](Comm_Event Event) {
-            Sim.Windows.Event([&] { MSComm_OnComm(Sim, Index, Event); });
-        };
-    }
-    return *Object;
-}
-
 void Open_Comport(Simulator& Sim, int Index) {
     try {
-        Serial_Port& Port = Port_Object(Sim, Index);
+        Serial_Port& Port = Comport_Object(Sim, Index);
         if (Port.Is_Open()) Port.Close();
         Port.Open(Settings_Text(Sim.State.Port_Table[Index]));
     } catch (const Run_Time_Error& Failure) {
@@ -73,6 +62,17 @@ void Reset_Comport(Simulator& Sim, int Index, const char* Failure_Text) {
 }
 
 } // namespace
+
+Serial_Port& Comport_Object(Simulator& Sim, int Index) {
+    auto& Object = Sim.Links.MSComm[Index];
+    if (!Object) {
+        Object = Sim.Services.Make_Serial_Port(Index);
+        Object->On_Comm = [&Sim, Index](Comm_Event Event) {
+            Sim.Windows.Event([&] { MSComm_OnComm(Sim, Index, Event); });
+        };
+    }
+    return *Object;
+}
 
 void Close_Comport(Simulator& Sim, int Index) {
     const auto& Port = Sim.Links.MSComm[Index];

@@ -12,6 +12,9 @@ struct Simulator;
 // number of serial ports present.
 void Init_Comports(Simulator& Sim, std::int16_t Count);
 
+// The object of serial port Index (1 to 16), made when it is first asked for.
+Serial_Port& Comport_Object(Simulator& Sim, int Index);
+
 // Closes serial port Index (1 to 16) if it is open.
 void Close_Comport(Simulator& Sim, int Index);
 

@@ -12,7 +12,8 @@ constexpr std::string_view UTF8_Mark = "\xEF\xBB\xBF"; // some editors put it in
 
 } // namespace
 
-void Read_Setup(std::string_view Bytes, Simulator_State& State) {
+bool Read_Setup(std::string_view Bytes, Simulator_State& State) {
+    bool Known = false;
     Setup_Reader Reader{Bytes};
     if (Bytes.starts_with(UTF8_Mark)) Reader.Position = UTF8_Mark.size();
     const auto Sections = Setup_Sections();
@@ -23,8 +24,11 @@ void Read_Setup(std::string_view Bytes, Simulator_State& State) {
         if (!Text.starts_with("REM")) continue;
         const auto Found = std::find_if(Sections.begin(), Sections.end(),
                                         [&](const Setup_Section& Section) { return Section.Marker == Text; });
-        if (Found != Sections.end()) Found->Read(Reader, State);
+        if (Found == Sections.end()) continue;
+        Found->Read(Reader, State);
+        Known = true;
     }
+    return Known;
 }
 
 std::string Write_Setup(const Simulator_State& State) {

@@ -17,8 +17,8 @@ namespace brinewright {
 // Run_Time_Error: Type mismatch (a field of the wrong form), Overflow (a number too large for its variable),
 // Input past end of file, or Subscript out of range (more windows than the list holds). What was read up to
 // there stays in State. Values are not looked at beyond their form: a port number, an index or an interval
-// may be anything.
-void Read_Setup(std::string_view Bytes, Simulator_State& State);
+// may be anything. True when a known section was found: otherwise this is no setup file.
+bool Read_Setup(std::string_view Bytes, Simulator_State& State);
 
 // The bytes of State as a setup file, all sections in their fixed order, lines ending in CR LF. Reading them
 // gives back what is kept, with these exceptions: in a text a line break becomes a blank, and a quotation

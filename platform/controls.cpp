@@ -98,7 +98,8 @@ void Combo_Box::Set_List_Index(int New) {
     if (New >= 0) Run(Click);
 }
 void Combo_Box::Choose_Data(std::int32_t Data) {
-    const auto Found = std::find_if(Entries.begin(), Entries.end(), [&](const Item& I) { return I.Data == Data; });
+    const auto Found =
+        std::find_if(Entries.begin(), Entries.end(), [&](const Item& I) { return I.Data == Data; });
     Set_List_Index(Found == Entries.end() ? -1 : static_cast<int>(Found - Entries.begin()));
 }
 void Combo_Box::Set_Text(std::string New) {
@@ -117,7 +118,8 @@ void Combo_Box::User_Set(const Control_Value& V) {
         return;
     }
     const std::string& Wanted = As_Text(V);
-    auto Found = std::find_if(Entries.begin(), Entries.end(), [&](const Item& I) { return I.Text == Wanted; });
+    auto Found =
+        std::find_if(Entries.begin(), Entries.end(), [&](const Item& I) { return I.Text == Wanted; });
     if (Found == Entries.end())
         Found = std::find_if(Entries.begin(), Entries.end(),
                              [&](const Item& I) { return Trim(I.Text) == Trim(Wanted); });
@@ -214,7 +216,8 @@ void Grid::Set_Rows(int Count) {
     if (Count < 0) Refuse_Value();
     if (Count == Row_Count) return;
     Row_Count = Count;
-    Cells.resize(static_cast<std::size_t>(Count) * Columns.size());
+    if (Chosen >= Count) Chosen = -1;
+    if (!Source) Cells.resize(static_cast<std::size_t>(Count) * Columns.size());
     Touch();
 }
 std::size_t Grid::Place(int Row, int Column) const {
@@ -222,13 +225,45 @@ std::size_t Grid::Place(int Row, int Column) const {
         throw Run_Time_Error(error_text::Subscript);
     return static_cast<std::size_t>(Row) * Columns.size() + static_cast<std::size_t>(Column);
 }
-const Grid::Cell& Grid::At(int Row, int Column) const { return Cells[Place(Row, Column)]; }
+Grid::Cell Grid::At(int Row, int Column) const {
+    const std::size_t Where = Place(Row, Column);
+    return Source ? Source(Row, Column) : Cells[Where];
+}
 void Grid::Set_Cell(int Row, int Column, std::string Text, Ink Colour) {
+    if (Source) Refuse_Value();
     Cell New{std::move(Text), Colour};
     Cell& Old = Cells[Place(Row, Column)];
     if (Old == New) return;
     Old = std::move(New);
     Touch();
+}
+void Grid::Set_Source(int Count, Cell_Source Its_Source) {
+    if (Count < 0) Refuse_Value();
+    Source = std::move(Its_Source);
+    Row_Count = Count;
+    Chosen = -1;
+    Cells.clear();
+    if (!Source) Cells.resize(static_cast<std::size_t>(Count) * Columns.size());
+    Touch();
+}
+void Grid::Source_Moved(int Count, int New_Chosen) {
+    if (!Source || Count < 0 || New_Chosen < -1 || New_Chosen >= Count) Refuse_Value();
+    Row_Count = Count;
+    Chosen = New_Chosen;
+    Touch();
+}
+void Grid::Select_Row(int Row) {
+    if (Row < -1 || Row >= Row_Count) Refuse_Value();
+    if (Row != Chosen) {
+        Chosen = Row;
+        Touch();
+    }
+    if (Row >= 0) Run(Row_Chosen);
+}
+void Grid::User_Set(const Control_Value& V) {
+    const auto* Row = std::get_if<std::int64_t>(&V);
+    if (!Row || *Row < 0 || *Row >= Row_Count) throw User_Refusal("The table has no such row");
+    Select_Row(static_cast<int>(*Row));
 }
 Control_Value Grid::Current() const {
     std::string All;
@@ -244,6 +279,9 @@ Control_Value Grid::Current() const {
 
 Timer::Timer(Form& F, std::string N, int I) : Control(F, Control_Kind::Timer, std::move(N), I) {
     Entry.Tick = [this] { Run(Tick); };
+}
+double Timer::Until_Tick_ms() const {
+    return static_cast<double>(Entry.Due_us - Owner.Windows.Timers.Time.Wide_us()) / 1000.0;
 }
 Timer::~Timer() { Owner.Windows.Timers.Stop(Entry); }
 void Timer::Set_Interval(double Interval_ms) {

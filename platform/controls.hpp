@@ -85,7 +85,8 @@ struct Combo_Box : Visible_Control {
     void Choose_Data(std::int32_t Data); // the first entry with this item data; none leaves nothing chosen
     void Set_Text(std::string New);      // only with Free_Text; runs Change when the text changes
 
-    void User_Set(const Control_Value& V) override; // number of the entry, or its text (blanks around it count not)
+    void User_Set(
+        const Control_Value& V) override; // number of the entry, or its text (blanks around it count not)
     Control_Value Current() const override { return Shown; }
     void Lose_Focus() override;
     bool Can_Focus() const override { return true; }
@@ -121,8 +122,8 @@ struct Text_Box : Visible_Control {
     std::string Content;
 };
 
-// Value always lies between Min and Max, whichever of them is the greater: Min stands at the top or left. Setting
-// the value from code runs Change, but only on a change.
+// Value always lies between Min and Max, whichever of them is the greater: Min stands at the top or left.
+// Setting the value from code runs Change, but only on a change.
 struct Scroll_Bar : Visible_Control {
     Scroll_Bar(Form& F, std::string N, int At_Min, int At_Max, int Large = 10, int I = No_Index);
     Handler Change;
@@ -154,8 +155,8 @@ struct Option_Button : Visible_Control {
     Option_Group& Group;
 };
 
-// Buttons of one name and indices from 0, one of which at most is selected. Selecting from code runs Click, but only
-// on a change.
+// Buttons of one name and indices from 0, one of which at most is selected. Selecting from code runs Click,
+// but only on a change.
 struct Option_Group {
     Option_Group(Form& F, const std::string& Name, const std::vector<std::string>& Captions);
     std::function<void(int)> Click;
@@ -178,7 +179,9 @@ struct Menu_Item : Visible_Control {
     Control_Value Current() const override { return *Checked; }
 };
 
-// A table of texts; rows and columns count from 0.
+// A table of texts; rows and columns count from 0. It holds its cells itself or, for a table that is long or
+// changes all the time, asks a source for those that are looked at. A row can be chosen: by code and hand
+// alike this runs Row_Chosen, also for the row that stands chosen already.
 struct Grid : Visible_Control {
     struct Cell {
         std::string Text;
@@ -188,16 +191,32 @@ struct Grid : Visible_Control {
 
     Grid(Form& F, std::string N, std::vector<std::string> Column_Titles);
     std::vector<std::string> Columns;
+    Handler Row_Chosen;
     int Rows() const { return Row_Count; }
-    void Set_Rows(int Count); // keeps what stays inside
-    const Cell& At(int Row, int Column) const;
-    void Set_Cell(int Row, int Column, std::string Text, Ink Colour = Ink::Normal);
+    void Set_Rows(int Count); // keeps what stays inside; a chosen row that does not is chosen no more
+    Cell At(int Row, int Column) const;
+    void Set_Cell(int Row, int Column, std::string Text, Ink Colour = Ink::Normal); // not with a source
+
+    using Cell_Source = std::function<Cell(int Row, int Column)>;
+    void Set_Source(int Count, Cell_Source Its_Source); // an empty one: the grid holds its cells again
+    bool Has_Source() const { return static_cast<bool>(Source); }
+    // The source has other cells now, and the chosen row stands elsewhere in it: runs nothing.
+    void Source_Moved(int Count, int New_Chosen);
+
+    int Selected_Row() const { return Chosen; } // -1 = none
+    // -1 chooses nothing and runs nothing. Outside the table: Run_Time_Error "Invalid property value".
+    void Select_Row(int Row);
+
+    void User_Set(const Control_Value& V) override; // the number of a row
     Control_Value Current() const override;
+    bool Can_Focus() const override { return true; }
 
   private:
     std::size_t Place(int Row, int Column) const;
     int Row_Count = 0;
+    int Chosen = -1;
     std::vector<Cell> Cells;
+    Cell_Source Source;
 };
 
 // Ticks every Interval milliseconds; 0 = stopped. Every setting of the interval restarts the phase.
@@ -206,6 +225,7 @@ struct Timer : Control {
     ~Timer() override;
     void Set_Interval(double Interval_ms); // to a whole microsecond
     double Interval_ms() const { return static_cast<double>(Entry.Period_us) / 1000.0; }
+    double Until_Tick_ms() const; // of no meaning while it is stopped
     Handler Tick;
     Control_Value Current() const override { return Interval_ms(); }
 

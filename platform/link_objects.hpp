@@ -26,8 +26,15 @@ class Serial_Port {
     std::function<void(Comm_Event)> On_Comm;
 
     // Settings as "4800,n,8,1": baud rate, parity letter n, e or o, data bits, stop bits. Throws Run_Time_Error
-    // with the system's text when the port does not exist, is taken or may not be opened.
+    // with the system's text when the port does not exist, Device_Busy when it is taken and Access_Refused when it may
+    // not be opened.
     virtual void Open(const std::string& Settings) = 0;
+    // Opens a closed port and closes it again, to learn whether it is there; throws as Open does. Where it can be
+    // done, the line's settings and what waits in it are left as they are: somebody may be using it unlocked.
+    virtual void Try() {
+        Open("4800,n,8,1");
+        Close();
+    }
     virtual void Close() = 0;
     virtual bool Is_Open() const = 0;
     // Never blocks. Throws Run_Time_Error when the port is closed or the device has vanished. A text that would

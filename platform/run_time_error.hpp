@@ -11,6 +11,16 @@ struct Run_Time_Error : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// The device is there, but another program holds it.
+struct Device_Busy : Run_Time_Error {
+    using Run_Time_Error::Run_Time_Error;
+};
+
+// It may be there, but this user has no right to it.
+struct Access_Refused : Run_Time_Error {
+    using Run_Time_Error::Run_Time_Error;
+};
+
 // What a user, a script or an automation asked for cannot be done as asked: nothing has changed. It is answered to
 // the one who asked, not told in a box.
 struct User_Refusal : Run_Time_Error {

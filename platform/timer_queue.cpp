@@ -46,6 +46,7 @@ bool Timer_Queue::Fire_One() {
 }
 
 void Timer_Queue::Spin_us(std::int64_t Duration_us) {
+    if (Before_Spin) Before_Spin(Duration_us);
     const std::int64_t Start_us = Time.Wide_us();
     Time.Spin_us(Duration_us);
     Recent_Spins[Spin_Count++ % Recent_Spins.size()] = {Start_us, Time.Wide_us()};

@@ -42,6 +42,8 @@ class Timer_Queue {
     // Runs a tick; the desktop puts its error net around it.
     std::function<void(Entry&)> Dispatch = [](Entry& Timer) { Timer.Tick(); };
     std::function<void()> On_Next_Due; // the earliest due time may have changed
+    // Told of each wait by Spin_us before it begins, so that a desktop can show how far a long opening has come.
+    std::function<void(std::int64_t Duration_us)> Before_Spin;
     Latency_Histogram Lateness;        // of ticks, all causes
     Latency_Histogram Own_Lateness;    // of ticks, less the waits by Spin_us that fell into the delay
 

@@ -7,6 +7,8 @@ namespace brinewright {
 namespace {
 
 void Require_Opening(Memory_Links& Links, const std::string& Name) {
+    if (Links.Busy.contains(Name)) throw Device_Busy("Device or resource busy");
+    if (Links.Refused.contains(Name)) throw Access_Refused("Permission denied");
     if (Links.Failing_Open != Name) return;
     Links.Failing_Open.clear();
     throw Run_Time_Error("Device unavailable");

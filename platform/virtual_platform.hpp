@@ -4,6 +4,7 @@
 #include "platform/timer_queue.hpp"
 
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,6 +34,7 @@ struct Memory_Links {
     bool Keep = false;
     std::vector<std::pair<std::string, std::string>> Sent; // link ("COM 3", "TCP 0", "UDP 239.192.0.1:60001"), text
     std::string Failing_Open;                              // a link whose next opening fails
+    std::set<std::string> Busy, Refused; // links that another program holds, or that this user has no right to
 };
 
 class Memory_Files : public Files {
@@ -64,6 +66,7 @@ class Virtual_Platform : public Platform {
     std::unique_ptr<Serial_Port> Make_Serial_Port(int Com_Number) override;
     std::unique_ptr<TCP_Listener> Make_TCP_Listener() override;
     std::unique_ptr<UDP_Socket> Make_UDP_Socket() override;
+    std::string Device_Of(int) override { return {}; }
     std::string Local_IP() const override { return "127.0.0.1"; }
     void Quit() override { Quitting = true; }
 

@@ -33,6 +33,7 @@ class Qt_Platform final : public Platform {
     std::unique_ptr<Serial_Port> Make_Serial_Port(int Com_Number) override;
     std::unique_ptr<TCP_Listener> Make_TCP_Listener() override;
     std::unique_ptr<UDP_Socket> Make_UDP_Socket() override;
+    std::string Device_Of(int Com_Number) override { return Com_Device(Com_Number); }
     std::string Local_IP() const override;
     void Quit() override; // also before the event loop has started: then it ends at its start
 

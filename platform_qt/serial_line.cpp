@@ -38,17 +38,30 @@ std::size_t Waiting_In_Driver(const Unique_Fd& Device) {
     return static_cast<std::size_t>(Bytes);
 }
 
-Unique_Fd Open_Device(const std::string& Path, const Serial_Settings& Settings) {
+// Opens and locks the device; nothing about its line has changed yet.
+Unique_Fd Lock_Device(const std::string& Path, termios& Mode) {
     Unique_Fd Device(::open(Path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
     if (!Device) Throw_System_Error(errno);
-    termios Mode{};
     if (::tcgetattr(Device.Get(), &Mode) != 0) Throw_System_Error(errno); // no terminal, so no serial port
-    // The lock keeps out the programs that look for it, the exclusive mode the others.
     if (::flock(Device.Get(), LOCK_EX | LOCK_NB) != 0)
         Throw_System_Error(errno == EWOULDBLOCK ? EBUSY : errno);
-    Set_Line_Mode(Mode, Settings);
-    if (::tcsetattr(Device.Get(), TCSANOW, &Mode) != 0) Throw_System_Error(errno);
+    // The exclusive mode of another program does not keep the superuser out, so it is asked for.
+    int Exclusive = 0;
+    if (::ioctl(Device.Get(), TIOCGEXCL, &Exclusive) == 0 && Exclusive != 0) Throw_System_Error(EBUSY);
+    return Device;
+}
+
+Unique_Fd Open_Device(const std::string& Path, const Serial_Settings& Settings) {
+    termios Mode{};
+    Unique_Fd Device = Lock_Device(Path, Mode);
+    // The lock keeps out the programs that look for it, the exclusive mode the others.
     ::ioctl(Device.Get(), TIOCEXCL);
+    Set_Line_Mode(Mode, Settings);
+    if (::tcsetattr(Device.Get(), TCSANOW, &Mode) != 0) {
+        const int Why = errno;
+        ::ioctl(Device.Get(), TIOCNXCL); // a pseudo-terminal keeps it beyond the closing
+        Throw_System_Error(Why);
+    }
     ::tcflush(Device.Get(), TCIFLUSH); // what came in before, at whatever speed
     return Device;
 }
@@ -79,8 +92,7 @@ Termios_Serial_Port::~Termios_Serial_Port() { Close(); }
 void Termios_Serial_Port::Open(const std::string& Settings) {
     Close();
     const Serial_Settings Wanted = Parse_Serial_Settings(Settings);
-    const std::string Path = Device_Path();
-    if (Path.empty()) throw Run_Time_Error("No device is assigned to " + Name);
+    const std::string Path = Required_Path();
     auto Fresh = std::make_shared<Opening>();
     Fresh->Device = Open_Device(Path, Wanted);
     Fresh->Bytes_Per_Second = Bytes_Per_Second(Wanted);
@@ -88,6 +100,17 @@ void Termios_Serial_Port::Open(const std::string& Settings) {
     Fresh->Counted = Read_Counters(Fresh->Device);
     Fresh->Read_Watch = Watch_Fd(Fresh->Device.Get(), QSocketNotifier::Read, [this] { Read_Line(); });
     Opened = std::move(Fresh);
+}
+
+std::string Termios_Serial_Port::Required_Path() const {
+    std::string Path = Device_Path();
+    if (Path.empty()) throw Run_Time_Error("No device is assigned to " + Name);
+    return Path;
+}
+
+void Termios_Serial_Port::Try() {
+    termios Mode{};
+    Lock_Device(Required_Path(), Mode);
 }
 
 void Termios_Serial_Port::Close() {

@@ -21,6 +21,7 @@ class Termios_Serial_Port final : public Serial_Port {
     ~Termios_Serial_Port() override;
 
     void Open(const std::string& Settings) override;
+    void Try() override; // touches neither the line's settings nor what waits in it
     void Close() override;
     bool Is_Open() const override { return Opened != nullptr; }
     void Output(std::string_view Text) override;
@@ -39,6 +40,7 @@ class Termios_Serial_Port final : public Serial_Port {
         std::unique_ptr<QSocketNotifier> Read_Watch, Write_Watch;
     };
 
+    std::string Required_Path() const;
     void Read_Line();
     bool Tell(Comm_Event Event); // false: the callback closed the port
     bool Take_Data(const std::string& Data);

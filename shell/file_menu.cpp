@@ -6,6 +6,7 @@
 #include "shell/form_position.hpp"
 #include "shell/frm_main.hpp"
 #include "shell/simulator.hpp"
+#include "shell/talker_defaults.hpp"
 
 namespace brinewright {
 
@@ -52,6 +53,7 @@ void Open_Existing_Setup(Simulator& Sim, const std::string& File) {
     for (int Port = 1; Port <= Last_Closed_Port; ++Port) Close_Comport(Sim, Port);
     Unload_Sensor_Windows(Sim);
     Load_Setup(Sim, File);
+    Repair_Talkers(Sim.State);
     if (Sim.State.Comport_Count > 0) Init_Comports(Sim, Sim.State.Comport_Count);
     Show_Mode(Sim);
     for (int I = 1; I <= Sim.State.Open_Form_Count; ++I) {
@@ -72,8 +74,11 @@ std::string Setup_File_Name(const Simulator& Sim) {
 
 void Load_Setup(Simulator& Sim, const std::string& File) {
     try {
-        Read_Setup(Sim.Services.Disk().Read(File, Setup_Limit_Bytes), Sim.State);
+        const std::string Bytes = Sim.Services.Disk().Read(File, Setup_Limit_Bytes);
+        const bool Known = Read_Setup(Bytes, Sim.State);
         if (File == Sim.Unreadable_Setup) Sim.Unreadable_Setup.clear();
+        // A file of another kind changes nothing and is not told, and is not overwritten at the end either.
+        if (!Known && !Bytes.empty() && File == Setup_File_Name(Sim)) Sim.Unreadable_Setup = File;
     } catch (const Run_Time_Error& Failure) {
         Show_Failure(Sim, std::string(Failure.what()) + "  Default data loaded");
         if (File == Setup_File_Name(Sim)) Sim.Unreadable_Setup = File;

@@ -3,10 +3,12 @@
 #include "dialogs/frm_geo_format.hpp"
 #include "gnss/frm_position.hpp"
 #include "links/frm_iec61162.hpp"
+#include "links/frm_setup.hpp"
 #include "shell/file_menu.hpp"
 #include "shell/form_position.hpp"
 #include "shell/frm_extended_monitor.hpp"
 #include "shell/frm_monitor.hpp"
+#include "shell/frm_traffic.hpp"
 #include "shell/number_text.hpp"
 #include "shell/simulator.hpp"
 
@@ -92,12 +94,14 @@ void Wire_Menus(Simulator& Sim) {
     F.mnuMode_Ship.Click = [&Sim] { mnuMode_Click(Sim, 1); };
     F.mnuMode_Sensor.Click = [&Sim] { mnuMode_Click(Sim, 2); };
     F.mnuSetupStartOption.Click = [&Sim] { mnuSetupStartOption_Click(Sim); };
+    F.mnuSetupPort.Click = [&Sim] { mnuSetupPort_Click(Sim); };
     F.mnuSetupLatLonFormat.Click = [&Sim] { mnuSetupLatLonFormat_Click(Sim); };
     for (std::int16_t Index = 1; Index <= 11; ++Index)
         if (Menu_Item* Item = F.mnuOpenForm(Index))
             Item->Click = [&Sim, Index] { mnuOpenForm_Click(Sim, Index); };
     F.mnuMonitor.Click = [&Sim] { mnuMonitor_Click(Sim); };
     F.mnuExtendedMonitor.Click = [&Sim] { mnuExtendedMonitor_Click(Sim); };
+    F.mnuTraffic.Click = [&Sim] { mnuTraffic_Click(Sim); };
     F.mnuOptionIEC450.Click = [&Sim] { mnuOptionIEC450_Click(Sim); };
     for (const Fault_Option& Option : Fault_Options)
         (F.*Option.Item).Click = [&Sim, &Option] { Toggle_Fault_Option(Sim, Option); };

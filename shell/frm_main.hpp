@@ -24,11 +24,13 @@ struct frmMain : Form {
     Menu_Item mnuMode_Ship{*this, "mnuMode", "&Ship simulator", "Mode", 1};
     Menu_Item mnuMode_Sensor{*this, "mnuMode", "S&ensor", "Mode", 2};
     Menu_Item mnuSetupStartOption{*this, "mnuSetupStartOption", "Start with navdata from last session", "Setup"};
+    Menu_Item mnuSetupPort{*this, "mnuSetupPort", "Com setup", "Setup"};
     Menu_Item mnuSetupLatLonFormat{*this, "mnuSetupLatLonFormat", "Lat/Lon format", "Setup"};
     Menu_Item mnuOpenForm_GNSS1{*this, "mnuOpenForm", "GNSS 1", "Window", 1};
     Menu_Item mnuOpenForm_GNSS2{*this, "mnuOpenForm", "GNSS 2", "Window", 2};
     Menu_Item mnuMonitor{*this, "mnuMonitor", "Comport monitor", "Window"};
     Menu_Item mnuExtendedMonitor{*this, "mnuExtendedMonitor", "Extended Comport monitor", "Window"};
+    Menu_Item mnuTraffic{*this, "mnuTraffic", "Traffic", "Window"};
     Menu_Item mnuOptionIEC450{*this, "mnuOptionIEC450", "IEC 61162-450 enabled", "Options"};
     Menu_Item mnuOptionsChecksumDisabled{*this, "mnuOptionsChecksumDisabled", "Checksum disabled", "Options"};
     Menu_Item mnuOptionsFaultyChecksum{*this, "mnuOptionsFaultyChecksum", "Simulate faulty checksum", "Options"};

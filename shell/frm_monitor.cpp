@@ -2,7 +2,6 @@
 
 #include "links/port_list.hpp"
 #include "shell/frm_main.hpp"
-#include "shell/number_text.hpp"
 #include "shell/simulator.hpp"
 
 namespace brinewright {
@@ -11,12 +10,6 @@ namespace {
 
 constexpr std::int32_t Sentences_Per_Pane = 4;
 constexpr std::size_t Pane_Limit_Bytes = 64 * 1024;
-
-std::string Link_Name(const Simulator& Sim, int Port) {
-    if (Port <= port_number::Last_Serial) return "COM" + Number_Text(Port);
-    if (Port == port_number::TCP) return "TCP/IP";
-    return "UDP" + Number_Text(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]);
-}
 
 void frmMonitor_Load(Simulator& Sim, frmMonitor& F) {
     for (int Port = 1; Port <= port_number::Last; ++Port) {

@@ -107,6 +107,9 @@ void Send_Sentence(Simulator& Sim, std::string Text, int Form_Index, std::int16_
     const bool Exists = Port >= port_number::None && Port <= port_number::Last;
     if (Sim.State.IEC450_Enabled && Exists) Make_UdPbC_Header(Sim, Text, Port, Line, Lines);
     Send_NMEA(Sim, Text, Port);
+    Sim.Last_Sentence[Form_Index] = std::move(Text);
+    if (Form* Window = Sensor_Window(Sim, static_cast<std::int16_t>(Form_Index)))
+        Window->Revision = ++Sim.Windows.Revision;
 }
 
 } // namespace brinewright

@@ -17,11 +17,16 @@ namespace brinewright {
 
 struct frmMain;
 struct frmPosition;
+struct frmGNSS;
 struct frmMonitor;
 struct frmExtendedMonitor;
 struct frmTCPIP;
 struct frmIEC61162;
 struct frmGeoFormat;
+struct frmSetup;
+struct frmProgress;
+struct frmComportInfo;
+struct frmTraffic;
 
 // What the user said at the start of the program.
 struct Start_Options {
@@ -56,14 +61,22 @@ struct Simulator {
     // Told of each sentence as it left, with faults and line end, when its link took it.
     std::vector<std::function<void(std::string_view Text, int Port)>> On_Sent;
 
+    // The last sentence of each sensor window, by form index, as it left.
+    Table<std::string, 1, 11> Last_Sentence;
+
     // The windows; null while closed. A window is made afresh at each opening.
     std::shared_ptr<frmMain> Main;
     Per_Instance<std::shared_ptr<frmPosition>> frmPosition_Instance;
+    Per_Instance<std::shared_ptr<frmGNSS>> frmGNSS_Instance;
     std::shared_ptr<frmMonitor> Monitor;
     std::shared_ptr<frmExtendedMonitor> Extended_Monitor;
     std::shared_ptr<frmTCPIP> TCPIP;
     std::shared_ptr<frmIEC61162> IEC61162;
     std::shared_ptr<frmGeoFormat> GeoFormat;
+    std::shared_ptr<frmSetup> Setup;
+    std::shared_ptr<frmProgress> Progress;
+    std::shared_ptr<frmComportInfo> ComportInfo;
+    std::shared_ptr<frmTraffic> Traffic;
 
     std::string Unreadable_Setup;  // the setup file that failed to load; the save at the end leaves it alone
     bool Ended = false;           // frmMain has unloaded

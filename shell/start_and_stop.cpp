@@ -1,9 +1,11 @@
 #include "gnss/gnss_sky.hpp"
+#include "links/frm_setup.hpp"
 #include "links/serial_ports.hpp"
 #include "links/setup_file.hpp"
 #include "shell/file_menu.hpp"
 #include "shell/frm_main.hpp"
 #include "shell/simulator.hpp"
+#include "shell/talker_defaults.hpp"
 
 #include "sentences/number_pattern.hpp"
 
@@ -39,6 +41,7 @@ void Load_First_Setup(Simulator& Sim) {
     }
     Sim.Windows.Boxes.Show("No setupfile exist. Default data loaded and no comports initialized ! ");
     Load_Default_Data(Sim.State);
+    mnuSetupPort_Click(Sim);
 }
 
 // Labels of the setup file only. On purpose they do not follow the order of the form indices from slot 5 on.
@@ -46,27 +49,6 @@ void Name_Sensor_Slots(Simulator& Sim) {
     constexpr std::array<const char*, 8> Names{"GNSS1", "GNSS2",       "Gyro1", "Gyro2",
                                                "Log",   "Echosounder", "ARPA",  "Wind Gauge"};
     for (std::size_t I = 0; I < Names.size(); ++I) Sim.State.Sensor_Table[static_cast<int>(I) + 1].Name = Names[I];
-}
-
-void Repair_Talkers(Simulator& Sim) {
-    Simulator_State& S = Sim.State;
-    const auto Repair = [](std::string& Talker, const char* Default) {
-        if (Talker.empty()) Talker = Default;
-    };
-    for (const int I : {1, 2}) {
-        Repair(S.GNSS_Talker[I], "GP");
-        Repair(S.Gyro_Talker[I], "HE");
-        Repair(S.Log_Talker[I], "VW");
-        Repair(S.Echo_Talker[I], "SD");
-        Repair(S.Wind_Talker[I], "WI");
-    }
-    Repair(S.ARPA_Talker, "RA");
-    // A setup from before the GNSS configuration says nothing of these; GNS would leave without talker and mode.
-    for (int Slot = 1; Slot <= 6; ++Slot) {
-        Repair(S.GNS_Talker[Slot], "GP");
-        Repair(S.GNS_Mode_Indicator[Slot], "A");
-        Repair(S.GNSS_Systems_Text[Slot], "GPS");
-    }
 }
 
 std::string Main_Caption(const Simulator& Sim) {
@@ -121,7 +103,7 @@ void MDIForm_Load(Simulator& Sim) {
     Sim.Windows.Event([&] { Sim.Services.Disk().Make_Folder(S.Data_Folder); });
     Load_First_Setup(Sim);
     Name_Sensor_Slots(Sim);
-    Repair_Talkers(Sim);
+    Repair_Talkers(Sim.State);
     Init_Sky(Sim);
     Main.timer_Sky.Tick = [&Sim] { timer_Sky_Tick(Sim); };
     Main.timer_Sky.Set_Interval(Sky_Period_ms);

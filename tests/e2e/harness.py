@@ -17,7 +17,7 @@ import threading
 import time
 import unittest
 
-SOURCE = pathlib.Path(os.environ.get("BRINEWRIGHT_SOURCE", pathlib.Path(__file__).resolve().parents[2]))
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
 BIN = pathlib.Path(os.environ.get("BRINEWRIGHT_BIN", SOURCE / "build/release/bin"))
 HEADLESS = str(BIN / "brinewright-headless")
 CTL = str(BIN / "brinewright-ctl")

@@ -2,8 +2,6 @@
 
 #include "gnss_bench.hpp"
 
-#include "gnss/gnss_satellites.hpp"
-
 #include <cmath>
 #include <limits>
 #include <sstream>
@@ -141,11 +139,10 @@ TEST(GNSS_Satellites, GSV_Lists_Those_In_Use_Then_Those_In_View_Then_Nothing) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     auto& State = Bench.Sim.State;
-    W.GSV_Record.In_View = 13;
-    for (int I = 1; I <= 4; ++I)
-        State.Svs_In_View[I] = static_cast<std::int16_t>(I == 4 ? 0 : I); // 1, 2, 3, none
+    W.cmbInView.Set_List_Index(13);
     State.Svs_In_View[2] = 33;
     State.Svs_In_View[3] = 88;
+    State.Svs_In_View[4] = State.Svs_In_View[5] = 0;
     State.IEC450_Enabled = State.Use_g_Tag = true;
     Tick_GSV(Bench, W);
     ASSERT_EQ(Bench.Sent.size(), 4U);
@@ -163,36 +160,24 @@ TEST(GNSS_Satellites, GSV_Lists_Those_In_Use_Then_Those_In_View_Then_Nothing) {
         << Bench.Sent[3].Text;
     EXPECT_EQ(Fields(Bench.Sent[2].Text.substr(Bench.Sent[2].Text.find('$')) + ",")[16], "");
 
-    W.GSV_Record.In_View = 0;
+    W.cmbSats.Set_List_Index(0);
     Tick_GSV(Bench, W);
     EXPECT_TRUE(Bench.Sent.empty());
-    W.GSV_Record.In_View = 1;
+    W.cmbInView.Set_List_Index(1);
     Tick_GSV(Bench, W);
     ASSERT_EQ(Bench.Sent.size(), 1U);
     EXPECT_EQ(Bench.Sent[0].Text.front(), '*') << "a sentence alone has no group";
 }
 
-TEST(GNSS_Satellites, More_Than_Twelve_And_Identifiers_Without_A_Satellite) {
+TEST(GNSS_Satellites, An_Identifier_Without_A_Satellite_Goes_Out_Empty) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    const std::vector<std::int16_t> Thirteen{1, 2, 3, 4, 5, 6, 7, 8, 9, 33, 64, 65, 88};
-    Choose_Satellites(Bench.Sim.State, W, Thirteen);
-    EXPECT_EQ(W.GGA_Record.Sats, 13);
-    EXPECT_EQ(W.GSA_Record.PRN[10], 120);
-    EXPECT_EQ(W.GSA_Record.PRN[11], 151);
-    EXPECT_EQ(W.GSA_Record.PRN[12], 65);
-    EXPECT_EQ(Bench.Sim.State.Svs_In_Use[13], 88);
-    EXPECT_FALSE(Bench.Sim.State.Sky_Table[12].Used);
-    W.GSV_Record.In_View = 13;
     Bench.Sim.State.Svs_In_Use[1] = -5;
     Bench.Sim.State.Svs_In_Use[2] = 89;
     Tick_GSV(Bench, W);
-    ASSERT_EQ(Bench.Sent.size(), 4U);
-    EXPECT_EQ(Bench.Sent[0].Text.substr(0, 23), "$GPGSV,4,1,13,,,,,,,,,3");
-    W.GSV_Record.In_View = 32767;
-    W.GGA_Record.Sats = 32767;
-    Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
-    Tick_GSV(Bench, W);
+    ASSERT_EQ(Bench.Sent.size(), 2U);
+    EXPECT_EQ(Bench.Sent[0].Text.substr(0, 23), "$GPGSV,2,1,8,,,,,,,,,8,");
+    Bench.Sim.Windows.Event([&] { W.timer_GSVUpdate.Tick(); });
     EXPECT_EQ(Bench.Last_Box(), "");
 }
 

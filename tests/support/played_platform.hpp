@@ -161,7 +161,10 @@ class Played_Platform : public Virtual_Platform {
     }
     void Fail_If_Told(const std::string& What) const {
         const auto Found = Failures.find(What);
-        if (Found != Failures.end()) throw Run_Time_Error(Found->second);
+        if (Found == Failures.end()) return;
+        if (Found->second == "Device or resource busy") throw Device_Busy(Found->second);
+        if (Found->second == "Permission denied") throw Access_Refused(Found->second);
+        throw Run_Time_Error(Found->second);
     }
 };
 

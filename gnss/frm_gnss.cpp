@@ -1,0 +1,171 @@
+#include "gnss/frm_gnss.hpp"
+
+#include "gnss/control_text.hpp"
+#include "gnss/frm_position.hpp"
+#include "shell/number_text.hpp"
+#include "shell/simulator.hpp"
+
+namespace brinewright {
+
+namespace {
+
+struct GNSS_System {
+    const char* Name;
+    const char* Label;
+    const char* Talker; // when it is the only one
+};
+constexpr GNSS_System Known_Systems[] = {
+    {"GPS", "1 - GPS", "GP"}, {"GLONASS", "2 - GLONASS", "GL"}, {"Galileo", "3 - Galileo", "GA"},
+    {"BDS", "4 - BDS", "GB"}, {"QZSS", "5 - QZSS", "GQ"},       {"NavIC(IRNSS)", "6 - NavIC (IRNSS)", "GI"}};
+constexpr const char* Combined_Talker = "GN";
+
+constexpr const char* Modes[] = {"N - Not used or not valid",
+                                 "A - Autonomous.(Non-differential mode)",
+                                 "D - Differential",
+                                 "P - Precise(PPS or other precision mode)",
+                                 "R - RTK, fixed integers",
+                                 "F - RTK, floating integers",
+                                 "E - Estimated (Dead reckoning)",
+                                 "M - Manual Input",
+                                 "S - Simulator mode"};
+constexpr int Not_Used = 0;
+
+// In twentieths of a point.
+constexpr float Dialog_Width = 5955, Dialog_Height = 3420;
+constexpr float Place_Step = 1000; // right of and below the window
+
+char Mode_Letter(const GNSS_System_Row& Row) { return Row.cmbMode.Text().front(); }
+
+std::string Mode_Indicator(const frmGNSS& F) {
+    // The first system gives its letter whether it is used or not; unchecking has made it "N".
+    std::string Letters(1, Mode_Letter(F.Systems[0]));
+    std::size_t Kept = 1; // as far as the last system in use
+    for (std::size_t I = 1; I < F.Systems.size(); ++I) {
+        const bool Used = F.Systems[I].chkUse.Value();
+        Letters += Used ? Mode_Letter(F.Systems[I]) : 'N';
+        if (Used) Kept = I + 1;
+    }
+    return Letters.substr(0, Kept);
+}
+
+void chkUse_Click(frmGNSS& F, GNSS_System_Row& Row) {
+    Row.cmbMode.Enabled = Row.chkUse.Value();
+    if (!Row.chkUse.Value()) Row.cmbMode.Set_List_Index(Not_Used);
+    ReArrange(F);
+}
+
+void cmdOK_Click(Simulator& Sim, frmGNSS& F) {
+    Simulator_State& S = Sim.State;
+    S.GNSS_Config_Index =
+        static_cast<std::int16_t>(F.Instance); // the dialog of the other window may stand too
+    const int Slot = S.GNSS_Config_Index;
+    S.GNS_Mode_Indicator[Slot] = *F.lblGNSModeIndicator.Caption;
+    S.GNSS_Systems_Text[Slot] = *F.lblGNSS_Config.Caption;
+    S.GNS_Talker[Slot] = *F.lblGNSTalker.Caption;
+    for (const GNSS_System_Row& Row : F.Systems) {
+        const int System = Row.chkUse.Index + 1;
+        S.GNSS_System_Used[System][Slot] = Row.chkUse.Value();
+        S.GNSS_System_Mode[System][Slot] = static_cast<std::int16_t>(Row.cmbMode.List_Index());
+    }
+    if (const auto& Window = Sim.frmPosition_Instance[Slot]) Show_GNSS_Configuration(S, *Window);
+    Sim.Windows.Unload(F);
+}
+
+// The letters need every list to have a choice, hence the first loop. A stored mode that the list does not
+// have, as a setup file may hold, counts as not used.
+void Show_Stored(const Simulator_State& S, frmGNSS& F) {
+    const int Slot = F.Instance;
+    for (GNSS_System_Row& Row : F.Systems) {
+        Add_Items(Row.cmbMode, Modes);
+        Row.cmbMode.Set_List_Index(Not_Used);
+        Row.cmbMode.Enabled = false;
+    }
+    F.lblGNSModeIndicator.Caption = S.GNS_Mode_Indicator[Slot];
+    for (GNSS_System_Row& Row : F.Systems) {
+        Row.chkUse.Click = [&F, &Row] { chkUse_Click(F, Row); };
+        Row.cmbMode.Click = [&F] { ReArrange(F); };
+        const int System = Row.chkUse.Index + 1;
+        const int Stored = S.GNSS_System_Mode[System][Slot];
+        const int Mode = Stored >= 0 && Stored < static_cast<int>(std::size(Modes)) ? Stored : Not_Used;
+        Row.chkUse.Set_Value(S.GNSS_System_Used[System][Slot] || Mode > Not_Used);
+        Row.cmbMode.Set_List_Index(Mode);
+    }
+}
+
+} // namespace
+
+std::deque<GNSS_System_Row> System_Rows(Form& F) {
+    std::deque<GNSS_System_Row> Rows;
+    for (int Element = 0; Element < static_cast<int>(std::size(Known_Systems)); ++Element)
+        Rows.emplace_back(F, Element);
+    return Rows;
+}
+
+GNSS_System_Row::GNSS_System_Row(Form& F, int Element)
+    : lblGNSS_System(F, "lblGNSS_System", Known_Systems[Element].Label, Element),
+      chkUse(F, "chkUse", "Use", Element), cmbMode(F, "cmbMode", "", Element) {
+    const std::string Name = Known_Systems[Element].Name;
+    lblGNSS_System.Tool_Tip = "Mode and use of " + Name;
+    chkUse.Tool_Tip = Name + " is behind the fix";
+    cmbMode.Tool_Tip = "Mode of " + Name + ", a letter of the mode field of GNS";
+}
+
+frmGNSS::frmGNSS(Desktop& Its_Windows, int Slot) : Form(Its_Windows, "frmGNSS", Slot, Form_Kind::Dialog) {
+    Caption = "GNSS Configuration";
+    const struct {
+        Visible_Control& Part;
+        const char* Text;
+    } Tips[] = {
+        {lblModeIndicatorTitle, "Mode field of GNS: one letter a system"},
+        {lblGNSModeIndicator, "Mode field of GNS: one letter a system, 1 to 6 of them"},
+        {lblSystemsTitle, "The systems behind the fix"},
+        {lblGNSS_Config, "The systems behind the fix"},
+        {lblTalkerTitle, "Talker of GNS"},
+        {lblGNSTalker, "Talker of GNS: GN unless exactly one system is in use"},
+        {cmdOK, "GNS changes with its next sentence"},
+        {cmdCancel, "GNS stays as it is"},
+    };
+    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+}
+
+void cmdGNSS_Click(Simulator& Sim, frmPosition& W) {
+    Sim.State.GNSS_Config_Index = static_cast<std::int16_t>(W.Instance);
+    std::shared_ptr<frmGNSS>& Place = Sim.frmGNSS_Instance[W.Instance];
+    if (Place) {
+        Sim.Windows.Activate(*Place);
+        return;
+    }
+    auto Dialog = std::make_shared<frmGNSS>(Sim.Windows, W.Instance);
+    frmGNSS& F = *Dialog;
+    F.Set_Caption("GNSS" + Number_Text(W.Instance) + " Configuration");
+    F.Set_Place(W.Left + Place_Step, W.Top + Place_Step, Dialog_Width, Dialog_Height);
+    Show_Stored(Sim.State, F);
+    F.cmdOK.Click = [&Sim, &F] { cmdOK_Click(Sim, F); };
+    F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
+    F.On_Unload = [&Sim, Slot = W.Instance] { Sim.frmGNSS_Instance[Slot].reset(); };
+    Place = Dialog;
+    Sim.Windows.Show(std::move(Dialog));
+}
+
+void ReArrange(frmGNSS& F) {
+    F.lblGNSModeIndicator.Caption = Mode_Indicator(F);
+    std::string Names;
+    const char* Talker = Combined_Talker;
+    int Count = 0;
+    for (const GNSS_System_Row& Row : F.Systems) {
+        if (!Row.chkUse.Value()) continue;
+        const GNSS_System& System = Known_Systems[Row.chkUse.Index];
+        Names += (Count == 0 ? "" : "-") + std::string(System.Name);
+        Talker = ++Count == 1 ? System.Talker : Combined_Talker;
+    }
+    F.lblGNSS_Config.Caption = Names;
+    F.lblGNSTalker.Caption = std::string(Talker);
+}
+
+void Show_GNSS_Configuration(const Simulator_State& State, frmPosition& W) {
+    W.lblGNS_ModeIndicator.Caption = State.GNS_Mode_Indicator[W.Instance];
+    W.lblGNSS.Caption = State.GNSS_Systems_Text[W.Instance];
+    W.lblGNS_Talker.Caption = State.GNS_Talker[W.Instance];
+}
+
+} // namespace brinewright

@@ -1,0 +1,220 @@
+#include "links/frm_setup.hpp"
+
+#include "gnss/frm_position.hpp"
+#include "links/port_detection.hpp"
+#include "links/port_validation.hpp"
+#include "links/serial_ports.hpp"
+#include "sentences/number_pattern.hpp"
+#include "shell/frm_main.hpp"
+#include "shell/frm_traffic.hpp"
+#include "shell/number_text.hpp"
+#include "shell/simulator.hpp"
+
+#include <array>
+
+namespace brinewright {
+
+namespace {
+
+constexpr int Frames_Per_Column = 8;
+constexpr std::int32_t Usual_Baud_Rate = 4800, Usual_TCP_Port = 8040;
+
+template <std::size_t Count>
+void Fill(Combo_Box& List, const std::array<const char*, Count>& Entries, const char* Tip) {
+    for (const char* Entry : Entries) List.Add_Item(Entry);
+    List.Tool_Tip = std::string(Tip);
+}
+
+void Fill_Lists(frmSetup& F) {
+    for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {
+        Fill<3>(F.cmbBaudRate[Port], {"4800", "9600", "19200"}, "Baud rate, bits per second");
+        Fill<2>(F.cmbDataBits[Port], {"8", "7"}, "Data bits of a character");
+        Fill<3>(F.cmbParity[Port], {"none", "even", "odd"}, "Parity");
+        Fill<2>(F.cmbStopBits[Port], {"1", "2"}, "Stop bits of a character");
+    }
+}
+
+// A text that the list does not have keeps what it shows.
+void Choose_Text(Combo_Box& List, const std::string& Text) {
+    const auto& Items = List.Items();
+    for (std::size_t I = 0; I < Items.size(); ++I)
+        if (Items[I].Text == Text) return List.Set_List_Index(static_cast<int>(I));
+}
+
+std::string Port_Caption(Simulator& Sim, int Port) {
+    const std::string Device = Sim.Services.Device_Of(Port);
+    return "COM" + Number_Text(Port) + (Device.empty() ? "" : "  " + Device);
+}
+
+void Arrange_Frames(frmSetup& F) {
+    int Shown = 0;
+    for (int Port = 1; Port <= port_number::Last_Serial; ++Port)
+        if (*F.frameCOMport[Port].Visible) {
+            F.Places[Port] = {Shown / Frames_Per_Column, Shown % Frames_Per_Column};
+            ++Shown;
+        }
+}
+
+void Show_Serial_Ports(Simulator& Sim, frmSetup& F) {
+    for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {
+        const Port_Setting& Setting = Sim.State.Port_Table[Port];
+        Show_Port(Sim, F, Port, Setting.Present);
+        if (!Setting.Present) continue;
+        F.chkEnable[Port].Set_Value(Setting.Enabled);
+        Choose_Text(F.cmbBaudRate[Port], std::to_string(Setting.BaudRate));
+        Choose_Text(F.cmbDataBits[Port], std::to_string(Setting.DataBits));
+        Choose_Text(F.cmbParity[Port], Setting.Parity);
+        Choose_Text(F.cmbStopBits[Port], std::to_string(Setting.StopBits));
+    }
+}
+
+// The label stands in front of the number of the link, or says that none is set.
+void Label_UDP_Link(frmSetup& F, int K) {
+    F.lblAvailable[port_number::TCP + K].Caption =
+        std::string(F.txtUDP_port[K].Text().empty() ? "UDP available" : "UDP Port : ");
+}
+
+void Show_Network_Links(Simulator& Sim, frmSetup& F) {
+    const Simulator_State& S = Sim.State;
+    F.lblIP.Caption = " IP " + Sim.Services.Local_IP();
+    F.frameCOMport[port_number::TCP].Caption = std::string("TCP/IP Port");
+    F.txtPort.Set_Text(std::to_string(S.TCP_Port == 0 ? Usual_TCP_Port : S.TCP_Port));
+    F.txtPort.Tool_Tip = std::string("Port that the server listens on, 1024 to 65535");
+    for (int Port = port_number::TCP; Port <= port_number::Last; ++Port)
+        F.chkEnable[Port].Set_Value(S.Port_Table[Port].Enabled);
+    for (int K = 1; K <= UDP_Link_Count; ++K) {
+        Text_Box& Box = F.txtUDP_port[K];
+        const std::int32_t Number = S.UDP_Port_Number[K - 1];
+        F.frameCOMport[port_number::TCP + K].Caption = "UDP Port" + Number_Text(K);
+        Box.Tool_Tip = std::string("Port that the datagrams go to, 1 to 65535");
+        Box.Change = [&F, K] { Label_UDP_Link(F, K); };
+        Box.Set_Text(Number == 0 ? "" : std::to_string(Number));
+        Label_UDP_Link(F, K);
+    }
+    if (!S.UDP_Remote_Host.empty()) F.txtUDP_RemoteHost.Set_Text(S.UDP_Remote_Host);
+    F.txtUDP_RemoteHost.Tool_Tip =
+        std::string("Address that all UDP links send to in Unicast, 1.0.0.1 to 255.255.255.255");
+    F.optUDPMode.Click = [&F](int Mode) { F.txtUDP_RemoteHost.Enabled = Mode != 0; };
+    F.optUDPMode.Select(S.UDP_Mode != 0 ? 1 : 0);
+}
+
+bool Take_Enable(const frmSetup& F, int Port, Port_Setting& Setting) {
+    Setting.Present = *F.frameCOMport[Port].Visible && *F.chkEnable[Port].Enabled;
+    Setting.Enabled = Setting.Present && F.chkEnable[Port].Value();
+    return Setting.Present;
+}
+
+// A list that shows nothing, because the setup holds a value that it does not have, leaves that value as it
+// was; only the baud rate becomes the usual one.
+void Take_Line_Settings(const frmSetup& F, int Port, Port_Setting& Setting) {
+    const auto Take = [](const Combo_Box& List, std::int16_t& Value) {
+        if (!List.Text().empty()) Value = static_cast<std::int16_t>(Val_Dot(List.Text()));
+    };
+    const std::string& Baud_Rate = F.cmbBaudRate[Port].Text();
+    Setting.BaudRate = Baud_Rate.empty() ? Usual_Baud_Rate : static_cast<std::int32_t>(Val_Dot(Baud_Rate));
+    Take(F.cmbDataBits[Port], Setting.DataBits);
+    if (!F.cmbParity[Port].Text().empty()) Setting.Parity = F.cmbParity[Port].Text();
+    Take(F.cmbStopBits[Port], Setting.StopBits);
+}
+
+void Rebuild_Port_Lists(Simulator& Sim) {
+    for (std::int16_t Index = 1; Index <= 11; ++Index) {
+        const Menu_Item* Item = Sim.Main->mnuOpenForm(Index);
+        if (!Item || !*Item->Checked) continue;
+        Sim.State.Open_Form_Index = Index;
+        Rebuild_Port_List(Sim, *Sim.frmPosition_Instance[Index]);
+    }
+    if (Sim.Traffic) Rebuild_Port_List(Sim, *Sim.Traffic);
+}
+
+void cmdOK_Click(Simulator& Sim, frmSetup& F) {
+    Simulator_State& S = Sim.State;
+    S.Present_Port_Count = 0;
+    for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {
+        if (!Take_Enable(F, Port, S.Port_Table[Port])) continue;
+        ++S.Present_Port_Count;
+        Take_Line_Settings(F, Port, S.Port_Table[Port]);
+    }
+    S.TCP_Port = static_cast<std::int32_t>(Val_Dot(F.txtPort.Text()));
+    S.UDP_Remote_Host = F.txtUDP_RemoteHost.Text();
+    S.UDP_Mode = static_cast<std::int16_t>(F.optUDPMode.Selected());
+    for (int K = 1; K <= UDP_Link_Count; ++K)
+        S.UDP_Port_Number[K - 1] = static_cast<std::int32_t>(Val_Dot(F.txtUDP_port[K].Text()));
+    for (int Port = port_number::TCP; Port <= port_number::Last; ++Port)
+        Take_Enable(F, Port, S.Port_Table[Port]);
+    Init_Comports(Sim, S.Present_Port_Count);
+    Rebuild_Port_Lists(Sim);
+    Sim.Windows.Unload(F);
+}
+
+void cmdReset_Click(Simulator& Sim, frmSetup& F) {
+    Sim.State.Ports_Initialised = false;
+    for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {
+        Sim.State.Port_Table[Port].Present = false;
+        Sim.State.Port_Table[Port].Enabled = false;
+    }
+    Sim.Windows.Unload(F);
+    mnuSetupPort_Click(Sim);
+}
+
+void cmdComInfo_Click(Simulator& Sim) {
+    if (Sim.ComportInfo) return Sim.Windows.Activate(*Sim.ComportInfo);
+    Sim.ComportInfo = std::make_shared<frmComportInfo>(Sim.Windows);
+    frmComportInfo& F = *Sim.ComportInfo;
+    F.cmdOK.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
+    F.On_Unload = [&Sim] { Sim.ComportInfo.reset(); };
+    Sim.Windows.Show(Sim.ComportInfo);
+}
+
+void frmSetup_Load(Simulator& Sim, frmSetup& F) {
+    F.cmdOK.Click = [&Sim, &F] { cmdOK_Click(Sim, F); };
+    F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
+    F.cmdReset.Click = [&Sim, &F] { cmdReset_Click(Sim, F); };
+    F.cmdComInfo.Click = [&Sim] { cmdComInfo_Click(Sim); };
+    F.On_Unload = [&Sim] {
+        Sim.Setup.reset();
+        if (Sim.Progress) Sim.Windows.Unload(*Sim.Progress);
+    };
+    Fill_Lists(F);
+    Show_Network_Links(Sim, F);
+    Wire_Validation(Sim, F);
+    if (Sim.State.Ports_Initialised) return Show_Serial_Ports(Sim, F);
+    for (int Port = 1; Port <= port_number::Last_Serial; ++Port) Show_Port(Sim, F, Port, false);
+    Start_Detection(Sim, F);
+}
+
+} // namespace
+
+frmSetup::frmSetup(Desktop& Its_Windows)
+    : Form(Its_Windows, "frmSetup", 0, Form_Kind::Dialog), frameCOMport(*this, "frameCOMport", ""),
+      chkEnable(*this, "chkEnable", "Enable for use"), lblAvailable(*this, "lblAvailable", ""),
+      cmbBaudRate(*this, "cmbBaudRate", ""), cmbDataBits(*this, "cmbDataBits", ""),
+      cmbParity(*this, "cmbParity", ""), cmbStopBits(*this, "cmbStopBits", ""),
+      txtUDP_port(*this, "txtUDP_port", "") {
+    Caption = "Port settings - Available COM ports";
+    cmdReset.Tool_Tip = std::string("Forgets the ports and looks for them again");
+}
+
+frmComportInfo::frmComportInfo(Desktop& Its_Windows)
+    : Form(Its_Windows, "frmComportInfo", 0, Form_Kind::Dialog) {
+    Caption = "    Comport Information";
+}
+
+void Show_Port(Simulator& Sim, frmSetup& F, int Port, bool Shown) {
+    // Asked only for ports that are there: a number without a device makes the platform look for new ones.
+    F.frameCOMport[Port].Caption = Shown ? Port_Caption(Sim, Port) : "COM" + Number_Text(Port);
+    const std::array<Visible_Control*, 7> Parts{
+        &F.frameCOMport[Port], &F.chkEnable[Port], &F.lblAvailable[Port], &F.cmbBaudRate[Port],
+        &F.cmbDataBits[Port],  &F.cmbParity[Port], &F.cmbStopBits[Port]};
+    for (Visible_Control* Part : Parts) Part->Visible = Shown;
+    Arrange_Frames(F);
+}
+
+void mnuSetupPort_Click(Simulator& Sim) {
+    if (Sim.Setup) return Sim.Windows.Activate(*Sim.Setup);
+    Sim.Setup = std::make_shared<frmSetup>(Sim.Windows);
+    Sim.Windows.Show(Sim.Setup);
+    frmSetup_Load(Sim, *Sim.Setup);
+}
+
+} // namespace brinewright

@@ -1,0 +1,137 @@
+// The constellation dialog: mode field, names and talker of GNS.
+
+#include "gnss_bench.hpp"
+
+#include "gnss/frm_gnss.hpp"
+
+namespace brinewright {
+namespace {
+
+struct Dialog_Bench : GNSS_Bench {
+    frmGNSS& Configure(int Slot = 1) {
+        Sim.Windows.Event([&] { Click(Window(Slot).cmdGNSS); });
+        return *Sim.frmGNSS_Instance[Slot];
+    }
+    void Use(frmGNSS& F, std::size_t System, int Mode) {
+        if (!F.Systems[System].chkUse.Value()) Click(F.Systems[System].chkUse);
+        Sim.Windows.User_Set(F.Systems[System].cmbMode, std::int64_t{Mode});
+    }
+    void Press(Button& B) {
+        Sim.Windows.Event([&] { Click(B); });
+    }
+    std::string GNS(int Slot = 1) {
+        Sent.clear();
+        Sim.Windows.Event([&] { Window(Slot).timer_GNS.Tick(); });
+        const std::string& Text = Sent.at(0).Text;
+        const std::size_t Mode = Text.find("E,") + 2; // behind the position
+        return Text.substr(1, 2) + " " + Text.substr(Mode, Text.find(',', Mode) - Mode);
+    }
+};
+
+std::string Shown(const frmGNSS& F) {
+    return *F.lblGNSModeIndicator.Caption + " " + *F.lblGNSS_Config.Caption + " " + *F.lblGNSTalker.Caption;
+}
+
+TEST(GNSS_Configuration, Opens_On_The_Stored_Settings_Beside_Its_Window) {
+    Dialog_Bench Bench;
+    frmPosition& W = Bench.Open(2);
+    W.Set_Place(300, 400, 7000, 9330);
+    EXPECT_EQ(*W.lblGNS_ModeIndicator.Caption + *W.lblGNSS.Caption + *W.lblGNS_Talker.Caption, "AGPSGP");
+    frmGNSS& F = Bench.Configure(2);
+    EXPECT_EQ(F.Caption, "GNSS 2 Configuration");
+    EXPECT_EQ(F.Path(), "frmGNSS[2]");
+    EXPECT_TRUE(F.Left == 1300 && F.Top == 1400 && F.Width == 5955 && F.Height == 3420);
+    EXPECT_EQ(Bench.Sim.State.GNSS_Config_Index, 2);
+    EXPECT_EQ(Shown(F), "A GPS GP");
+    ASSERT_EQ(F.Systems.size(), 6U);
+    EXPECT_EQ(*F.Systems[5].lblGNSS_System.Caption, "6 - NavIC (IRNSS)");
+    for (const GNSS_System_Row& Row : F.Systems) {
+        const bool GPS = Row.chkUse.Index == 0;
+        EXPECT_EQ(Row.chkUse.Value(), GPS);
+        EXPECT_EQ(*Row.cmbMode.Enabled, GPS);
+        EXPECT_EQ(Row.cmbMode.Items().size(), 9U);
+        EXPECT_EQ(Row.cmbMode.Text(),
+                  GPS ? "A - Autonomous.(Non-differential mode)" : "N - Not used or not valid");
+    }
+    for (const Control* C : F.Controls)
+        EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
+    Bench.Configure(2);
+    EXPECT_EQ(Bench.Sim.frmGNSS_Instance[2].get(), &F) << "the second press finds it open";
+    EXPECT_EQ(Bench.Last_Box(), "");
+}
+
+TEST(GNSS_Configuration, Letters_Names_And_Talker_Follow_The_Choice) {
+    Dialog_Bench Bench;
+    Bench.Open();
+    frmGNSS& F = Bench.Configure();
+    const auto Drop = [&](std::size_t System) { Bench.Click(F.Systems[System].chkUse); };
+    Bench.Use(F, 2, 1);
+    EXPECT_EQ(Shown(F), "ANA GPS-Galileo GN");
+    Drop(2);
+    Bench.Use(F, 1, 1);
+    EXPECT_EQ(Shown(F), "AA GPS-GLONASS GN");
+    Drop(0);
+    Bench.Use(F, 1, 2);
+    EXPECT_EQ(Shown(F), "ND GLONASS GL");
+    Drop(1);
+    EXPECT_EQ(F.Systems[1].cmbMode.List_Index(), 0);
+    EXPECT_THROW(Bench.Click(F.Systems[1].cmbMode), User_Refusal);
+    EXPECT_EQ(Shown(F), "N  GN");
+    Bench.Use(F, 0, 1);
+    Bench.Use(F, 5, 1);
+    EXPECT_EQ(Shown(F), "ANNNNA GPS-NavIC(IRNSS) GN");
+    Drop(0);
+    EXPECT_EQ(Shown(F), "NNNNNA NavIC(IRNSS) GI");
+    const char* const Talkers[] = {"GP", "GL", "GA", "GB", "GQ", "GI"};
+    Drop(5);
+    for (std::size_t I = 0; I < 6; ++I) {
+        Bench.Use(F, I, 8);
+        EXPECT_EQ(*F.lblGNSTalker.Caption, Talkers[I]);
+        EXPECT_EQ(*F.lblGNSModeIndicator.Caption, std::string(I, 'N') + "S");
+        Drop(I);
+    }
+}
+
+TEST(GNSS_Configuration, OK_Reaches_The_Next_GNS_And_Cancel_Nothing) {
+    Dialog_Bench Bench;
+    Bench.Open(1);
+    Bench.Open(2);
+    frmGNSS& F = Bench.Configure();
+    Bench.Use(F, 3, 4);
+    EXPECT_EQ(Bench.GNS(), "GP A") << "nothing before OK";
+    Bench.Press(F.cmdCancel);
+    EXPECT_FALSE(Bench.Sim.frmGNSS_Instance[1]);
+    EXPECT_EQ(Bench.GNS(), "GP A");
+
+    frmGNSS& Again = Bench.Configure();
+    EXPECT_EQ(Shown(Again), "A GPS GP");
+    Bench.Use(Again, 3, 4);
+    Bench.Configure(2); // a second dialog takes the slot over
+    Bench.Press(Again.cmdOK);
+    EXPECT_EQ(Bench.GNS(), "GN ANNR");
+    EXPECT_EQ(Bench.GNS(2), "GP A");
+    EXPECT_EQ(*Bench.Window().lblGNS_ModeIndicator.Caption, "ANNR");
+    EXPECT_EQ(*Bench.Window().lblGNSS.Caption, "GPS-BDS");
+    EXPECT_EQ(*Bench.Window().lblGNS_Talker.Caption, "GN");
+    EXPECT_TRUE(Bench.Sim.State.GNSS_System_Used[4][1]);
+    EXPECT_EQ(Bench.Sim.State.GNSS_System_Mode[4][1], 4);
+    EXPECT_EQ(Shown(Bench.Configure()), "ANNR GPS-BDS GN");
+}
+
+TEST(GNSS_Configuration, Survives_Stored_Garbage_And_A_Window_That_Closes) {
+    Dialog_Bench Bench;
+    Bench.Sim.State.GNSS_System_Mode[2][1] = 99;
+    Bench.Sim.State.GNSS_System_Mode[3][1] = -1;
+    Bench.Sim.State.GNSS_System_Used[4][1] = true;
+    Bench.Open();
+    frmGNSS& F = Bench.Configure();
+    EXPECT_EQ(Shown(F), "ANNN GPS-BDS GN");
+    Bench.Close();
+    Bench.Press(F.cmdOK);
+    EXPECT_EQ(Bench.Sim.State.GNS_Mode_Indicator[1], "ANNN");
+    EXPECT_EQ(*Bench.Open().lblGNS_ModeIndicator.Caption, "ANNN");
+    EXPECT_EQ(Bench.Last_Box(), "");
+}
+
+} // namespace
+} // namespace brinewright

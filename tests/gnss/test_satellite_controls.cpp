@@ -1,0 +1,193 @@
+// The boxes of the satellites, their number, those in view and the table: who drives whom.
+
+#include "gnss_bench.hpp"
+
+namespace brinewright {
+namespace {
+
+std::vector<int> Checked(const frmPosition& W) {
+    std::vector<int> Found;
+    for (const auto& Box : W.chkSv)
+        if (Box->Value()) Found.push_back(Box->Index);
+    for (const auto& Box : W.chkGLSv)
+        if (Box->Value()) Found.push_back(Box->Index + 64);
+    for (int I = 0; I <= 6; ++I)
+        if (W.chkWAASSv[I].Value()) Found.push_back(std::stoi(*W.chkWAASSv[I].Caption));
+    return Found;
+}
+
+template <class List>
+std::vector<int> Filled(const List& Numbers) {
+    std::vector<int> Found;
+    for (const std::int16_t N : Numbers)
+        if (N != 0) Found.push_back(N);
+    return Found;
+}
+
+std::string Numbers_In_Table(const frmPosition& W) {
+    std::string Found;
+    for (int Row = 0; Row < W.hfgGSV.Rows(); ++Row) Found += W.hfgGSV.At(Row, 0).Text + " ";
+    return Found;
+}
+
+void Choose(GNSS_Bench& Bench, Combo_Box& List, int Entry) {
+    Bench.Sim.Windows.User_Set(List, std::int64_t{Entry});
+}
+
+void Tick(GNSS_Bench& Bench, Timer& Clock) {
+    Bench.Sent.clear();
+    Bench.Sim.Windows.Event([&] { Clock.Tick(); });
+}
+
+using Ints = std::vector<int>;
+
+TEST(GNSS_Satellite_Controls, Open_With_Their_Captions_And_Choices) {
+    GNSS_Bench Bench;
+    const frmPosition& W = Bench.Open();
+    EXPECT_EQ(*W.chkSv[3].Caption, "03");
+    EXPECT_EQ(*W.chkGLSv[24].Caption, "24");
+    EXPECT_EQ(*W.chkWAASSv[1].Caption, "124 ");
+    EXPECT_EQ(*W.chkWAASSv[6].Tool_Tip, "137 (MTSAT-2) NMEA Index 50");
+    EXPECT_EQ(W.cmbSats.Items().size(), 64U);
+    EXPECT_EQ(W.cmbSats.Text(), "8");
+    EXPECT_EQ(W.cmbInView.Text(), "8");
+    EXPECT_EQ(W.hfgGSV.Rows(), 8);
+    EXPECT_EQ(Numbers_In_Table(W), "03 06 08 12 19 24 25 32 ");
+    EXPECT_EQ(*W.hfgGSV.Width, 2050);
+    EXPECT_FALSE(*W.lblGSAWarning.Visible);
+    EXPECT_EQ(W.timer_GSVUpdate.Interval_ms(), 60'000);
+}
+
+TEST(GNSS_Satellite_Controls, The_Number_Takes_The_Lowest_Free_And_Gives_Up_The_Last) {
+    GNSS_Bench Bench;
+    frmPosition& W = Bench.Open();
+    Choose(Bench, W.cmbSats, 10);
+    EXPECT_EQ(Checked(W), (Ints{1, 2, 3, 6, 8, 12, 19, 24, 25, 32}));
+    Choose(Bench, W.cmbSats, 8);
+    EXPECT_EQ(Checked(W), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
+    EXPECT_EQ(Filled(Bench.Sim.State.Svs_In_Use), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
+
+    // GPS first, then GLONASS, then SBAS; given up GLONASS, SBAS, GPS.
+    Choose(Bench, W.cmbSats, 58);
+    EXPECT_EQ(Checked(W).back(), 124);
+    EXPECT_EQ(W.GGA_Record.Sats, 58);
+    Choose(Bench, W.cmbSats, 33);
+    EXPECT_TRUE(W.chkWAASSv[0].Value());
+    EXPECT_FALSE(W.chkWAASSv[1].Value());
+    EXPECT_FALSE(W.chkGLSv[1].Value());
+    Choose(Bench, W.cmbSats, 63);
+    EXPECT_EQ(Checked(W).size(), 63U);
+    EXPECT_FALSE(W.chkWAASSv[7].Value());
+    Bench.Click(W.chkWAASSv[7]);
+    EXPECT_EQ(W.cmbSats.Text(), "63") << "the last box has no satellite";
+
+    Choose(Bench, W.cmbSats, 0);
+    EXPECT_EQ(Checked(W), Ints{});
+    EXPECT_EQ(W.hfgGSV.Rows(), 0);
+    Tick(Bench, W.timer_GSV);
+    EXPECT_TRUE(Bench.Sent.empty());
+    Tick(Bench, W.timer_GSA);
+    EXPECT_EQ(Bench.Sent.at(0).Text, Framed("GPGSA,A,3,,,,,,,,,,,,,2.6,1.4,2.2"));
+}
+
+TEST(GNSS_Satellite_Controls, The_Boxes_Set_The_Number_And_The_Lists) {
+    GNSS_Bench Bench;
+    frmPosition& W = Bench.Open();
+    Choose(Bench, W.cmbInView, 20);
+    for (Check_Box* Box : {&W.chkGLSv[1], &W.chkWAASSv[0], &W.chkWAASSv[2], &W.chkSv[1]}) Bench.Click(*Box);
+    EXPECT_EQ(Filled(Bench.Sim.State.Svs_In_Use), (Ints{1, 3, 6, 8, 12, 19, 24, 25, 32, 33, 44, 65}));
+    EXPECT_EQ(Numbers_In_Table(W), "01 03 06 08 12 19 24 25 32 120 131 GL01 ");
+    EXPECT_EQ(W.cmbSats.Text(), "12");
+    EXPECT_EQ(W.cmbInView.Text(), "12") << "as many in view as in use again";
+    EXPECT_EQ(Checked(W).size(), 12U) << "the number must not drive the boxes back";
+    EXPECT_FALSE(*W.lblGSAWarning.Visible);
+
+    Bench.Click(W.chkGLSv[24]);
+    EXPECT_TRUE(*W.lblGSAWarning.Visible);
+    EXPECT_EQ(W.cmbSats.Text(), "13");
+    Tick(Bench, W.timer_GSA);
+    EXPECT_EQ(Bench.Sent.at(0).Text, Framed("GPGSA,A,3,1,3,6,8,12,19,24,25,32,120,131,65,2.6,1.4,2.2"));
+    Tick(Bench, W.timer_GSV);
+    ASSERT_EQ(Bench.Sent.size(), 4U);
+    EXPECT_EQ(Bench.Sent[2].Text.substr(0, 19), "$GPGSV,4,3,13,32,0,");
+    EXPECT_NE(Bench.Sent[2].Text.find(",120,"), std::string::npos);
+    EXPECT_EQ(Bench.Sent[3].Text.substr(0, 17), "$GPGSV,4,4,13,88,");
+    Tick(Bench, W.timer_GGA);
+    EXPECT_NE(Bench.Sent.at(0).Text.find(",1,13,1.4,"), std::string::npos);
+    Bench.Click(W.chkSv[1]);
+    EXPECT_FALSE(*W.lblGSAWarning.Visible);
+    Choose(Bench, W.cmbSats, 13);
+    EXPECT_TRUE(*W.lblGSAWarning.Visible);
+}
+
+TEST(GNSS_Satellite_Controls, In_View_Adds_Free_GPS_Satellites_And_Refuses_Fewer_Than_In_Use) {
+    GNSS_Bench Bench;
+    frmPosition& W = Bench.Open();
+    Choose(Bench, W.cmbInView, 10);
+    EXPECT_EQ(Numbers_In_Table(W), "03 06 08 12 19 24 25 32 01 02 ");
+    EXPECT_EQ(W.hfgGSV.At(7, 0).Colour, Ink::Black);
+    EXPECT_EQ(W.hfgGSV.At(8, 0).Colour, Ink::Red);
+    EXPECT_EQ(Filled(Bench.Sim.State.Svs_In_View).size(), 24U) << "all free ones, not just two";
+    EXPECT_TRUE(Bench.Sim.State.Sky_Table[31].In_View);
+    Choose(Bench, W.cmbInView, 20);
+    EXPECT_EQ(*W.hfgGSV.Width, 2350);
+
+    Choose(Bench, W.cmbInView, 7);
+    EXPECT_EQ(Bench.Last_Box(), "Satellites in view can not be less than used satellites");
+    EXPECT_EQ(Bench.Sim.Windows.Boxes.Standing.back().Title, "Illegal choice");
+    EXPECT_EQ(Bench.Box_Count(), 1U);
+    EXPECT_EQ(W.cmbInView.Text(), "8");
+    EXPECT_EQ(W.GSV_Record.In_View, 8);
+    Bench.Sim.Windows.Boxes.Answer(1);
+
+    Choose(Bench, W.cmbInView, 34); // two more than there are
+    EXPECT_EQ(W.hfgGSV.At(31, 0).Text, "31");
+    EXPECT_EQ(W.hfgGSV.At(33, 0).Text, "00");
+    EXPECT_EQ(W.hfgGSV.At(33, 1).Text, "");
+    Tick(Bench, W.timer_GSV);
+    ASSERT_EQ(Bench.Sent.size(), 9U);
+    EXPECT_EQ(Bench.Sent[8].Text, Framed("GPGSV,9,9,34,,,,,,,,,,,,,,,,"));
+    EXPECT_EQ(Bench.Last_Box(), "");
+}
+
+TEST(GNSS_Satellite_Controls, The_Table_Rounds_And_Follows_The_Sky_Once_A_Minute) {
+    GNSS_Bench Bench;
+    frmPosition& W = Bench.Open();
+    Choose(Bench, W.cmbInView, 9);
+    for (const int I : {1, 3}) {
+        Sky_Satellite& S = Bench.Sim.State.Sky_Table[I];
+        S.Elevation = 62.5F;
+        S.Azimuth = 7.25F;
+        S.SNR = -0.25F;
+    }
+    EXPECT_EQ(W.hfgGSV.At(0, 1).Text, "00");
+    W.timer_GSVUpdate.Set_Interval(60'000);
+    Bench.Sim.Main->timer_Sky.Set_Interval(0); // keep the values
+    Bench.Run_For(60);
+    const auto Row = [&](int R) {
+        return W.hfgGSV.At(R, 1).Text + " " + W.hfgGSV.At(R, 2).Text + " " + W.hfgGSV.At(R, 3).Text;
+    };
+    EXPECT_EQ(Row(0), "62 007 00") << "in use: to the even integer first";
+    EXPECT_EQ(Row(8), "63 007 -00") << "in view: the value itself in the pattern";
+}
+
+TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
+    GNSS_Bench Bench;
+    frmPosition& First = Bench.Open(1);
+    frmPosition& Second = Bench.Open(2);
+    Bench.Click(Second.chkSv[3]);
+    Bench.Click(Second.chkGLSv[2]);
+    EXPECT_FALSE(Bench.Sim.State.Sky_Table[3].Used);
+    EXPECT_TRUE(First.chkSv[3].Value()) << "the boxes of the other window stay";
+    EXPECT_EQ(First.GSA_Record.PRN[1], 3);
+    for (frmPosition* W : {&First, &Second}) {
+        Tick(Bench, W->timer_GSV);
+        EXPECT_EQ(Bench.Sent.at(0).Text.substr(0, 15), "$GPGSV,2,1,8,6,");
+        EXPECT_NE(Bench.Sent.at(1).Text.find(",66,"), std::string::npos);
+    }
+    Choose(Bench, First.cmbInView, 9);
+    EXPECT_EQ(Bench.Sim.State.Svs_In_View[3], 3) << "free by the other window's choice";
+}
+
+} // namespace
+} // namespace brinewright
