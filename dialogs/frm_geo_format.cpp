@@ -45,7 +45,8 @@ std::vector<std::string> Format_Captions() {
 } // namespace
 
 frmGeoFormat::frmGeoFormat(Desktop& Its_Windows)
-    : Form(Its_Windows, "frmGeoFormat", 0, Form_Kind::Dialog), optFormat(*this, "optFormat", Format_Captions()) {
+    : Form(Its_Windows, "frmGeoFormat", 0, Form_Kind::Dialog),
+      optFormat(*this, "optFormat", Format_Captions()) {
     Caption = "Geographic Co-ordinates Format Selection";
 }
 

@@ -24,10 +24,10 @@ namespace brinewright {
 namespace {
 
 // Lengths in twentieths of a point.
-constexpr int GGA_Width = 7095;
-constexpr int GSA_Width = 5295;
-constexpr int GSV_Width = 2775;
-constexpr int GST_Width = 3615;
+constexpr int GGA_Width = 11400;
+constexpr int GSA_Width = 4800;
+constexpr int GSV_Width = 3750;
+constexpr int GST_Width = 150;    // it stands below GSV
 constexpr int Alone_Margin = 300; // right of frmGGA when it stands alone
 constexpr int Margin = 200;       // right of the last frame otherwise
 constexpr float Sensor_Height = 9330;

@@ -15,8 +15,8 @@ namespace socket_state {
 inline constexpr int Closed = 0, Listening = 2, Connected = 7, Closing = 8, Failed = 9;
 } // namespace socket_state
 
-// One element of WinsockArray: the one that listens, a client, or a client that has gone. Elements are never used
-// again. There is one listening socket in truth; which element listens is bookkeeping.
+// One element of WinsockArray: the one that listens, a client, or a client that has gone. Elements are never
+// used again. There is one listening socket in truth; which element listens is bookkeeping.
 struct TCP_Element {
     int State = socket_state::Closed;
     std::string Tag;

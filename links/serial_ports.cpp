@@ -28,8 +28,9 @@ void Open_Comport(Simulator& Sim, int Index) {
         if (Port.Is_Open()) Port.Close();
         Port.Open(Settings_Text(Sim.State.Port_Table[Index]));
     } catch (const Run_Time_Error& Failure) {
-        Sim.Windows.Boxes.Show(std::string(Failure.what()) + ". Comport " + Number_Text(Index) +
-                               " not available! Please re-arrange your COM Setup! (Use Reset buttom on Com Setup)");
+        Sim.Windows.Boxes.Show(
+            std::string(Failure.what()) + ". Comport " + Number_Text(Index) +
+            " not available! Please re-arrange your COM Setup! (Use Reset buttom on Com Setup)");
     }
     // The panel shows in spite of a failure.
     Sim.Main->sbStatusBar[Index].Visible = true;
@@ -54,7 +55,8 @@ void Take_Lines(Simulator& Sim, int Index) {
 }
 
 void Reset_Comport(Simulator& Sim, int Index, const char* Failure_Text) {
-    Sim.Windows.Boxes.Show(Failure_Text, "ERROR - A Communication error has occured on COM-port, port is reset");
+    Sim.Windows.Boxes.Show(Failure_Text,
+                           "ERROR - A Communication error has occured on COM-port, port is reset");
     const auto& Port = Sim.Links.MSComm[Index];
     if (!Port || !Port->Is_Open()) return;
     Port->Close();
@@ -104,7 +106,8 @@ void Init_Comports(Simulator& Sim, std::int16_t Count) {
 
 void MSComm_OnComm(Simulator& Sim, int Index, Comm_Event Event) {
     // Dropped for all ports but the one on the monitor: what has been received stays in the port.
-    if (!Sim.Extended_Monitor || !*Sim.Main->mnuExtendedMonitor.Checked || Index != Sim.State.Extended_Monitor_Port)
+    if (!Sim.Extended_Monitor || !*Sim.Main->mnuExtendedMonitor.Checked ||
+        Index != Sim.State.Extended_Monitor_Port)
         return;
     try {
         switch (Event) {

@@ -8,8 +8,8 @@ namespace brinewright {
 
 struct Simulator;
 
-// Brings all links to the state that Port_Table describes: serial ports, the TCP server, the UDP links. Count is the
-// number of serial ports present.
+// Brings all links to the state that Port_Table describes: serial ports, the TCP server, the UDP links. Count
+// is the number of serial ports present.
 void Init_Comports(Simulator& Sim, std::int16_t Count);
 
 // The object of serial port Index (1 to 16), made when it is first asked for.

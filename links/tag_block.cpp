@@ -30,8 +30,8 @@ std::int16_t Count_On(std::int16_t& Counter, std::int16_t Last) {
 }
 
 std::int64_t Tag_Time_s(Simulator& Sim) {
-    // Required as it stands: the offset is added in the sense of the sentence times, and the sum is counted from
-    // 1970 in local time.
+    // Required as it stands: the offset is added in the sense of the sentence times, and the sum is counted
+    // from 1970 in local time.
     const std::int64_t Shifted_us =
         Sim.Services.Time().Local_us() + Sim.State.UTC_Offset_Hours * 60 * us_Per_Second;
     return Shifted_us / us_Per_Second;

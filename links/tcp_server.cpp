@@ -29,8 +29,8 @@ void Show_Status(Simulator& Sim) {
     Sim.TCPIP->lblStatus.Caption = "Connected to" + Number_Text(Sim.State.TCP_Client_Count) + " clients";
 }
 
-// The list follows the history, which outlives a closing of the window: new entries come behind, and of the others
-// only the one that is selected can have changed.
+// The list follows the history, which outlives a closing of the window: new entries come behind, and of the
+// others only the one that is selected can have changed.
 void Show_History(Simulator& Sim, int Selected) {
     if (!Sim.TCPIP) return;
     Combo_Box& List = Sim.TCPIP->cmbConnections;
@@ -77,7 +77,8 @@ void Close_Listening_Element(Simulator& Sim, int Index) {
 void Start_State_Check(Simulator& Sim, int Index) {
     auto& Checks = Sim.Main->timerTCPIP_StateCheck;
     while (static_cast<int>(Checks.size()) <= Index)
-        Checks.push_back(std::make_unique<Timer>(*Sim.Main, "timerTCPIP_StateCheck", static_cast<int>(Checks.size())));
+        Checks.push_back(
+            std::make_unique<Timer>(*Sim.Main, "timerTCPIP_StateCheck", static_cast<int>(Checks.size())));
     Timer& Check = *Checks[static_cast<std::size_t>(Index)];
     Check.Tick = [&Sim, &Check, Index] {
         const int State = Element(Sim, Index).State;
@@ -164,8 +165,9 @@ void TCP_Listen(Simulator& Sim) {
         if (!Listener->Is_Listening()) Listener->Listen(Sim.State.TCP_Port);
         Listening.State = socket_state::Listening;
     } catch (const Run_Time_Error& Failure) {
-        Sim.Windows.Boxes.Show(std::string("TCP/IP Error : ") + Failure.what() + " Select another port number", "",
-                               Box_Icon::Stop);
+        Sim.Windows.Boxes.Show(std::string("TCP/IP Error : ") + Failure.what() +
+                                   " Select another port number",
+                               "", Box_Icon::Stop);
         return;
     }
     if (Index == 0) {
@@ -187,7 +189,8 @@ void TCP_Stop(Simulator& Sim) {
 void Write_TCP(Simulator& Sim, const std::string& Text) {
     const auto& Connected = Sim.Links.Connected;
     if (Connected.empty()) return;
-    for (const int Index : Connected) Sim.Links.WinsockArray[static_cast<std::size_t>(Index)]->Connection->Send(Text);
+    for (const int Index : Connected)
+        Sim.Links.WinsockArray[static_cast<std::size_t>(Index)]->Connection->Send(Text);
     // The label says the time from the second sending on, as the panels of the serial ports do.
     float& Last_Tx_s = Sim.State.Transmit.Last_Tx_Time[port_number::TCP - 1];
     if (Sim.TCPIP && (Last_Tx_s != 0 || Connected.size() > 1))

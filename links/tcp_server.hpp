@@ -22,14 +22,15 @@ struct frmTCPIP : Form {
 
 void Show_frmTCPIP(Simulator& Sim); // without focus; an open one only gets the port that is set now
 
-// Listens on TCP_Port with the element TCP_Client_Max_Index. A port that is taken is told in a box, and the program
-// goes on without a server.
+// Listens on TCP_Port with the element TCP_Client_Max_Index. A port that is taken is told in a box, and the
+// program goes on without a server.
 void TCP_Listen(Simulator& Sim);
 
 // Ends the server and all its connections: the link is no longer in use.
 void TCP_Stop(Simulator& Sim);
 
-// Sends Text to every connected client. A client that does not read misses whole texts; the others are undisturbed.
+// Sends Text to every connected client. A client that does not read misses whole texts; the others are
+// undisturbed.
 void Write_TCP(Simulator& Sim, const std::string& Text);
 
 } // namespace brinewright

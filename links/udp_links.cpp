@@ -31,10 +31,11 @@ void Open_UDP(Simulator& Sim, std::int16_t K) {
             Link->On_Data_Arrival = [&Sim, K] { Sim.Windows.Event([&] { DataArrival(Sim, K); }); };
         }
         if (Link->Is_Open()) Link->Close();
-        Link->Open(Sim.State.UDP_Mode != 0 ? Sim.State.UDP_Remote_Host : Broadcast, Sim.State.UDP_Port_Number[K]);
+        Link->Open(Sim.State.UDP_Mode != 0 ? Sim.State.UDP_Remote_Host : Broadcast,
+                   Sim.State.UDP_Port_Number[K]);
     } catch (const Run_Time_Error& Failure) {
-        Sim.Windows.Boxes.Show(std::string("UDP Error : ") + Failure.what() + " Select another port number", "",
-                               Box_Icon::Stop);
+        Sim.Windows.Boxes.Show(std::string("UDP Error : ") + Failure.what() + " Select another port number",
+                               "", Box_Icon::Stop);
     }
 }
 

@@ -7,7 +7,8 @@ namespace brinewright {
 inline constexpr std::int64_t us_Per_Second = 1'000'000;
 inline constexpr std::int64_t us_Per_Day = 86'400 * us_Per_Second;
 
-// The only way to learn the time. There is one implementation on the machine's clocks and one in virtual time.
+// The only way to learn the time. There is one implementation on the machine's clocks and one in virtual
+// time.
 class Clock {
   public:
     virtual ~Clock() = default;
@@ -19,8 +20,8 @@ class Clock {
     // 86400 s. This is the clock that sentences print.
     virtual std::int64_t Local_us() = 0;
 
-    // Passes Duration_us without giving the event loop a turn: a spin on Wide_us() in real time, a step of the
-    // clock in virtual time. It ends strictly later than Duration_us after its start.
+    // Passes Duration_us without giving the event loop a turn: a spin on Wide_us() in real time, a step of
+    // the clock in virtual time. It ends strictly later than Duration_us after its start.
     virtual void Spin_us(std::int64_t Duration_us) = 0;
 };
 

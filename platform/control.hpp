@@ -16,7 +16,17 @@ struct Form;
 using Control_Value = std::variant<std::monostate, bool, std::int64_t, double, std::string>;
 
 enum class Control_Kind {
-    Button, Check_Box, Combo_Box, Text_Box, Scroll_Bar, Option_Button, Label, Frame, Menu_Item, Grid, Timer
+    Button,
+    Check_Box,
+    Combo_Box,
+    Text_Box,
+    Scroll_Bar,
+    Option_Button,
+    Label,
+    Frame,
+    Menu_Item,
+    Grid,
+    Timer
 };
 
 // Meanings, not colours: the palettes of the views say what they look like.
@@ -24,8 +34,8 @@ enum class Ink { Normal, Black, Red, Green };
 
 enum class Mouse_Button { Left, Right };
 
-// A part of a window: made with its form and its name, so that the form's list of controls is never written twice.
-// The name is its path everywhere: frmPosition[1].chkGGA, frmMonitor.txtCom(17).
+// A part of a window: made with its form and its name, so that the form's list of controls is never written
+// twice. The name is its path everywhere: frmPosition[1].chkGGA, frmMonitor.txtCom(17).
 class Control {
   public:
     static constexpr int No_Index = -1;

@@ -37,7 +37,8 @@ void Desktop::Unload(Form& Window) {
     }
     for (Control* C : Window.Controls)
         if (C->Kind == Control_Kind::Timer) static_cast<Timer*>(C)->Set_Interval(0);
-    const auto Place = std::find_if(Forms.begin(), Forms.end(), [&](const auto& F) { return F.get() == &Window; });
+    const auto Place =
+        std::find_if(Forms.begin(), Forms.end(), [&](const auto& F) { return F.get() == &Window; });
     if (Place != Forms.end()) {
         Unloaded.push_back(std::move(*Place));
         Forms.erase(Place);
@@ -140,8 +141,8 @@ void Desktop::Ask_File(File_Dialog Question) {
 }
 
 bool Desktop::Answer_File(std::int64_t Id, const std::string& Path) {
-    const auto Found =
-        std::find_if(File_Dialogs.begin(), File_Dialogs.end(), [&](const File_Dialog& D) { return D.Id == Id; });
+    const auto Found = std::find_if(File_Dialogs.begin(), File_Dialogs.end(),
+                                    [&](const File_Dialog& D) { return D.Id == Id; });
     if (Found == File_Dialogs.end()) return false;
     const File_Dialog Question = std::move(*Found);
     File_Dialogs.erase(Found);

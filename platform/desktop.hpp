@@ -31,13 +31,14 @@ struct File_Dialog {
     std::function<void(const std::string& Path)> Answer; // an empty path: none was chosen
 };
 
-// The windows that are open, the focus, the message boxes, and the one door through which everything comes in.
+// The windows that are open, the focus, the message boxes, and the one door through which everything comes
+// in.
 class Desktop {
   public:
     explicit Desktop(Timer_Queue& Queue);
 
-    // Runs Work as one event: what it throws is told in a box and the program goes on. Windows that it unloaded are
-    // freed when the outermost event is over, so that a window may unload itself.
+    // Runs Work as one event: what it throws is told in a box and the program goes on. Windows that it
+    // unloaded are freed when the outermost event is over, so that a window may unload itself.
     template <class F>
     void Event(F&& Work) noexcept {
         ++Depth;
@@ -53,19 +54,20 @@ class Desktop {
 
     void Show(std::shared_ptr<Form> Window, bool With_Focus = true); // adds it to the open ones
     void Activate(Form& Window);
-    // Runs On_Unload once; a second call does nothing. What On_Unload throws comes out after the window is gone.
+    // Runs On_Unload once; a second call does nothing. What On_Unload throws comes out after the window is
+    // gone.
     void Unload(Form& Window);
     Form* Find_Form(std::string_view Form_Path) const;
     Control* Find_Control(std::string_view Full_Path) const; // frmPosition[1].chkGGA
     bool Is_Open(const Form& Window) const;
 
-    // What a user does. Disabled or hidden controls refuse with User_Refusal; a click first moves the focus, so that
-    // the box that is left runs its Lost_Focus before.
+    // What a user does. Disabled or hidden controls refuse with User_Refusal; a click first moves the focus,
+    // so that the box that is left runs its Lost_Focus before.
     void User_Click(Control& Target, Mouse_Button Which = Mouse_Button::Left);
     void User_Focus(Control& Target);
     void User_Set(Control& Target, const Control_Value& New); // a text box: types and leaves it
     void User_Type(Control& Target, const std::string& Text); // types and stays
-    void User_Key(Form& Window, int Key_Code);                // to the form with Key_Preview, then to the focus
+    void User_Key(Form& Window, int Key_Code); // to the form with Key_Preview, then to the focus
     void User_Close(Form& Window);
     bool Usable(const Control& Target, std::string* Why = nullptr) const;
 
@@ -80,7 +82,7 @@ class Desktop {
     std::vector<File_Dialog> File_Dialogs;
     std::vector<std::shared_ptr<Form>> Forms; // open ones, in opening order
     Form* Active_Form = nullptr;
-    std::uint64_t Revision = 0; // grows with every change that views show
+    std::uint64_t Revision = 0;      // grows with every change that views show
     std::vector<Handler> On_Settled; // after each outermost event: views, watches
 
   private:

@@ -14,8 +14,8 @@ class Desktop;
 enum class Form_Kind { Main, Child, Dialog, Tool };
 enum class Window_State { Normal, Minimised, Maximised };
 
-// A window as a record: its controls, its place, and what runs when it opens, closes or changes size. Lengths are in
-// twentieths of a point of the main window's client area.
+// A window as a record: its controls, its place, and what runs when it opens, closes or changes size. Lengths
+// are in twentieths of a point of the main window's client area.
 struct Form : std::enable_shared_from_this<Form> {
     Form(Desktop& Its_Desktop, std::string Class_Name, int Its_Instance, Form_Kind Its_Kind);
     Form(const Form&) = delete;

@@ -6,8 +6,8 @@
 
 namespace brinewright {
 
-// Counts durations in microseconds in buckets about 6 % wide, so that percentiles cost no memory however long the
-// program runs.
+// Counts durations in microseconds in buckets about 6 % wide, so that percentiles cost no memory however long
+// the program runs.
 struct Latency_Histogram {
     static constexpr std::size_t Steps = 16; // buckets for each doubling
     std::array<std::uint64_t, 48 * Steps> Counts{};

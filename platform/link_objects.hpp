@@ -25,20 +25,21 @@ class Serial_Port {
 
     std::function<void(Comm_Event)> On_Comm;
 
-    // Settings as "4800,n,8,1": baud rate, parity letter n, e or o, data bits, stop bits. Throws Run_Time_Error
-    // with the system's text when the port does not exist, Device_Busy when it is taken and Access_Refused when it may
-    // not be opened.
+    // Settings as "4800,n,8,1": baud rate, parity letter n, e or o, data bits, stop bits. Throws
+    // Run_Time_Error with the system's text when the port does not exist, Device_Busy when it is taken and
+    // Access_Refused when it may not be opened.
     virtual void Open(const std::string& Settings) = 0;
-    // Opens a closed port and closes it again, to learn whether it is there; throws as Open does. Where it can be
-    // done, the line's settings and what waits in it are left as they are: somebody may be using it unlocked.
+    // Opens a closed port and closes it again, to learn whether it is there; throws as Open does. Where it
+    // can be done, the line's settings and what waits in it are left as they are: somebody may be using it
+    // unlocked.
     virtual void Try() {
         Open("4800,n,8,1");
         Close();
     }
     virtual void Close() = 0;
     virtual bool Is_Open() const = 0;
-    // Never blocks. Throws Run_Time_Error when the port is closed or the device has vanished. A text that would
-    // wait more than about 2 s on the line is skipped whole and counted.
+    // Never blocks. Throws Run_Time_Error when the port is closed or the device has vanished. A text that
+    // would wait more than about 2 s on the line is skipped whole and counted.
     virtual void Output(std::string_view Text) = 0;
     // Takes what has been received since the last call, at most the 1024 bytes that are kept.
     virtual std::string Input() = 0;
@@ -52,8 +53,8 @@ class TCP_Connection {
 
     std::function<void()> On_Close; // the peer closed, vanished or reset; comes once, from the event loop
 
-    // Never blocks and never grows without bound: a text that does not fit behind what a slow reader still has to
-    // take is skipped whole, counted, and false comes back.
+    // Never blocks and never grows without bound: a text that does not fit behind what a slow reader still
+    // has to take is skipped whole, counted, and false comes back.
     virtual bool Send(std::string_view Text) = 0;
     virtual void Close() = 0;
     virtual std::string Remote_IP() const = 0;
@@ -80,8 +81,9 @@ class UDP_Socket {
 
     std::function<void()> On_Data_Arrival; // from the event loop, once per datagram
 
-    // Remote_Host is an IPv4 address; 224.0.0.0 to 239.255.255.255 is a multicast group, which is sent to with the
-    // TTL and on the interface of the application settings. Throws Run_Time_Error with the system's text.
+    // Remote_Host is an IPv4 address; 224.0.0.0 to 239.255.255.255 is a multicast group, which is sent to
+    // with the TTL and on the interface of the application settings. Throws Run_Time_Error with the system's
+    // text.
     virtual void Open(const std::string& Remote_Host, std::int32_t Remote_Port) = 0;
     virtual bool Is_Open() const = 0;
     virtual void Close() = 0;

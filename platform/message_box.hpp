@@ -17,8 +17,8 @@ struct Message_Box {
 };
 
 // The message boxes that stand, oldest first. A box has one button, OK. The handler that shows one goes on at
-// once: nothing that follows a box depends on its answer, and the timers keep ticking behind it. Send_NMEA sends
-// nothing while one stands.
+// once: nothing that follows a box depends on its answer, and the timers keep ticking behind it. Send_NMEA
+// sends nothing while one stands.
 struct Message_Boxes {
     std::deque<Message_Box> Standing;
     std::int64_t Last_Id = 0;

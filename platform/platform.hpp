@@ -32,8 +32,8 @@ class Files {
     virtual void Make_Folder(const std::string& Path) = 0; // with its parents; no failure when it exists
 };
 
-// Everything that the logic needs of the world around it. One implementation stands on the operating system, one
-// (Virtual_Platform) lives in memory and in virtual time.
+// Everything that the logic needs of the world around it. One implementation stands on the operating system,
+// one (Virtual_Platform) lives in memory and in virtual time.
 class Platform {
   public:
     virtual ~Platform() = default;

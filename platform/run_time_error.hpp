@@ -21,8 +21,8 @@ struct Access_Refused : Run_Time_Error {
     using Run_Time_Error::Run_Time_Error;
 };
 
-// What a user, a script or an automation asked for cannot be done as asked: nothing has changed. It is answered to
-// the one who asked, not told in a box.
+// What a user, a script or an automation asked for cannot be done as asked: nothing has changed. It is
+// answered to the one who asked, not told in a box.
 struct User_Refusal : Run_Time_Error {
     using Run_Time_Error::Run_Time_Error;
 };

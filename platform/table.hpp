@@ -7,8 +7,8 @@
 
 namespace brinewright {
 
-// An array whose subscripts run from First to Last, as port numbers, form indices and instances do. A subscript
-// outside throws Run_Time_Error "Subscript out of range", which the user sees in a box.
+// An array whose subscripts run from First to Last, as port numbers, form indices and instances do. A
+// subscript outside throws Run_Time_Error "Subscript out of range", which the user sees in a box.
 template <class T, int First, int Last>
 struct Table {
     static_assert(First <= Last);

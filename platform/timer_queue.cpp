@@ -35,8 +35,8 @@ bool Timer_Queue::Fire_One() {
     Lateness.Add(Late_us);
     Own_Lateness.Add(std::max<std::int64_t>(0, Late_us - Spun_Since_us(Timer.Due_us)));
 
-    // The node is taken out and put back under its new key, without a new allocation for each tick. The next due
-    // time is the first of the old phase that lies ahead.
+    // The node is taken out and put back under its new key, without a new allocation for each tick. The next
+    // due time is the first of the old phase that lies ahead.
     auto Node = Running.extract(Running.begin());
     Timer.Due_us += Timer.Period_us * (Late_us / Timer.Period_us + 1);
     Running.insert(std::move(Node));

@@ -11,10 +11,11 @@
 
 namespace brinewright {
 
-// Feeds every timer of the program from one wake-up source; the same code runs on the real and the virtual clock.
+// Feeds every timer of the program from one wake-up source; the same code runs on the real and the virtual
+// clock.
 //
-// A late tick is not made up for: periods that were missed are skipped and the phase is kept. Equal due times fire
-// in the order in which the timers were started. Starting a timer always restarts its phase.
+// A late tick is not made up for: periods that were missed are skipped and the phase is kept. Equal due times
+// fire in the order in which the timers were started. Starting a timer always restarts its phase.
 class Timer_Queue {
   public:
     struct Entry {
@@ -30,22 +31,23 @@ class Timer_Queue {
     void Stop(Entry& Timer);
 
     std::optional<std::int64_t> Next_Due_us() const;
-    // Fires the one timer that is due longest, if any is due. One tick, then back to the caller's event loop, so
-    // that an overloaded simulator still answers its user.
+    // Fires the one timer that is due longest, if any is due. One tick, then back to the caller's event loop,
+    // so that an overloaded simulator still answers its user.
     bool Fire_One();
 
-    // A wait that gives the event loop no turn (pacing, staggering). It is booked, so that lateness can be told
-    // with and without the waits that are asked for.
+    // A wait that gives the event loop no turn (pacing, staggering). It is booked, so that lateness can be
+    // told with and without the waits that are asked for.
     void Spin_us(std::int64_t Duration_us);
 
     Clock& Time;
     // Runs a tick; the desktop puts its error net around it.
     std::function<void(Entry&)> Dispatch = [](Entry& Timer) { Timer.Tick(); };
     std::function<void()> On_Next_Due; // the earliest due time may have changed
-    // Told of each wait by Spin_us before it begins, so that a desktop can show how far a long opening has come.
+    // Told of each wait by Spin_us before it begins, so that a desktop can show how far a long opening has
+    // come.
     std::function<void(std::int64_t Duration_us)> Before_Spin;
-    Latency_Histogram Lateness;        // of ticks, all causes
-    Latency_Histogram Own_Lateness;    // of ticks, less the waits by Spin_us that fell into the delay
+    Latency_Histogram Lateness;     // of ticks, all causes
+    Latency_Histogram Own_Lateness; // of ticks, less the waits by Spin_us that fell into the delay
 
   private:
     struct Earlier {

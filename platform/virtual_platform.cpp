@@ -96,7 +96,9 @@ std::unique_ptr<Serial_Port> Virtual_Platform::Make_Serial_Port(int Com_Number) 
 std::unique_ptr<TCP_Listener> Virtual_Platform::Make_TCP_Listener() {
     return std::make_unique<Memory_TCP_Listener>(Links);
 }
-std::unique_ptr<UDP_Socket> Virtual_Platform::Make_UDP_Socket() { return std::make_unique<Memory_UDP_Socket>(Links); }
+std::unique_ptr<UDP_Socket> Virtual_Platform::Make_UDP_Socket() {
+    return std::make_unique<Memory_UDP_Socket>(Links);
+}
 
 void Virtual_Platform::Run_Until(Timer_Queue& Queue, std::int64_t Wide_Time_us) {
     while (!Quitting) {

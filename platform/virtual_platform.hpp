@@ -28,13 +28,15 @@ class Virtual_Clock : public Clock {
     std::int64_t Passed_us = 0;
 };
 
-// Links that keep what is sent instead of sending it, as long as Keep is set; virtual time leaves no traffic on real
-// links. The far end is played by whoever holds the object.
+// Links that keep what is sent instead of sending it, as long as Keep is set; virtual time leaves no traffic
+// on real links. The far end is played by whoever holds the object.
 struct Memory_Links {
     bool Keep = false;
-    std::vector<std::pair<std::string, std::string>> Sent; // link ("COM 3", "TCP 0", "UDP 239.192.0.1:60001"), text
-    std::string Failing_Open;                              // a link whose next opening fails
-    std::set<std::string> Busy, Refused; // links that another program holds, or that this user has no right to
+    std::vector<std::pair<std::string, std::string>>
+        Sent;                 // link ("COM 3", "TCP 0", "UDP 239.192.0.1:60001"), text
+    std::string Failing_Open; // a link whose next opening fails
+    std::set<std::string> Busy,
+        Refused; // links that another program holds, or that this user has no right to
 };
 
 class Memory_Files : public Files {
@@ -42,7 +44,9 @@ class Memory_Files : public Files {
     std::map<std::string, std::string> Content;
     bool Exists(const std::string& Path) const override { return Content.contains(Path); }
     std::string Read(const std::string& Path, std::size_t Limit_Bytes) const override;
-    void Replace(const std::string& Path, std::string_view Bytes) override { Content[Path] = std::string(Bytes); }
+    void Replace(const std::string& Path, std::string_view Bytes) override {
+        Content[Path] = std::string(Bytes);
+    }
     void Make_Folder(const std::string&) override {}
 };
 
@@ -53,8 +57,8 @@ class Memory_Settings : public App_Settings {
     void Set(const std::string& Key, const std::string& Value) override { Values[Key] = Value; }
 };
 
-// The program in virtual time: the virtual clock and links in memory. Disk and settings are lent by the caller: real
-// ones for a run of the program, memory for tests.
+// The program in virtual time: the virtual clock and links in memory. Disk and settings are lent by the
+// caller: real ones for a run of the program, memory for tests.
 class Virtual_Platform : public Platform {
   public:
     Virtual_Platform(Files& Its_Disk, App_Settings& Its_Settings, std::int64_t Start_Local_us = 0)

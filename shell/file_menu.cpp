@@ -16,10 +16,12 @@ constexpr std::size_t Setup_Limit_Bytes = 16 * 1024 * 1024; // a thousand times 
 constexpr const char* Setup_Filter = "Brinewright setup files (*.ini)|*.ini";
 constexpr int Last_Closed_Port = 10; // ports 11 to 16 are left for Init_Comports, as required
 
-void Show_Failure(Simulator& Sim, const std::string& Text) { Sim.Windows.Boxes.Show(Text, "", Box_Icon::Stop); }
+void Show_Failure(Simulator& Sim, const std::string& Text) {
+    Sim.Windows.Boxes.Show(Text, "", Box_Icon::Stop);
+}
 
-// Both save commands add the open sensor windows to the list. Save leaves the count as it stands, on purpose: that
-// many saves in one run end in a subscript failure is known.
+// Both save commands add the open sensor windows to the list. Save leaves the count as it stands, on purpose:
+// that many saves in one run end in a subscript failure is known.
 void Add_Open_Windows(Simulator& Sim) {
     for (std::int16_t Index = 1; Index <= 11; ++Index) {
         const Menu_Item* Item = Sim.Main->mnuOpenForm(Index);
@@ -28,7 +30,8 @@ void Add_Open_Windows(Simulator& Sim) {
     }
 }
 
-void Ask_Setup_File(Simulator& Sim, bool Save, const char* Title, std::function<void(const std::string&)> Answer) {
+void Ask_Setup_File(Simulator& Sim, bool Save, const char* Title,
+                    std::function<void(const std::string&)> Answer) {
     File_Dialog Question;
     Question.Save = Save;
     Question.Title = Title;

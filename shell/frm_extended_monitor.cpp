@@ -19,7 +19,8 @@ void cmbComPort_Click(Simulator& Sim, frmExtendedMonitor& F) {
     Sim.State.Extended_Monitor_Port = static_cast<std::int16_t>(F.cmbComPort.Item_Data());
     F.txtOutput.Set_Text("");
     F.txtInput.Set_Text("");
-    if (Sim.State.Extended_Monitor_Port == port_number::TCP) F.txtInput.Set_Text("TCP/IP Input not implemented");
+    if (Sim.State.Extended_Monitor_Port == port_number::TCP)
+        F.txtInput.Set_Text("TCP/IP Input not implemented");
 }
 
 void Fill_Links(Simulator& Sim, frmExtendedMonitor& F) {
@@ -31,7 +32,8 @@ void Fill_Links(Simulator& Sim, frmExtendedMonitor& F) {
             F.cmbComPort.Add_Item("TCP/IP", Port);
         else
             F.cmbComPort.Add_Item(
-                "UDP" + Number_Text(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]) + " Port", Port);
+                "UDP" + Number_Text(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]) + " Port",
+                Port);
     }
 }
 
@@ -111,7 +113,8 @@ void Extended_Monitor_Rx(Simulator& Sim, std::string Text) {
 }
 
 bool Extended_Monitor_Shows(const Simulator& Sim, int Port) {
-    return Sim.Extended_Monitor && *Sim.Main->mnuExtendedMonitor.Checked && Port == Sim.State.Extended_Monitor_Port &&
+    return Sim.Extended_Monitor && *Sim.Main->mnuExtendedMonitor.Checked &&
+           Port == Sim.State.Extended_Monitor_Port &&
            *Sim.Extended_Monitor->cmdFreeze.Caption == monitor_caption::Running;
 }
 

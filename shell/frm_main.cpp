@@ -31,12 +31,15 @@ constexpr std::array<Fault_Option, 5> Fault_Options{{
     {&frmMain::mnuOptionsFaultyChecksum,
      "Faulty checksum enabled. All simulated NMEA messages will be simulated with faulty checksum", nullptr},
     {&frmMain::mnuOptionsCrLfDisabled,
-     "Merged messages will be simulated. All simulated NMEA messages will be without Carriage return/Line Feed",
+     "Merged messages will be simulated. All simulated NMEA messages will be without Carriage return/Line "
+     "Feed",
      nullptr},
     {&frmMain::mnuOptionCuttedMsg,
-     "Cutted messages will be simulated. All simulated NMEA messages will be cutted at a random character", nullptr},
+     "Cutted messages will be simulated. All simulated NMEA messages will be cutted at a random character",
+     nullptr},
     {&frmMain::mnuOptionSplittedMsg,
-     "Splitted messages will be simulated. All simulated NMEA messages will be cutted at a random character and "
+     "Splitted messages will be simulated. All simulated NMEA messages will be cutted at a random character "
+     "and "
      "remaining characters will start next message",
      nullptr},
 }};
@@ -149,9 +152,10 @@ void mnuMode_Click(Simulator& Sim, int Index) {
     Show_Mode(Sim);
     // The unload clears the check, so that the call loads the window anew, in the new mode.
     For_Open_Windows([&Sim](std::int16_t Form_Index) {
-        // An event of its own: keeping the place fails when the list of places is full. That is told, and the window
-        // opens again all the same.
-        if (Form* Window = Sensor_Window(Sim, Form_Index)) Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
+        // An event of its own: keeping the place fails when the list of places is full. That is told, and the
+        // window opens again all the same.
+        if (Form* Window = Sensor_Window(Sim, Form_Index))
+            Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
         mnuOpenForm_Click(Sim, Form_Index);
     });
 }

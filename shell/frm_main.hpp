@@ -12,8 +12,8 @@ struct Simulator;
 
 inline constexpr const char* Version_Text = "7.00 2026-04-21";
 
-// The container window: menus, status bar, and the start and end of the program. Items whose window does not exist are
-// not in the menus.
+// The container window: menus, status bar, and the start and end of the program. Items whose window does not
+// exist are not in the menus.
 struct frmMain : Form {
     explicit frmMain(Desktop& Windows);
 
@@ -23,7 +23,8 @@ struct frmMain : Form {
     Menu_Item mnuFileExit{*this, "mnuFileExit", "E&xit", "File"};
     Menu_Item mnuMode_Ship{*this, "mnuMode", "&Ship simulator", "Mode", 1};
     Menu_Item mnuMode_Sensor{*this, "mnuMode", "S&ensor", "Mode", 2};
-    Menu_Item mnuSetupStartOption{*this, "mnuSetupStartOption", "Start with navdata from last session", "Setup"};
+    Menu_Item mnuSetupStartOption{*this, "mnuSetupStartOption", "Start with navdata from last session",
+                                  "Setup"};
     Menu_Item mnuSetupPort{*this, "mnuSetupPort", "Com setup", "Setup"};
     Menu_Item mnuSetupLatLonFormat{*this, "mnuSetupLatLonFormat", "Lat/Lon format", "Setup"};
     Menu_Item mnuOpenForm_GNSS1{*this, "mnuOpenForm", "GNSS 1", "Window", 1};
@@ -33,7 +34,8 @@ struct frmMain : Form {
     Menu_Item mnuTraffic{*this, "mnuTraffic", "Traffic", "Window"};
     Menu_Item mnuOptionIEC450{*this, "mnuOptionIEC450", "IEC 61162-450 enabled", "Options"};
     Menu_Item mnuOptionsChecksumDisabled{*this, "mnuOptionsChecksumDisabled", "Checksum disabled", "Options"};
-    Menu_Item mnuOptionsFaultyChecksum{*this, "mnuOptionsFaultyChecksum", "Simulate faulty checksum", "Options"};
+    Menu_Item mnuOptionsFaultyChecksum{*this, "mnuOptionsFaultyChecksum", "Simulate faulty checksum",
+                                       "Options"};
     Menu_Item mnuOptionsCrLfDisabled{*this, "mnuOptionsCrLfDisabled",
                                      "Simulate merged msgs (No CarriageReturn/LineFeed)", "Options"};
     Menu_Item mnuOptionCuttedMsg{*this, "mnuOptionCuttedMsg", "Simulate cutted messages", "Options"};
@@ -63,7 +65,8 @@ void Show_Mode(Simulator& Sim);
 
 void Wire_Menus(Simulator& Sim);
 
-// Index 1 Ship mode, 2 Sensor mode: every open sensor window is loaded anew, since sensors read Mode at load only.
+// Index 1 Ship mode, 2 Sensor mode: every open sensor window is loaded anew, since sensors read Mode at load
+// only.
 void mnuMode_Click(Simulator& Sim, int Index);
 
 } // namespace brinewright

@@ -11,8 +11,8 @@ namespace brinewright {
 //
 //   2026-01-01T00:00:00.150000 17 $GPGGA,000000,...*5A\r\n
 //
-// local time with microseconds, port number, and the bytes, in which a backslash is written \\, CR \r, LF \n and every
-// other byte outside printable ASCII \xHH.
+// local time with microseconds, port number, and the bytes, in which a backslash is written \\, CR \r, LF \n
+// and every other byte outside printable ASCII \xHH.
 struct Recorded_Sentence {
     std::int64_t Local_us = 0;
     int Port = 0;

@@ -24,16 +24,16 @@ std::size_t Random_Place(Simulator& Sim, std::size_t Length) {
     return static_cast<std::size_t>(std::floor(Sim.Services.Random.Draw() * static_cast<double>(Length)));
 }
 
-// The order is part of the behaviour: the checksum is spoilt before the cut, the cut comes before the split, and the
-// line end comes last, so that every piece gets one of its own.
+// The order is part of the behaviour: the checksum is spoilt before the cut, the cut comes before the split,
+// and the line end comes last, so that every piece gets one of its own.
 void Inject_Faults(Simulator& Sim, std::string& Text) {
     const frmMain& Main = *Sim.Main;
     if (*Main.mnuOptionsFaultyChecksum.Checked && !*Main.mnuOptionsChecksumDisabled.Checked && !Text.empty())
         Text.back() = Text.back() == 'F' ? 'E' : 'F';
     if (*Main.mnuOptionCuttedMsg.Checked) Text.resize(Random_Place(Sim, Text.size()));
     if (*Main.mnuOptionSplittedMsg.Checked) {
-        // One remainder for all ports, on purpose: the tail of one port's sentence goes out at the head of the next
-        // sentence on whatever port comes next.
+        // One remainder for all ports, on purpose: the tail of one port's sentence goes out at the head of
+        // the next sentence on whatever port comes next.
         std::string& Remainder = Sim.State.Transmit.Split_Remainder;
         const std::size_t Place = Random_Place(Sim, Text.size());
         std::string Piece = Remainder + Text.substr(0, Place);
@@ -43,8 +43,8 @@ void Inject_Faults(Simulator& Sim, std::string& Text) {
     if (!*Main.mnuOptionsCrLfDisabled.Checked) Text += "\r\n";
 }
 
-// The comparison is in 32-bit floats, which late in the day move in steps of 1/128 s; the wait runs on the wide clock
-// and is a fresh 2 ms from the moment of noticing.
+// The comparison is in 32-bit floats, which late in the day move in steps of 1/128 s; the wait runs on the
+// wide clock and is a fresh 2 ms from the moment of noticing.
 void Pace(Simulator& Sim) {
     float& Last_s = Sim.State.Transmit.Last_Send_Time;
     if (Last_s > 0 && Now_s(Sim) - Last_s < Pacing_s) Sim.Timers.Spin_us(Pacing_us);
@@ -72,7 +72,8 @@ bool Write_Serial(Simulator& Sim, const std::string& Text, std::int16_t Port) {
     return true;
 }
 
-// Runtime errors count as nothing here: the statement after a failing one simply goes on. False when it failed.
+// Runtime errors count as nothing here: the statement after a failing one simply goes on. False when it
+// failed.
 bool Write_UDP(Simulator& Sim, const std::string& Text, std::int16_t Port) {
     try {
         const auto& Link = Sim.Links.WinsockUDP[Port - port_number::First_UDP];
@@ -88,7 +89,8 @@ void Tell_Monitors(Simulator& Sim, const std::string& Text, std::int16_t Port) {
     if (Sim.Monitor && *Sim.Main->mnuMonitor.Checked && Port <= port_number::Last &&
         *Sim.Monitor->cmdFreeze[Port].Caption == monitor_caption::Running)
         Monitor_Tx(Sim, Text, Port);
-    if (Sim.Extended_Monitor && *Sim.Main->mnuExtendedMonitor.Checked && Port == Sim.State.Extended_Monitor_Port &&
+    if (Sim.Extended_Monitor && *Sim.Main->mnuExtendedMonitor.Checked &&
+        Port == Sim.State.Extended_Monitor_Port &&
         *Sim.Extended_Monitor->cmdFreeze.Caption == monitor_caption::Running)
         Extended_Monitor_Tx(Sim, Text);
 }

@@ -30,8 +30,8 @@ struct frmTraffic;
 
 // What the user said at the start of the program.
 struct Start_Options {
-    std::string Setup_File; // empty: the instance's own file in the data folder
-    bool No_Save = false;   // the setup file is left as it is at the end
+    std::string Setup_File;  // empty: the instance's own file in the data folder
+    bool No_Save = false;    // the setup file is left as it is at the end
     std::string Data_Folder; // with its final separator
     std::int16_t Instance_Number = 0;
 };
@@ -43,8 +43,8 @@ struct Send_Counts {
     std::uint64_t Dropped_By_Box = 0;   // a message box stood
 };
 
-// The whole simulator: state, windows, links and the platform below them. There is no other place for state, so that
-// every test makes a fresh one.
+// The whole simulator: state, windows, links and the platform below them. There is no other place for state,
+// so that every test makes a fresh one.
 struct Simulator {
     Simulator(Platform& Its_Platform, Start_Options Its_Options);
     Simulator(const Simulator&) = delete;
@@ -78,7 +78,7 @@ struct Simulator {
     std::shared_ptr<frmComportInfo> ComportInfo;
     std::shared_ptr<frmTraffic> Traffic;
 
-    std::string Unreadable_Setup;  // the setup file that failed to load; the save at the end leaves it alone
+    std::string Unreadable_Setup; // the setup file that failed to load; the save at the end leaves it alone
     bool Ended = false;           // frmMain has unloaded
 };
 

@@ -48,7 +48,8 @@ void Load_First_Setup(Simulator& Sim) {
 void Name_Sensor_Slots(Simulator& Sim) {
     constexpr std::array<const char*, 8> Names{"GNSS1", "GNSS2",       "Gyro1", "Gyro2",
                                                "Log",   "Echosounder", "ARPA",  "Wind Gauge"};
-    for (std::size_t I = 0; I < Names.size(); ++I) Sim.State.Sensor_Table[static_cast<int>(I) + 1].Name = Names[I];
+    for (std::size_t I = 0; I < Names.size(); ++I)
+        Sim.State.Sensor_Table[static_cast<int>(I) + 1].Name = Names[I];
 }
 
 std::string Main_Caption(const Simulator& Sim) {
@@ -80,8 +81,8 @@ void Open_Saved_Windows(Simulator& Sim) {
 }
 
 void MDIForm_Unload(Simulator& Sim) {
-    // Child windows go first, each adding itself to the list of open windows. One that fails to (the list is full) is
-    // told in a box, and the end goes on.
+    // Child windows go first, each adding itself to the list of open windows. One that fails to (the list is
+    // full) is told in a box, and the end goes on.
     const auto Open_Now = Sim.Windows.Forms;
     for (const auto& Window : Open_Now)
         if (Window != Sim.Main) Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
@@ -99,7 +100,8 @@ void MDIForm_Load(Simulator& Sim) {
     frmMain& Main = *Sim.Main;
     S.Instance_Number = Sim.Options.Instance_Number;
     S.Data_Folder = Sim.Options.Data_Folder;
-    // Without the folder the program still starts: the setup may stand elsewhere, and its save must not be of nothing.
+    // Without the folder the program still starts: the setup may stand elsewhere, and its save must not be of
+    // nothing.
     Sim.Windows.Event([&] { Sim.Services.Disk().Make_Folder(S.Data_Folder); });
     Load_First_Setup(Sim);
     Name_Sensor_Slots(Sim);

@@ -16,7 +16,8 @@ void Repair_Talkers(Simulator_State& S) {
         Repair(S.Wind_Talker[I], "WI");
     }
     Repair(S.ARPA_Talker, "RA");
-    // A setup from before the GNSS configuration says nothing of these; GNS would leave without talker and mode.
+    // A setup from before the GNSS configuration says nothing of these; GNS would leave without talker and
+    // mode.
     for (int Slot = 1; Slot <= 6; ++Slot) {
         Repair(S.GNS_Talker[Slot], "GP");
         Repair(S.GNS_Mode_Indicator[Slot], "A");

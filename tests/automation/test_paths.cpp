@@ -17,6 +17,8 @@ TEST_F(Paths, Lead_To_What_A_Control_Holds) {
     EXPECT_EQ(Get("frmPosition[1].cmdStart"), "START"); // a button holds nothing but its caption
     EXPECT_EQ(Get("frmPosition[1].timer_GGA"), 0);
     EXPECT_EQ(Get("frmPosition[1].grdSky.Rows"), Json::parse(R"([["","45"]])"));
+    EXPECT_EQ(Get("frmPosition[1].grdSky.RowCount"), 1);
+    EXPECT_EQ(Get("frmPosition[1].grdSky.Selected"), -1);
 }
 
 TEST_F(Paths, Lead_To_Properties) {

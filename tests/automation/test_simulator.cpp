@@ -1,6 +1,8 @@
 #include "shell/frm_main.hpp"
 #include "tests/automation/automation_test.hpp"
 
+#include <algorithm>
+
 namespace brinewright {
 namespace {
 
@@ -67,11 +69,12 @@ TEST_F(Whole_Program, Is_Set_Up_And_Run_By_Paths) {
 
 TEST_F(Whole_Program, Tells_Closed_Windows_From_Wrong_Paths) {
     for (const char* Item : {"mnuOpenForm(1)", "mnuOpenForm(2)", "mnuMonitor", "mnuExtendedMonitor",
-                             "mnuSetupLatLonFormat", "mnuOptionIEC450"})
+                             "mnuSetupLatLonFormat", "mnuOptionIEC450", "mnuTraffic"})
         Do("click", {std::string("frmMain.") + Item});
     std::vector<std::string> Opened;
     for (const Json& Row : Do("list")) Opened.push_back(Row["path"]);
     EXPECT_GE(Opened.size(), 6u);
+    std::reverse(Opened.begin(), Opened.end()); // the port setup takes its progress window with it
     for (const std::string& Path : Opened) {
         if (Path == "frmMain") continue;
         Do("close", {Path});

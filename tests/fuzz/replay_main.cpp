@@ -1,4 +1,5 @@
-// Replays a corpus through a fuzz target without libFuzzer, so that every build tries all inputs that ever mattered.
+// Replays a corpus through a fuzz target without libFuzzer, so that every build tries all inputs that ever
+// mattered.
 
 #include <cstdint>
 #include <filesystem>

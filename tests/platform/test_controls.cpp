@@ -38,6 +38,59 @@ struct Controls_On_A_Form : testing::Test {
     }
 };
 
+TEST_F(Controls_On_A_Form, A_row_of_a_grid_can_be_chosen) {
+    F.hfgA.Row_Chosen = [this] { Log += std::to_string(F.hfgA.Selected_Row()) + ";"; };
+    EXPECT_EQ(F.hfgA.Selected_Row(), -1);
+    F.hfgA.Set_Rows(3);
+    F.hfgA.Select_Row(2);
+    F.hfgA.Select_Row(2); // also the row that stands chosen already
+    F.hfgA.Select_Row(-1);
+    Windows.User_Set(F.hfgA, std::int64_t{1});
+    EXPECT_EQ(Log, "2;2;1;");
+    EXPECT_THROW(F.hfgA.Select_Row(3), Run_Time_Error);
+    EXPECT_THROW(F.hfgA.Select_Row(-2), Run_Time_Error);
+    for (const Control_Value& Wrong : {Control_Value(std::int64_t{3}), Control_Value(std::int64_t{-1}),
+                                       Control_Value(std::string("1")), Control_Value(true)})
+        EXPECT_THROW(Windows.User_Set(F.hfgA, Wrong), User_Refusal);
+    EXPECT_EQ(F.hfgA.Selected_Row(), 1);
+    F.hfgA.Set_Rows(2);
+    EXPECT_EQ(F.hfgA.Selected_Row(), 1);
+    F.hfgA.Set_Rows(1); // the chosen row is gone
+    EXPECT_EQ(F.hfgA.Selected_Row(), -1);
+    EXPECT_EQ(Log, "2;2;1;");
+}
+
+TEST_F(Controls_On_A_Form, A_grid_asks_its_source_for_the_cells_that_are_looked_at) {
+    int Asked = 0;
+    F.hfgA.Set_Source(1'000'000, [&Asked](int Row, int Column) {
+        ++Asked;
+        return Grid::Cell{std::to_string(Row) + "/" + std::to_string(Column), Ink::Red};
+    });
+    EXPECT_EQ(F.hfgA.Rows(), 1'000'000);
+    EXPECT_EQ(Asked, 0);
+    EXPECT_EQ(F.hfgA.At(999'999, 1), (Grid::Cell{"999999/1", Ink::Red}));
+    EXPECT_EQ(Asked, 1);
+    EXPECT_THROW(F.hfgA.At(1'000'000, 0), Run_Time_Error);
+    EXPECT_THROW(F.hfgA.Set_Cell(0, 0, "mine"), Run_Time_Error);
+
+    F.hfgA.Row_Chosen = Note("chosen");
+    F.hfgA.Select_Row(5);
+    Log.clear();
+    const std::uint64_t Before = F.hfgA.Revision;
+    F.hfgA.Source_Moved(10, 4);
+    EXPECT_GT(F.hfgA.Revision, Before); // views look again
+    EXPECT_EQ(F.hfgA.Selected_Row(), 4);
+    EXPECT_EQ(Log, "");
+    EXPECT_THROW(F.hfgA.Source_Moved(10, 10), Run_Time_Error);
+    F.hfgA.Set_Rows(2);
+    EXPECT_EQ(std::get<std::string>(F.hfgA.Current()), "0/0\t0/1\n1/0\t1/1\n");
+
+    F.hfgA.Set_Source(2, nullptr);
+    EXPECT_THROW(F.hfgA.Source_Moved(2, 0), Run_Time_Error);
+    F.hfgA.Set_Cell(1, 1, "mine");
+    EXPECT_EQ(std::get<std::string>(F.hfgA.Current()), "\t\n\tmine\n");
+}
+
 TEST_F(Controls_On_A_Form, Setting_from_code_runs_handlers_by_the_rule_of_each_kind) {
     F.chkA.Click = Note("chk");
     F.chkA.Set_Value(true);
@@ -140,8 +193,9 @@ TEST_F(Controls_On_A_Form, Paths_find_controls_and_only_them) {
     EXPECT_EQ(Windows.Find_Control("frmTest[1].lblA(2)"), &F.lblA[2]);
     EXPECT_EQ(Windows.Find_Control("frmTest[1].mnuA(3)"), &F.mnuA);
     EXPECT_EQ(Windows.Find_Control("frmTest[1].optA(1)"), F.optA.Buttons[1].get());
-    for (const char* Wrong : {"frmTest[1].lblA", "frmTest[1].lblA(4)", "frmTest[1].lblA(2", "frmTest[1].lblA()",
-                              "frmTest[2].chkA", "frmTest[1]", "frmTest[1].", "", ".", "frmTest[1].chkA(1)"})
+    for (const char* Wrong :
+         {"frmTest[1].lblA", "frmTest[1].lblA(4)", "frmTest[1].lblA(2", "frmTest[1].lblA()",
+          "frmTest[2].chkA", "frmTest[1]", "frmTest[1].", "", ".", "frmTest[1].chkA(1)"})
         EXPECT_EQ(Windows.Find_Control(Wrong), nullptr) << Wrong;
 }
 

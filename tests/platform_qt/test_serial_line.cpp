@@ -1,12 +1,16 @@
 #include "platform_qt/serial_line.hpp"
 #include "platform_qt/serial_settings.hpp"
+#include "platform_qt/system_error.hpp"
 #include "support.hpp"
 
 #include <fcntl.h>
 #include <pty.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <ctime>
+#include <typeinfo>
 #include <vector>
 
 using namespace brinewright;
@@ -136,6 +140,54 @@ TEST(Serial_Line, Opening_tells_why_it_fails) {
     Path = "/dev/null";
     EXPECT_EQ(Error_Of([&] { Elsewhere.Open("4800,n,8,1"); }), "Inappropriate ioctl for device");
     EXPECT_FALSE(Elsewhere.Is_Open());
+}
+
+TEST(Serial_Line, Trying_a_port_tells_whether_it_is_free_and_leaves_its_line_alone) {
+    Line At;
+    const Unique_Fd Somebody(::open(At.Path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK)); // without any lock
+    termios Before{};
+    ASSERT_EQ(::tcgetattr(Somebody.Get(), &Before), 0);
+    Before.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
+    ASSERT_EQ(::tcsetattr(Somebody.Get(), TCSANOW, &Before), 0);
+    At.Write("for somebody");
+    At.Port.Try();
+    EXPECT_FALSE(At.Port.Is_Open());
+    termios After{};
+    ASSERT_EQ(::tcgetattr(Somebody.Get(), &After), 0);
+    EXPECT_EQ(After.c_cflag, Before.c_cflag);
+    EXPECT_EQ(After.c_lflag, Before.c_lflag);
+    EXPECT_EQ(::cfgetospeed(&After), ::cfgetospeed(&Before));
+    std::string Read;
+    Read_More(Somebody, Read);
+    EXPECT_EQ(Read, "for somebody");
+    At.Port.Open("4800,n,8,1"); // no lock is left behind
+
+    // Held by the lock, and by the exclusive mode alone, which does not stop the superuser.
+    Termios_Serial_Port Second("COM 4", [&] { return At.Path; });
+    EXPECT_THROW(Second.Try(), Device_Busy);
+    At.Port.Close();
+    ASSERT_EQ(::ioctl(Somebody.Get(), TIOCEXCL), 0);
+    EXPECT_THROW(Second.Try(), Device_Busy);
+    EXPECT_THROW(Second.Open("19200,e,7,2"), Device_Busy);
+    ASSERT_EQ(::tcgetattr(Somebody.Get(), &After), 0);
+    ::ioctl(Somebody.Get(), TIOCNXCL);
+    EXPECT_EQ(::cfgetospeed(&After), static_cast<speed_t>(B4800)) << "as it was left, not as it was refused";
+    EXPECT_NO_THROW(Second.Try());
+}
+
+TEST(Serial_Line, Failures_tell_a_taken_device_and_missing_rights_from_others) {
+    EXPECT_THROW(Throw_System_Error(EBUSY), Device_Busy);
+    EXPECT_THROW(Throw_System_Error(EACCES), Access_Refused);
+    EXPECT_THROW(Throw_System_Error(EPERM), Access_Refused);
+    for (const int Other : {ENOENT, ENXIO, ENOTTY, EIO}) {
+        try {
+            Throw_System_Error(Other);
+        } catch (const Run_Time_Error& Failure) {
+            EXPECT_EQ(typeid(Failure), typeid(Run_Time_Error)) << Other;
+        }
+    }
+    Termios_Serial_Port Nowhere("COM 5", [] { return std::string(); });
+    EXPECT_EQ(Error_Of([&] { Nowhere.Try(); }), "No device is assigned to COM 5");
 }
 
 TEST(Serial_Line, A_handler_may_close_and_reopen_or_destroy_its_port) {

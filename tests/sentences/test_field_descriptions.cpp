@@ -70,7 +70,8 @@ TEST(Field_Descriptions, Every_Composer_Has_One_With_As_Many_Fields_As_It_Writes
         Composed.insert(Type);
         const Sentence_Description* D = Find_Description(Type);
         ASSERT_NE(D, nullptr) << Type;
-        EXPECT_EQ(static_cast<std::size_t>(std::count(Sentence.begin(), Sentence.end(), ',')), D->Field_Count())
+        EXPECT_EQ(static_cast<std::size_t>(std::count(Sentence.begin(), Sentence.end(), ',')),
+                  D->Field_Count())
             << Sentence;
         // No field of it needs a number for a name, none is without a name.
         for (const Field_Value& Part : Take_Apart(Sentence)) {
@@ -138,7 +139,8 @@ TEST(Take_Apart, Shows_Header_And_Tags_With_Their_Meaning) {
 TEST(Take_Apart, Makes_The_Best_Of_Mutilated_Sentences) {
     // Two merged ones, each in its turn.
     const auto Merged = Take_Apart("$GPGLL,1,N*00$GPVTG,2.5,T");
-    EXPECT_EQ(std::count_if(Merged.begin(), Merged.end(), [](const auto& P) { return P.Name == "Talker"; }), 2);
+    EXPECT_EQ(std::count_if(Merged.begin(), Merged.end(), [](const auto& P) { return P.Name == "Talker"; }),
+              2);
     EXPECT_EQ(Find(Merged, "Course over ground")->Value, "2.5");
     // The tail of one and the head of the next, as splitting makes them.
     const auto Split = Take_Apart("0,E,1*5A$GPGGA,1015\r\n");

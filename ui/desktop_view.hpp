@@ -1,0 +1,71 @@
+#pragma once
+
+#include "shell/simulator.hpp"
+#include "ui/form_view.hpp"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QTimer>
+
+#include <map>
+#include <memory>
+
+class QDialog;
+class QMessageBox;
+
+namespace brinewright {
+
+class Form_Window;
+
+// The desktop as seen: the main window with menus, status bar and child windows, dialogs and message boxes.
+// Like every view it owns nothing of the program: it follows the forms that are open and reports what the
+// user does. It looks at most 30 times a second, and only when something has changed.
+class Desktop_View : public QMainWindow {
+    Q_OBJECT
+  public:
+    Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme);
+    ~Desktop_View() override;
+
+    void Open();   // shows the main window at its kept place, with what is open
+    void Follow(); // now, instead of at the next look
+    // The window of a form, frmMain included; null when the form is not open.
+    QWidget* Window_Of(const std::string& Form_Path);
+    // Saves a picture of a form's window. Empty, or what went wrong.
+    std::string Grab(const std::string& Form_Path, const std::string& File);
+
+  protected:
+    void closeEvent(QCloseEvent* Closing) override;
+    void moveEvent(QMoveEvent* Moved) override;
+    void resizeEvent(QResizeEvent* Resized) override;
+    void changeEvent(QEvent* Changed) override;
+
+  private:
+    void Make_Menus();
+    void Make_View_Menu();
+    void Make_Status_Bar();
+    void Place_From_Model();
+    void Report_Place();
+    void Follow_Windows();
+    void Follow_Main();
+    void Follow_Boxes();
+    void Follow_File_Dialogs();
+    void Look_Soon();
+
+    Simulator& Sim;
+    Theme& Colours;
+    QMdiArea* Area;
+    QLabel* Fault_Strip;
+    QTimer Look;
+    std::map<const Form*, std::unique_ptr<Form_Window>> Shown;
+    std::map<const Menu_Item*, QAction*> Actions;
+    std::map<int, QLabel*> Panels;
+    QMessageBox* Box = nullptr;
+    std::int64_t Box_Id = 0;
+    std::int64_t Asked_Id = 0;
+    std::uint64_t Seen = 0;
+    const Form* Active_Seen = nullptr;
+    bool Placing = true;
+};
+
+} // namespace brinewright

@@ -1,0 +1,308 @@
+#include "ui/form_view.hpp"
+
+#include "ui/grid_model.hpp"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
+
+namespace brinewright {
+
+QString To_Screen(const std::string& Text) {
+    return QString::fromLatin1(Text.data(), static_cast<qsizetype>(Text.size()));
+}
+
+std::string From_Screen(const QString& Text) {
+    const QByteArray Bytes = Text.toLatin1();
+    return {Bytes.constData(), static_cast<std::size_t>(Bytes.size())};
+}
+
+namespace {
+
+// A box for a value, not for prose: it asks for less room than the toolkit's own.
+class Value_Edit : public QLineEdit {
+  public:
+    using QLineEdit::QLineEdit;
+    QSize sizeHint() const override {
+        return {fontMetrics().horizontalAdvance(QStringLiteral("00.00000")) + 14,
+                QLineEdit::sizeHint().height()};
+    }
+};
+
+} // namespace
+
+Form_View::Form_View(Simulator& Its_Simulator, const std::shared_ptr<Form>& Shown, const Theme& Its_Colours)
+    : Sim(Its_Simulator), Colours(Its_Colours), Source(Shown) {
+    setObjectName(QStringLiteral("form"));
+    setAttribute(Qt::WA_StyledBackground);
+}
+
+void Form_View::Act(const std::function<void(Desktop&)>& Work) {
+    const auto F = Source.lock();
+    if (!F || !F->Loaded) return;
+    Desktop& Windows = F->Windows;
+    Windows.Event([&] {
+        try {
+            Work(Windows);
+        } catch (const User_Refusal&) {
+            QApplication::beep();
+        }
+    });
+    Follow_Focus(Windows);
+    Q_EMIT Acted();
+}
+
+// The model owns the focus: a handler may have sent it back to the box that the user wanted to leave.
+void Form_View::Follow_Focus(const Desktop& Windows) {
+    if (!Windows.Focus) return;
+    QWidget* Wanted = Widget_Of(*Windows.Focus);
+    if (!Wanted || Wanted->hasFocus()) return;
+    Following = true;
+    Wanted->setFocus();
+    Following = false;
+}
+
+void Form_View::Show_Common(const Visible_Control& C, QWidget* W) const {
+    W->setEnabled(*C.Enabled);
+    W->setVisible(*C.Visible);
+    W->setToolTip(To_Screen(*C.Tool_Tip));
+}
+
+void Form_View::Bind(Visible_Control& C, QWidget* W, std::function<void()> Show) {
+    W->setObjectName(To_Screen(C.Path()));
+    W->installEventFilter(this);
+    Bindings.push_back({&C, W, [this, &C, W, Show = std::move(Show)] {
+                            const QSignalBlocker Quiet(W);
+                            Show();
+                            Show_Common(C, W);
+                        }});
+}
+
+QPushButton* Form_View::Make(Button& C) {
+    auto* W = new QPushButton(this);
+    Bind(C, W, [&C, W] { W->setText(To_Screen(*C.Caption)); });
+    connect(W, &QPushButton::clicked, this, [this, &C] { Act([&C](Desktop& D) { D.User_Click(C); }); });
+    return W;
+}
+
+QCheckBox* Form_View::Make(Check_Box& C) {
+    auto* W = new QCheckBox(this);
+    Bind(C, W, [&C, W] {
+        W->setText(To_Screen(*C.Caption));
+        W->setChecked(C.Value());
+    });
+    connect(W, &QCheckBox::clicked, this,
+            [this, &C](bool On) { Act([&C, On](Desktop& D) { D.User_Set(C, On); }); });
+    return W;
+}
+
+QComboBox* Form_View::Make(Combo_Box& C) {
+    auto* W = new QComboBox(this);
+    W->setEditable(C.Free_Text);
+    W->setInsertPolicy(QComboBox::NoInsert);
+    W->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    Bind(C, W, [&C, W] {
+        const auto& Items = C.Items();
+        bool Same = W->count() == static_cast<int>(Items.size());
+        for (int I = 0; Same && I < W->count(); ++I)
+            Same = W->itemText(I) == To_Screen(Items[static_cast<std::size_t>(I)].Text);
+        if (!Same) {
+            W->clear();
+            for (const auto& Item : Items) W->addItem(To_Screen(Item.Text));
+        }
+        W->setCurrentIndex(C.List_Index());
+        if (W->isEditable()) {
+            if (W->currentText() != To_Screen(C.Text())) W->setEditText(To_Screen(C.Text()));
+        } else if (C.List_Index() < 0) {
+            W->setPlaceholderText(To_Screen(C.Text()));
+        }
+    });
+    // "activated" comes also when the entry is chosen that stands chosen already.
+    connect(W, &QComboBox::activated, this, [this, &C](int Index) {
+        Act([&C, Index](Desktop& D) { D.User_Set(C, static_cast<std::int64_t>(Index)); });
+    });
+    if (W->lineEdit()) {
+        W->lineEdit()->setProperty("control", W->objectName());
+        connect(W->lineEdit(), &QLineEdit::textEdited, this, [this, &C](const QString& Text) {
+            Act([&C, &Text](Desktop&) { C.Set_Text(From_Screen(Text)); });
+        });
+    }
+    return W;
+}
+
+QLineEdit* Form_View::Make(Text_Box& C) {
+    auto* W = new Value_Edit(this);
+    Bind(C, W, [&C, W, Selections = std::uint32_t{0}]() mutable {
+        W->setReadOnly(C.Read_Only);
+        if (W->text() != To_Screen(C.Text())) W->setText(To_Screen(C.Text()));
+        if (std::exchange(Selections, *C.Select_All_Count) != *C.Select_All_Count) W->selectAll();
+        // The told widths are for a narrower face than ours.
+        if (*C.Width != 0) W->setFixedWidth(*C.Width * 4 / 3 / Twips_Per_Pixel);
+    });
+    connect(W, &QLineEdit::textEdited, this, [this, &C](const QString& Text) {
+        Act([&C, &Text](Desktop& D) { D.User_Type(C, From_Screen(Text)); });
+    });
+    // Enter takes the text over as leaving the box does, and stays in it.
+    connect(W, &QLineEdit::returnPressed, this, [this, &C] {
+        Act([&C](Desktop& D) {
+            if (D.Focus == &C) D.Set_Focus(nullptr);
+            if (D.Usable(C) && !D.Focus) D.User_Focus(C);
+        });
+    });
+    return W;
+}
+
+QPlainTextEdit* Form_View::Make_Pane(Text_Box& C) {
+    auto* W = new QPlainTextEdit(this);
+    W->setReadOnly(true);
+    W->setFont(Sentence_Font());
+    W->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    Bind(C, W, [&C, W] {
+        if (W->toPlainText() != To_Screen(C.Text())) W->setPlainText(To_Screen(C.Text()));
+    });
+    return W;
+}
+
+QSlider* Form_View::Make(Scroll_Bar& C, Qt::Orientation Direction) {
+    auto* W = new QSlider(Direction, this);
+    Bind(C, W, [&C, W] {
+        // Min stands at the top, whichever end of the numbers it is; lying sliders rise to the right.
+        W->setInvertedAppearance(W->orientation() == Qt::Vertical && *C.Min < *C.Max);
+        W->setInvertedControls(W->invertedAppearance());
+        W->setRange(std::min<int>(C.Min, C.Max), std::max<int>(C.Min, C.Max));
+        W->setSingleStep(C.Small_Change);
+        W->setPageStep(C.Large_Change);
+        W->setValue(C.Value());
+    });
+    connect(W, &QSlider::valueChanged, this, [this, &C](int Value) {
+        Act([&C, Value](Desktop& D) { D.User_Set(C, static_cast<std::int64_t>(Value)); });
+    });
+    return W;
+}
+
+QRadioButton* Form_View::Make(Option_Button& C) {
+    auto* W = new QRadioButton(this);
+    W->setAutoExclusive(false); // the group in the model is what excludes
+    Bind(C, W, [&C, W] {
+        W->setText(To_Screen(*C.Caption));
+        W->setChecked(C.Value());
+    });
+    connect(W, &QRadioButton::clicked, this, [this, &C, W] {
+        Act([&C](Desktop& D) { D.User_Click(C); });
+        const QSignalBlocker Quiet(W);
+        W->setChecked(C.Value());
+    });
+    return W;
+}
+
+QLabel* Form_View::Make(Label& C, const char* Role) {
+    auto* W = new QLabel(this);
+    W->setTextFormat(Qt::PlainText);
+    W->setProperty("role", QString::fromLatin1(Role));
+    Bind(C, W, [this, &C, W] {
+        W->setText(To_Screen(*C.Caption));
+        QPalette P;
+        if (*C.Fore_Colour == Ink::Red) P.setColor(QPalette::WindowText, Colours.Colour(Token::Port));
+        if (*C.Fore_Colour == Ink::Green) P.setColor(QPalette::WindowText, Colours.Colour(Token::Starboard));
+        W->setPalette(P);
+    });
+    return W;
+}
+
+QGroupBox* Form_View::Make(Frame& C) {
+    auto* W = new QGroupBox(this);
+    Bind(C, W, [&C, W] { W->setTitle(To_Screen(*C.Caption)); });
+    return W;
+}
+
+QTableView* Form_View::Make(Grid& C) {
+    auto* W = new QTableView(this);
+    auto* Model = new Grid_Model(Source.lock(), C, Colours, W);
+    W->setModel(Model);
+    W->verticalHeader()->hide();
+    W->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    W->verticalHeader()->setDefaultSectionSize(W->fontMetrics().height() + 6);
+    W->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    W->setSelectionBehavior(QAbstractItemView::SelectRows);
+    W->setSelectionMode(QAbstractItemView::SingleSelection);
+    Bind(C, W, [&C, W, Model] {
+        // A table that stands at its end stays there while rows come.
+        const auto* Bar = W->verticalScrollBar();
+        const bool At_End = Bar->value() == Bar->maximum();
+        Model->Follow();
+        if (C.Selected_Row() >= 0 && W->currentIndex().row() != C.Selected_Row()) {
+            const QSignalBlocker Quiet(W->selectionModel());
+            W->selectRow(C.Selected_Row());
+            W->viewport()->update();
+        } else if (C.Selected_Row() < 0) {
+            W->clearSelection();
+            if (At_End) W->scrollToBottom();
+        }
+    });
+    connect(W->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this, &C](const QModelIndex& Now) {
+                if (Now.isValid())
+                    Act([&C, Row = Now.row()](Desktop& D) { D.User_Set(C, static_cast<std::int64_t>(Row)); });
+            });
+    return W;
+}
+
+void Form_View::Refresh() {
+    const auto F = Source.lock();
+    if (!F || F->Revision == Seen) return;
+    Seen = F->Revision;
+    for (Binding& B : Bindings) {
+        if (B.Seen == B.Source->Revision) continue;
+        B.Seen = B.Source->Revision;
+        B.Show();
+    }
+    for (const auto& Look : Looks) Look();
+}
+
+QWidget* Form_View::Widget_Of(const Control& C) const {
+    for (const Binding& B : Bindings)
+        if (B.Source == &C) return B.Widget;
+    return nullptr;
+}
+
+Control* Form_View::Control_Of(const QObject* W) const {
+    for (const Binding& B : Bindings)
+        if (B.Widget == W) return B.Source;
+    return nullptr;
+}
+
+bool Form_View::eventFilter(QObject* Watched, QEvent* Happened) {
+    Control* C = Source.expired() ? nullptr : Control_Of(Watched);
+    if (!C) return QWidget::eventFilter(Watched, Happened);
+    if (Happened->type() == QEvent::FocusIn && !Following) {
+        const auto Reason = static_cast<QFocusEvent*>(Happened)->reason();
+        if (Reason != Qt::ActiveWindowFocusReason && Reason != Qt::PopupFocusReason && C->Can_Focus())
+            Act([C](Desktop& D) { D.User_Focus(*C); });
+    } else if (Happened->type() == QEvent::MouseButtonPress && C->Kind == Control_Kind::Label) {
+        const bool Left = static_cast<QMouseEvent*>(Happened)->button() == Qt::LeftButton;
+        Act([C, Left](Desktop& D) { D.User_Click(*C, Left ? Mouse_Button::Left : Mouse_Button::Right); });
+    } else if (Happened->type() == QEvent::KeyPress) {
+        const auto F = Source.lock();
+        const int Key = static_cast<QKeyEvent*>(Happened)->key();
+        const std::pair<int, int> Codes[] = {{Qt::Key_Left, key::Left},
+                                             {Qt::Key_Up, key::Up},
+                                             {Qt::Key_Right, key::Right},
+                                             {Qt::Key_Down, key::Down}};
+        for (const auto& [Qt_Key, Code] : Codes)
+            if (Key == Qt_Key && F->Key_Preview) {
+                Act([&F, Code = Code](Desktop& D) { D.User_Key(*F, Code); });
+                return true;
+            }
+    }
+    return QWidget::eventFilter(Watched, Happened);
+}
+
+} // namespace brinewright

@@ -1,0 +1,173 @@
+#include "ui/form_window.hpp"
+
+#include "ui/layouts.hpp"
+
+#include <QDialog>
+#include <QEvent>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace brinewright {
+
+namespace {
+
+int Pixels(float Twips) { return static_cast<int>(Twips / Twips_Per_Pixel); }
+float Twips(int Pixel_Count) { return static_cast<float>(Pixel_Count * Twips_Per_Pixel); }
+
+} // namespace
+
+Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, const Theme& Colours,
+                         QMdiArea& Area)
+    : Source(Shown), Its_View(new Form_View(Sim, Shown, Colours)) {
+    Lay_Out(*Its_View, *Shown);
+    if (Shown->Kind == Form_Kind::Dialog) {
+        Dialog = new QDialog(Area.window());
+        auto* Box = new QVBoxLayout(Dialog);
+        Box->setContentsMargins(0, 0, 0, 0);
+        Box->addWidget(Its_View);
+        Box->setSizeConstraint(QLayout::SetMinimumSize);
+        Dialog->installEventFilter(this);
+    } else {
+        // Small screens scroll what does not fit instead of cutting it.
+        Scroll = new QScrollArea;
+        Scroll->setWidget(Its_View);
+        Scroll->setWidgetResizable(true);
+        Child = new QMdiSubWindow;
+        Child->setWidget(Scroll);
+        Child->setWindowIcon(QIcon(QPixmap(1, 1))); // titles carry no picture
+        Child->setAttribute(Qt::WA_DeleteOnClose, false);
+        Area.addSubWindow(Child);
+        Child->installEventFilter(this);
+        connect(Child, &QMdiSubWindow::aboutToActivate, this, [this] {
+            if (const auto F = Source.lock(); F && !Placing)
+                F->Windows.Event([&F] { F->Windows.Activate(*F); });
+        });
+    }
+}
+
+Form_Window::~Form_Window() {
+    Placing = true;
+    delete Child;
+    delete Dialog;
+}
+
+QWidget* Form_Window::Frame_Widget() const {
+    return Child ? static_cast<QWidget*>(Child) : static_cast<QWidget*>(Dialog);
+}
+
+void Form_Window::Follow() {
+    const auto F = Source.lock();
+    if (!F) return;
+    Placing = true;
+    Its_View->Refresh();
+    if (Frame_Widget()->windowTitle() != To_Screen(F->Caption))
+        Frame_Widget()->setWindowTitle(To_Screen(F->Caption));
+    const bool Moved = F->Left != Left || F->Top != Top || F->Width != Width || F->Height != Height;
+    if (First) Frame_Widget()->show(); // before its place: the area puts windows that open where it likes
+    if (Moved || First) Apply_Place(*F);
+    First = false;
+    Placing = false;
+}
+
+// The size that the form asks for, but never less than its contents need.
+void Form_Window::Apply_Place(const Form& F) {
+    Left = F.Left;
+    Top = F.Top;
+    Width = F.Width;
+    Height = F.Height;
+    if (!Child) return;
+    Its_View->layout()->activate();
+    const QSize Contents = Its_View->layout()->sizeHint();
+    const QMargins Frame_Margins = Child->contentsMargins();
+    QSize Wanted(std::max(Pixels(Width), Contents.width() + Frame_Margins.left() + Frame_Margins.right()),
+                 std::max(Pixels(Height), Contents.height() + Frame_Margins.top() + Frame_Margins.bottom()));
+    QPoint Corner(std::max(Pixels(Left), 0), std::max(Pixels(Top), 0));
+    const QWidget* Area = Child->parentWidget();
+    if (First && Area && Area->width() > 200 && Area->height() > 200) {
+        // A window that opens does so inside the area, as far as it can.
+        Wanted = Wanted.boundedTo(Area->size());
+        Corner.setX(std::min(Corner.x(), Area->width() - Wanted.width()));
+        Corner.setY(std::min(Corner.y(), Area->height() - Wanted.height()));
+    }
+    Child->setGeometry(QRect(Corner, Wanted));
+    Applied = Child->geometry();
+}
+
+void Form_Window::Activate() {
+    if (Child) {
+        if (const auto* Area = Child->mdiArea(); Area && Area->activeSubWindow() == Child) return;
+        Placing = true;
+        if (Child->mdiArea()) Child->mdiArea()->setActiveSubWindow(Child);
+        Placing = false;
+    } else {
+        Dialog->raise();
+        Dialog->activateWindow();
+    }
+}
+
+void Form_Window::Report_Place() {
+    const auto F = Source.lock();
+    if (!F || !F->Loaded || !Child || Child->isMinimized() || Child->isMaximized()) return;
+    const QRect Now = Child->geometry();
+    if (Now == Applied) return;
+    F->Windows.Event([&] {
+        if (Now.size() != Applied.size())
+            F->Set_Place(Twips(Now.x()), Twips(Now.y()), Twips(Now.width()), Twips(Now.height()));
+        F->Left = Twips(Now.x());
+        F->Top = Twips(Now.y());
+    });
+    Applied = Now;
+    Left = F->Left;
+    Top = F->Top;
+    Width = F->Width;
+    Height = F->Height;
+    Q_EMIT Its_View->Acted();
+}
+
+void Form_Window::Close_By_User() {
+    if (const auto F = Source.lock()) F->Windows.Event([&F] { F->Windows.User_Close(*F); });
+    Q_EMIT Its_View->Acted();
+}
+
+void Form_Window::Press(const char* First_Name, const char* Other_Name) {
+    const auto F = Source.lock();
+    if (!F) return;
+    Control* Target = F->Find(First_Name);
+    if (!Target) Target = F->Find(Other_Name);
+    if (Target)
+        Its_View->Act([Target](Desktop& D) { D.User_Click(*Target); });
+    else
+        Close_By_User();
+}
+
+bool Form_Window::eventFilter(QObject* Watched, QEvent* Happened) {
+    switch (Happened->type()) {
+    case QEvent::Close:
+        if (Placing) break;
+        Happened->ignore(); // the model closes the window, and then the view goes
+        Close_By_User();
+        return true;
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (!Placing) Report_Place();
+        break;
+    case QEvent::KeyPress:
+        if (Watched != Dialog) break;
+        if (const int Key = static_cast<QKeyEvent*>(Happened)->key(); Key == Qt::Key_Escape) {
+            Press("cmdCancel", "cmdNo");
+            return true;
+        } else if (Key == Qt::Key_Return || Key == Qt::Key_Enter) {
+            Press("cmdOK", "cmdOk");
+            return true;
+        }
+        break;
+    default: break;
+    }
+    return QObject::eventFilter(Watched, Happened);
+}
+
+} // namespace brinewright

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/form_view.hpp"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QRect>
+
+#include <functional>
+#include <memory>
+
+class QDialog;
+class QScrollArea;
+
+namespace brinewright {
+
+// The frame around the view of one form: a child window of the main window, or a dialog. Its place and size
+// follow the form, and the form follows what the user drags.
+class Form_Window : public QObject {
+    Q_OBJECT
+  public:
+    Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, const Theme& Colours, QMdiArea& Area);
+    ~Form_Window() override;
+
+    void Follow(); // title, place and contents
+    void Activate();
+    QWidget* Frame_Widget() const;
+    Form_View& View() { return *Its_View; }
+
+  protected:
+    bool eventFilter(QObject* Watched, QEvent* Happened) override;
+
+  private:
+    void Apply_Place(const Form& F);
+    void Report_Place();
+    void Close_By_User();
+    void Press(const char* First_Name, const char* Other_Name);
+
+    std::weak_ptr<Form> Source;
+    Form_View* Its_View;
+    QPointer<QMdiSubWindow> Child;
+    QPointer<QDialog> Dialog;
+    QPointer<QScrollArea> Scroll;
+    float Left = 0, Top = 0, Width = 0, Height = 0; // of the form, as applied last
+    QRect Applied; // the geometry that this gave the child window, as far as the user has not changed it
+    bool Placing = false;
+    bool First = true;
+};
+
+} // namespace brinewright

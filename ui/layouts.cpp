@@ -1,0 +1,47 @@
+#include "ui/layouts.hpp"
+
+#include "ui/layouts/layout_parts.hpp"
+
+#include <stdexcept>
+
+namespace brinewright {
+
+namespace {
+
+struct Layout_Row {
+    const char* Form_Name;
+    void (*Lay_Out)(Form_View&, Form&);
+};
+
+constexpr Layout_Row Layouts[] = {
+    {"frmPosition", Lay_Out_Position},
+    {"frmGNSS", Lay_Out_GNSS_Configuration},
+    {"frmMonitor", Lay_Out_Monitor},
+    {"frmExtendedMonitor", Lay_Out_Extended_Monitor},
+    {"frmTraffic", Lay_Out_Traffic},
+    {"frmTCPIP", Lay_Out_TCPIP},
+    {"frmIEC61162", Lay_Out_IEC61162},
+    {"frmGeoFormat", Lay_Out_Geo_Format},
+    {"frmSetup", Lay_Out_Setup},
+    {"frmProgress", Lay_Out_Progress},
+    {"frmComportInfo", Lay_Out_Comport_Info},
+};
+
+const Layout_Row* Find_Layout(const std::string& Form_Name) {
+    for (const Layout_Row& Row : Layouts)
+        if (Form_Name == Row.Form_Name) return &Row;
+    return nullptr;
+}
+
+} // namespace
+
+bool Has_Layout(const std::string& Form_Name) { return Find_Layout(Form_Name) != nullptr; }
+
+void Lay_Out(Form_View& View, Form& Shown) {
+    const Layout_Row* Row = Find_Layout(Shown.Name);
+    if (!Row) throw std::logic_error("no layout for " + Shown.Name);
+    Row->Lay_Out(View, Shown);
+    View.Refresh();
+}
+
+} // namespace brinewright
