@@ -138,7 +138,7 @@ struct Wishes {
 Json Parameter(const Argument& Its, const std::string& Given, const Wishes& Wish) {
     if (Its.As == Take::Text || (Its.As == Take::Value && Wish.Value_Is_Text)) return Given;
     if (Its.As == Take::File) return std::filesystem::absolute(Given).string();
-    const Json Read = Json::parse(Given, nullptr, false);
+    Json Read = Json::parse(Given, nullptr, false);
     if (Read.is_number() || (Its.As == Take::Value && Read.is_boolean())) return Read;
     if (Its.As == Take::Number) throw Ending(Wrong_Usage, std::string(Its.Name) + " must be a number");
     return Given;

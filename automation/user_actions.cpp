@@ -112,7 +112,7 @@ void Check_Value(const Control& Of, const Control_Value& Value) {
 // The value of Json as the control and the property want it. A number for a text box is typed as it stands.
 Control_Value Wanted_Value(const Control& Of, Settable How, const Json& Value) {
     if (Of.Kind == Control_Kind::Text_Box && Value.is_number()) return Json_Line(Value);
-    const Control_Value Wanted = To_Control_Value(Value);
+    Control_Value Wanted = To_Control_Value(Value);
     if (How == Settable::By_Number && !std::holds_alternative<std::int64_t>(Wanted))
         Refuse_Value("The number of an entry is wanted");
     if (How == Settable::By_Text && !std::holds_alternative<std::string>(Wanted))

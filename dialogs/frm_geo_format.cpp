@@ -30,6 +30,11 @@ void frmGeoFormat_Load(Simulator& Sim, frmGeoFormat& F) {
     F.cmbDecimals.Click = [&Sim, &F] {
         Show_Example(Sim, F, F.optFormat.Selected(), static_cast<std::int16_t>(F.cmbDecimals.List_Index()));
     };
+    F.optFormat.Buttons[0]->Tool_Tip = std::string("Positions in degrees and minutes, 4 decimals");
+    F.optFormat.Buttons[1]->Tool_Tip = std::string("Positions in degrees, minutes and seconds, 3 decimals");
+    F.cmbDecimals.Tool_Tip = std::string("Decimals of the example");
+    F.cmdOk.Tool_Tip = std::string("Shows all positions in this format");
+    F.cmdCancel.Tool_Tip = std::string("Leaves the format as it was");
     F.cmdOk.Click = [&Sim, &F] { cmdOk_Click(Sim, F); };
     F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
     F.On_Unload = [&Sim] { Sim.GeoFormat.reset(); };

@@ -15,7 +15,7 @@ void Move_Elevation(Sky_Satellite& Satellite, double Step_deg) {
     const double Change_deg = Satellite.Rising ? Step_deg : -Step_deg;
     Satellite.Elevation = static_cast<float>(Satellite.Elevation + Change_deg);
     if (Satellite.Rising) {
-        if (Satellite.Elevation > Satellite.Max_Elevation) Satellite.Rising = false;
+        if (Satellite.Elevation > static_cast<float>(Satellite.Max_Elevation)) Satellite.Rising = false;
     } else if (Satellite.Elevation < Lowest_Elevation_deg) {
         Satellite.Rising = true;
     }

@@ -11,17 +11,21 @@ namespace {
 
 struct Tag_Row {
     const char* Caption;
+    const char* Tip;
     bool IEC450_State::*Use;
 };
 
 constexpr std::array<Tag_Row, 7> Tag_Rows{{
-    {"s: Source Identification", &IEC450_State::Use_s_Tag},
-    {"d: Destination Identification 1", &IEC450_State::Use_d_Tag},
-    {"d: Destination Identification 2", &IEC450_State::Use_d2_Tag},
-    {"n: Line-count parameter", &IEC450_State::Use_n_Tag},
-    {"g: Grouping control", &IEC450_State::Use_g_Tag},
-    {"c: Time, sec since 1 Jan 1970", &IEC450_State::Use_c_Tag},
-    {"t:Text string", &IEC450_State::Use_t_Tag},
+    {"s: Source Identification", "Names the sender in every tag block", &IEC450_State::Use_s_Tag},
+    {"d: Destination Identification 1", "Names a receiver in every tag block", &IEC450_State::Use_d_Tag},
+    {"d: Destination Identification 2", "Names a second receiver in every tag block",
+     &IEC450_State::Use_d2_Tag},
+    {"n: Line-count parameter", "Counts the sentences, in every tag block", &IEC450_State::Use_n_Tag},
+    {"g: Grouping control", "Tells which sentences belong together, in every tag block",
+     &IEC450_State::Use_g_Tag},
+    {"c: Time, sec since 1 Jan 1970", "Adds the time to every tag block, seconds since 1 Jan 1970",
+     &IEC450_State::Use_c_Tag},
+    {"t:Text string", "Adds a text of your own to every tag block", &IEC450_State::Use_t_Tag},
 }};
 
 struct Text_Row {
@@ -55,11 +59,17 @@ void frmIEC61162_Load(Simulator& Sim, frmIEC61162& F) {
     F.chkUdpbc.Set_Value(S.UdPbC_Header_Enabled);
     F.chkIEC61162_450.Tool_Tip = std::string("Puts a tag block in front of every sentence on every link");
     F.chkUdpbc.Tool_Tip = std::string("Puts the UdPbC datagram header in front of the tag block");
-    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) F.chkIEC61162[I]->Set_Value(S.*Tag_Rows[I].Use);
+    F.cmdOK.Tool_Tip = std::string("Takes the settings over for the next sentence");
+    F.cmdCancel.Tool_Tip = std::string("Leaves the settings as they were");
+    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) {
+        F.chkIEC61162[I]->Set_Value(S.*Tag_Rows[I].Use);
+        F.chkIEC61162[I]->Tool_Tip = std::string(Tag_Rows[I].Tip);
+    }
     for (const Text_Row& Row : Text_Rows) {
         Text_Box& Box = Row.Box(F);
         const std::string& Value = S.*Row.Value;
         Box.Set_Text(Value.empty() ? Row.Default_Text : Value);
+        Box.Tool_Tip = std::string("Text of the tag beside it, sent as it stands");
         Box.Got_Focus = [&Box] { Box.Select_All(); };
     }
     F.cmdOK.Click = [&Sim, &F] { cmdOK_Click(Sim, F); };

@@ -192,12 +192,19 @@ frmSetup::frmSetup(Desktop& Its_Windows)
       cmbParity(*this, "cmbParity", ""), cmbStopBits(*this, "cmbStopBits", ""),
       txtUDP_port(*this, "txtUDP_port", "") {
     Caption = "Port settings - Available COM ports";
+    for (const auto& Box : chkEnable) Box->Tool_Tip = std::string("Uses this link after OK");
+    optUDPMode.Buttons[0]->Tool_Tip = std::string("All UDP links send to 255.255.255.255");
+    optUDPMode.Buttons[1]->Tool_Tip = std::string("All UDP links send to the address beside it");
+    cmdOK.Tool_Tip = std::string("Takes the settings over and opens the links anew");
+    cmdCancel.Tool_Tip = std::string("Leaves the links as they were");
+    cmdComInfo.Tool_Tip = std::string("Tells about ports above COM 16");
     cmdReset.Tool_Tip = std::string("Forgets the ports and looks for them again");
 }
 
 frmComportInfo::frmComportInfo(Desktop& Its_Windows)
     : Form(Its_Windows, "frmComportInfo", 0, Form_Kind::Dialog) {
     Caption = "    Comport Information";
+    cmdOK.Tool_Tip = std::string("Closes this note");
 }
 
 void Show_Port(Simulator& Sim, frmSetup& F, int Port, bool Shown) {

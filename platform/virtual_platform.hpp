@@ -32,11 +32,11 @@ class Virtual_Clock : public Clock {
 // on real links. The far end is played by whoever holds the object.
 struct Memory_Links {
     bool Keep = false;
-    std::vector<std::pair<std::string, std::string>>
-        Sent;                 // link ("COM 3", "TCP 0", "UDP 239.192.0.1:60001"), text
-    std::string Failing_Open; // a link whose next opening fails
-    std::set<std::string> Busy,
-        Refused; // links that another program holds, or that this user has no right to
+    // Link ("COM 3", "TCP 0", "UDP 239.192.0.1:60001") and text.
+    std::vector<std::pair<std::string, std::string>> Sent;
+    std::string Failing_Open;      // a link whose next opening fails
+    std::set<std::string> Busy;    // links that another program holds
+    std::set<std::string> Refused; // links that this user has no right to
 };
 
 class Memory_Files : public Files {

@@ -43,6 +43,7 @@ std::vector<std::string> Numbered_Names(const std::vector<std::string>& Names, s
     }
     std::sort(Numbered.begin(), Numbered.end());
     std::vector<std::string> Result;
+    Result.reserve(Numbered.size());
     for (auto& [Number, Name] : Numbered) Result.push_back(std::move(Name));
     return Result;
 }
@@ -83,7 +84,7 @@ std::vector<std::string> Find_Serial_Devices(const Device_Roots& Roots) {
     }
     for (const std::string& Name : Numbered_Names(Names, "ttyAMA")) Found.push_back(Roots.Dev + "/" + Name);
     const std::string By_Id = Roots.Dev + "/serial/by-id";
-    for (const std::string& Name : Names_In(By_Id)) Found.push_back(By_Id + "/" + Name);
+    for (const std::string& Name : Names_In(By_Id)) Found.push_back(std::string(By_Id).append("/").append(Name));
     for (const char* Prefix : {"ttyUSB", "ttyACM"}) {
         for (const std::string& Name : Numbered_Names(Names, Prefix)) {
             const std::string Path = Roots.Dev + "/" + Name;

@@ -47,6 +47,8 @@ void frmExtendedMonitor_Load(Simulator& Sim, frmExtendedMonitor& F) {
     F.txtOutput.Read_Only = true;
     F.txtInput.Read_Only = true;
     F.cmbComPort.Tool_Tip = std::string("The link to watch");
+    F.cmdFreeze.Tool_Tip = std::string("Holds both panes still; the link goes on working");
+    F.cmdClear.Tool_Tip = std::string("Empties both panes");
     F.cmbComPort.Click = [&Sim, &F] { cmbComPort_Click(Sim, F); };
     F.cmdFreeze.Click = [&F] {
         const bool Runs = *F.cmdFreeze.Caption == monitor_caption::Running;

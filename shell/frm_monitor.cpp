@@ -21,6 +21,8 @@ void frmMonitor_Load(Simulator& Sim, frmMonitor& F) {
         F.cmdClear[Port].Visible = Enabled;
         F.txtCom[Port].Read_Only = true;
         F.txtCom[Port].Tool_Tip = std::string("The last sentences that left here");
+        F.cmdFreeze[Port].Tool_Tip = std::string("Holds this pane still; the sentences go on leaving");
+        F.cmdClear[Port].Tool_Tip = std::string("Empties this pane");
         Button& Freeze = F.cmdFreeze[Port];
         Freeze.Click = [&Freeze] {
             const bool Runs = *Freeze.Caption == monitor_caption::Running;

@@ -74,7 +74,10 @@ TEST(Start, Without_A_Setup_File) {
     Virtual_Simulator V;
     V.Start();
     EXPECT_EQ(V.Take_Boxes(),
-              Texts{"No setupfile exist. Default data loaded and no comports initialized ! "});
+              (Texts{"No setupfile exist. Default data loaded and no comports initialized ! ",
+                     "The Brinewright will automatic detect available comports. It might take e few seconds. "
+                     "Please be pasient!"}));
+    EXPECT_TRUE(V.Sim.Windows.Find_Form("frmSetup"));
     EXPECT_EQ(V.Sim.State.Mode, "Ship");
     EXPECT_TRUE(*V.Sim.Main->mnuMode_Ship.Checked);
     EXPECT_FALSE(*V.Sim.Main->mnuMode_Sensor.Checked);

@@ -302,7 +302,7 @@ void Lay_Out_Position(Form_View& View, Form& Shown) {
         const Frame* const Frames_In_Order[] = {&F.frmGSA, &F.frmGSV, &F.frmGST};
         for (int I = 0; I < 3; ++I) {
             Needed += Frames_In_Order[I]->Width;
-            Wide[I]->setVisible(static_cast<int>(F.Width) >= Needed);
+            Wide[I]->setVisible(*Frames_In_Order[I]->Visible && static_cast<int>(F.Width) >= Needed);
         }
     });
 }

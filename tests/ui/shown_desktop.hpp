@@ -1,0 +1,93 @@
+#pragma once
+
+#include "dialogs/frm_geo_format.hpp"
+#include "gnss/frm_gnss.hpp"
+#include "links/frm_iec61162.hpp"
+#include "links/frm_setup.hpp"
+#include "links/port_detection.hpp"
+#include "shell/frm_traffic.hpp"
+#include "tests/support/virtual_simulator.hpp"
+#include "ui/desktop_view.hpp"
+
+#include <QApplication>
+#include <QScrollArea>
+#include <QtTest/QTest>
+
+#include <optional>
+
+namespace brinewright {
+
+// The desktop over a simulator in virtual time. It looks when Settle is called and not by its clock.
+struct Shown_Desktop : Virtual_Simulator {
+    Shown_Desktop() : Colours(*qApp) { View.emplace(Sim, Colours); }
+
+    // Both GNSS windows on TCP with all their sentences, so that all their frames are shown.
+    static Simulator_State Full_Setup() {
+        Simulator_State S;
+        Load_Default_Data(S);
+        S.Mode = "Sensor";
+        S.Comport_Count = 1;
+        Set_Up_Link(S, port_number::TCP);
+        for (const int I : {1, 2}) {
+            S.Sensor_Table[I].Port = port_number::TCP;
+            S.GGA_Enabled[I] = S.GSA_Enabled[I] = S.GSV_Enabled[I] = S.GST_Enabled[I] = true;
+            S.Open_Form_List[++S.Open_Form_Count] = {"frmPosition", static_cast<std::int16_t>(I), 0, 0, 9330,
+                                                     20150};
+        }
+        return S;
+    }
+
+    void Open(const Simulator_State& Setup = Full_Setup()) {
+        Start(Setup);
+        View->Open();
+        View->activateWindow();
+        Settle();
+    }
+
+    void Settle() {
+        View->Follow();
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    // Opens what is not open yet, as a user would, up to a detection of ports that stands just before its end
+    // with all ports found but the last.
+    void Open_All_Windows() {
+        frmMain& M = *Sim.Main;
+        for (Menu_Item* Item : {&M.mnuMonitor, &M.mnuExtendedMonitor, &M.mnuTraffic, &M.mnuOptionIEC450,
+                                &M.mnuSetupLatLonFormat})
+            if (!*Item->Checked) Click(*Item);
+        for (const int I : {1, 2}) Click(Sim.frmPosition_Instance[I]->cmdGNSS);
+        Run_s(2); // something to show
+        Sim.State.Ports_Initialised = false;
+        Click(M.mnuSetupPort);
+        Click(Sim.Setup->cmdComInfo);
+        Run_s(0.0775);
+        Settle();
+    }
+
+    // Null unless exactly one widget has the name of the control.
+    QWidget* Widget_Of(const Control& C) {
+        QWidget* Window = View->Window_Of(C.Owner.Path());
+        if (!Window) return nullptr;
+        const auto Found = Window->findChildren<QWidget*>(To_Screen(C.Path()));
+        return Found.size() == 1 ? Found.front() : nullptr;
+    }
+    template <class Widget>
+    Widget& Shown_As(const Control& C) {
+        auto* W = qobject_cast<Widget*>(Widget_Of(C));
+        if (!W) throw std::logic_error(C.Owner.Path() + "." + C.Path() + " has no such widget");
+        return *W;
+    }
+    template <class Widget>
+    Widget* Top_Level() {
+        for (QWidget* W : QApplication::topLevelWidgets())
+            if (auto* Found = qobject_cast<Widget*>(W); Found && Found->isVisible()) return Found;
+        return nullptr;
+    }
+
+    Theme Colours;
+    std::optional<Desktop_View> View;
+};
+
+} // namespace brinewright
