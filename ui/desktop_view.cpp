@@ -20,7 +20,9 @@ namespace brinewright {
 
 namespace {
 
-constexpr int Look_Pause_ms = 33; // at most about 30 looks a second
+constexpr int Look_Pause_ms = 50; // 20 looks a second: figures and sentences cannot be read faster
+constexpr std::int64_t Look_Takes_us = 12'000;
+constexpr int Postponed_Looks_Limit = 10;
 constexpr const char* Palette_Key = "Palette";
 
 // The empty area says what to do.
@@ -83,7 +85,7 @@ Desktop_View::Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme)
     Make_Menus();
     Make_Status_Bar();
     Look.setSingleShot(true);
-    connect(&Look, &QTimer::timeout, this, &Desktop_View::Follow);
+    connect(&Look, &QTimer::timeout, this, &Desktop_View::Look_Between_Ticks);
     connect(&Colours, &Theme::Changed, this, [this] {
         Sim.Windows.Revision++;
         Look_Soon();
@@ -98,11 +100,25 @@ void Desktop_View::Open() {
     Place_From_Model();
     show();
     Placing = false;
+    Report_Place(); // what the first start took instead
     Follow();
 }
 
 void Desktop_View::Look_Soon() {
     if (Sim.Windows.Revision != Seen && !Look.isActive()) Look.start(Look_Pause_ms);
+}
+
+// A look with what it makes paint takes some milliseconds. One that would hold up a tick comes behind it.
+void Desktop_View::Look_Between_Ticks() {
+    const auto Due_us = Sim.Timers.Next_Due_us();
+    const std::int64_t Left_us = Due_us ? *Due_us - Sim.Services.Time().Wide_us() : Look_Takes_us;
+    if (Left_us < Look_Takes_us && Postponed_Looks < Postponed_Looks_Limit) {
+        ++Postponed_Looks;
+        Look.start(static_cast<int>(std::max<std::int64_t>(Left_us, 0) / 1000) + 2);
+        return;
+    }
+    Postponed_Looks = 0;
+    Follow();
 }
 
 void Desktop_View::Make_Menus() {
@@ -234,19 +250,26 @@ void Desktop_View::Follow_Boxes() {
     Box->open();
 }
 
+// One question at a time, the oldest. One that automation has answered goes away.
 void Desktop_View::Follow_File_Dialogs() {
-    if (Sim.Windows.File_Dialogs.empty() || Sim.Windows.File_Dialogs.front().Id == Asked_Id) return;
-    const File_Dialog& Question = Sim.Windows.File_Dialogs.front();
+    const auto& Questions = Sim.Windows.File_Dialogs;
+    if (!Questions.empty() && Questions.front().Id == Asked_Id) return;
+    if (Asking) {
+        Asking->disconnect(this);
+        Asking->close();
+    }
+    if (Questions.empty()) return;
+    const File_Dialog& Question = Questions.front();
     Asked_Id = Question.Id;
-    auto* Asking = new QFileDialog(this, To_Screen(Question.Title), QString::fromStdString(Question.Folder),
-                                   File_Filter(Question.Filter));
+    Asking = new QFileDialog(this, To_Screen(Question.Title), QString::fromStdString(Question.Folder),
+                             File_Filter(Question.Filter));
     Asking->setAttribute(Qt::WA_DeleteOnClose);
     Asking->setAcceptMode(Question.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     Asking->setFileMode(Question.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     Asking->setDefaultSuffix(To_Screen(Question.Default_Extension).remove(QLatin1Char('.')));
-    connect(Asking, &QFileDialog::finished, this, [this, Asking, Id = Asked_Id](int Result) {
+    connect(Asking, &QFileDialog::finished, this, [this, Dialog = Asking.data(), Id = Asked_Id](int Result) {
         const std::string Path =
-            Result == QDialog::Accepted ? Asking->selectedFiles().value(0).toStdString() : std::string();
+            Result == QDialog::Accepted ? Dialog->selectedFiles().value(0).toStdString() : std::string();
         Sim.Windows.Event([&] { Sim.Windows.Answer_File(Id, Path); });
         Follow();
     });
@@ -274,8 +297,9 @@ void Desktop_View::Place_From_Model() {
     const QRect Screen = screen()->availableGeometry();
     // The told first place is too small to hold a window; the first start takes a bench display's share
     // instead.
-    if (Sim.Services.Settings().Get("MainWidth", "").empty()) Wanted = QSize(1340, 740);
-    Wanted = Wanted.expandedTo(QSize(640, 480)).boundedTo(Screen.size());
+    constexpr QSize Least(640, 480);
+    if (Wanted != Wanted.expandedTo(Least)) Wanted = QSize(1340, 740);
+    Wanted = Wanted.boundedTo(Screen.size());
     // A kept place on a display that is gone comes back into view.
     Corner.setX(std::clamp(Corner.x(), Screen.left(), Screen.right() + 1 - Wanted.width()));
     Corner.setY(std::clamp(Corner.y(), Screen.top(), Screen.bottom() + 1 - Wanted.height()));

@@ -6,12 +6,13 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QPointer>
 #include <QTimer>
 
 #include <map>
 #include <memory>
 
-class QDialog;
+class QFileDialog;
 class QMessageBox;
 
 namespace brinewright {
@@ -51,6 +52,7 @@ class Desktop_View : public QMainWindow {
     void Follow_Boxes();
     void Follow_File_Dialogs();
     void Look_Soon();
+    void Look_Between_Ticks();
 
     Simulator& Sim;
     Theme& Colours;
@@ -62,8 +64,10 @@ class Desktop_View : public QMainWindow {
     std::map<int, QLabel*> Panels;
     QMessageBox* Box = nullptr;
     std::int64_t Box_Id = 0;
+    QPointer<QFileDialog> Asking;
     std::int64_t Asked_Id = 0;
     std::uint64_t Seen = 0;
+    int Postponed_Looks = 0;
     const Form* Active_Seen = nullptr;
     bool Placing = true;
 };

@@ -8,6 +8,8 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -42,7 +44,8 @@ class Value_Edit : public QLineEdit {
 Form_View::Form_View(Simulator& Its_Simulator, const std::shared_ptr<Form>& Shown, const Theme& Its_Colours)
     : Sim(Its_Simulator), Colours(Its_Colours), Source(Shown) {
     setObjectName(QStringLiteral("form"));
-    setAttribute(Qt::WA_StyledBackground);
+    // Windows lie upon each other: what is covered is not painted.
+    setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void Form_View::Act(const std::function<void(Desktop&)>& Work) {
@@ -196,6 +199,8 @@ QRadioButton* Form_View::Make(Option_Button& C) {
         W->setChecked(C.Value());
     });
     connect(W, &QRadioButton::clicked, this, [this, &C, W] {
+        const auto F = Source.lock(); // C lives as long as its form
+        if (!F) return;
         Act([&C](Desktop& D) { D.User_Click(C); });
         const QSignalBlocker Quiet(W);
         W->setChecked(C.Value());
@@ -259,12 +264,24 @@ void Form_View::Refresh() {
     const auto F = Source.lock();
     if (!F || F->Revision == Seen) return;
     Seen = F->Revision;
+    // What is hidden or disabled loses the focus to the toolkit's next widget: that is nothing the user did.
+    Following = true;
+    Moved_To = nullptr;
     for (Binding& B : Bindings) {
         if (B.Seen == B.Source->Revision) continue;
         B.Seen = B.Source->Revision;
         B.Show();
     }
     for (const auto& Look : Looks) Look();
+    Following = false;
+    Desktop& Windows = F->Windows;
+    const bool Model_Moved = std::exchange(Focus_Seen, Windows.Focus) != Windows.Focus;
+    const bool Has_Place =
+        Windows.Focus && &Windows.Focus->Owner == F.get() && Windows.Usable(*Windows.Focus);
+    if (Has_Place && (Moved_To || Model_Moved))
+        Follow_Focus(Windows);
+    else if (Moved_To && Windows.Usable(*Moved_To))
+        Act([Target = Moved_To](Desktop& D) { D.User_Focus(*Target); });
 }
 
 QWidget* Form_View::Widget_Of(const Control& C) const {
@@ -279,12 +296,18 @@ Control* Form_View::Control_Of(const QObject* W) const {
     return nullptr;
 }
 
+void Form_View::paintEvent(QPaintEvent* Wanted) {
+    QPainter(this).fillRect(Wanted->rect(), Colours.Colour(Token::Panel));
+}
+
 bool Form_View::eventFilter(QObject* Watched, QEvent* Happened) {
     Control* C = Source.expired() ? nullptr : Control_Of(Watched);
     if (!C) return QWidget::eventFilter(Watched, Happened);
-    if (Happened->type() == QEvent::FocusIn && !Following) {
+    if (Happened->type() == QEvent::FocusIn) {
         const auto Reason = static_cast<QFocusEvent*>(Happened)->reason();
-        if (Reason != Qt::ActiveWindowFocusReason && Reason != Qt::PopupFocusReason && C->Can_Focus())
+        if (Following)
+            Moved_To = C->Can_Focus() ? C : nullptr;
+        else if (Reason != Qt::ActiveWindowFocusReason && Reason != Qt::PopupFocusReason && C->Can_Focus())
             Act([C](Desktop& D) { D.User_Focus(*C); });
     } else if (Happened->type() == QEvent::MouseButtonPress && C->Kind == Control_Kind::Label) {
         const bool Left = static_cast<QMouseEvent*>(Happened)->button() == Qt::LeftButton;

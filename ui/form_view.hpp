@@ -66,6 +66,7 @@ class Form_View : public QWidget {
 
   protected:
     bool eventFilter(QObject* Watched, QEvent* Happened) override;
+    void paintEvent(QPaintEvent* Wanted) override;
 
   private:
     struct Binding {
@@ -84,7 +85,9 @@ class Form_View : public QWidget {
     std::vector<Binding> Bindings;
     std::vector<std::function<void()>> Looks;
     std::uint64_t Seen = ~std::uint64_t{0};
-    bool Following = false; // the view moves the focus itself: no report
+    bool Following = false;              // the view moves the focus itself: no report
+    Control* Moved_To = nullptr;         // where the focus went meanwhile
+    const Control* Focus_Seen = nullptr; // of the model, compared only
 };
 
 } // namespace brinewright

@@ -2,6 +2,7 @@
 
 #include "ui/layouts.hpp"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QIcon>
@@ -23,7 +24,7 @@ float Twips(int Pixel_Count) { return static_cast<float>(Pixel_Count * Twips_Per
 Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, const Theme& Colours,
                          QMdiArea& Area)
     : Source(Shown), Its_View(new Form_View(Sim, Shown, Colours)) {
-    Lay_Out(*Its_View, *Shown);
+    // The frames first: a view that moves into them with all its widgets is styled anew at each step.
     if (Shown->Kind == Form_Kind::Dialog) {
         Dialog = new QDialog(Area.window());
         auto* Box = new QVBoxLayout(Dialog);
@@ -34,19 +35,22 @@ Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, con
     } else {
         // Small screens scroll what does not fit instead of cutting it.
         Scroll = new QScrollArea;
-        Scroll->setWidget(Its_View);
         Scroll->setWidgetResizable(true);
         Child = new QMdiSubWindow;
         Child->setWidget(Scroll);
-        Child->setWindowIcon(QIcon(QPixmap(1, 1))); // titles carry no picture
+        QPixmap No_Picture(1, 1); // titles carry none
+        No_Picture.fill(Qt::transparent);
+        Child->setWindowIcon(QIcon(No_Picture));
         Child->setAttribute(Qt::WA_DeleteOnClose, false);
         Area.addSubWindow(Child);
+        Scroll->setWidget(Its_View);
         Child->installEventFilter(this);
         connect(Child, &QMdiSubWindow::aboutToActivate, this, [this] {
             if (const auto F = Source.lock(); F && !Placing)
                 F->Windows.Event([&F] { F->Windows.Activate(*F); });
         });
     }
+    Lay_Out(*Its_View, *Shown);
 }
 
 Form_Window::~Form_Window() {
@@ -68,6 +72,8 @@ void Form_Window::Follow() {
         Frame_Widget()->setWindowTitle(To_Screen(F->Caption));
     const bool Moved = F->Left != Left || F->Top != Top || F->Width != Width || F->Height != Height;
     if (First) Frame_Widget()->show(); // before its place: the area puts windows that open where it likes
+    // What its parts ask for now that they are styled reaches the outermost layout in steps.
+    if (First) QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     if (Moved || First) Apply_Place(*F);
     First = false;
     Placing = false;
@@ -81,7 +87,7 @@ void Form_Window::Apply_Place(const Form& F) {
     Height = F.Height;
     if (!Child) return;
     Its_View->layout()->activate();
-    const QSize Contents = Its_View->layout()->sizeHint();
+    const QSize Contents = Its_View->layout()->sizeHint().expandedTo(Its_View->minimumSize());
     const QMargins Frame_Margins = Child->contentsMargins();
     QSize Wanted(std::max(Pixels(Width), Contents.width() + Frame_Margins.left() + Frame_Margins.right()),
                  std::max(Pixels(Height), Contents.height() + Frame_Margins.top() + Frame_Margins.bottom()));

@@ -25,7 +25,7 @@ void Grid_Model::Follow() {
 int Grid_Model::rowCount(const QModelIndex& Above) const { return Above.isValid() ? 0 : Row_Count; }
 
 int Grid_Model::columnCount(const QModelIndex& Above) const {
-    return Above.isValid() ? 0 : static_cast<int>(Source.Columns.size());
+    return Above.isValid() || Owner.expired() ? 0 : static_cast<int>(Source.Columns.size());
 }
 
 QVariant Grid_Model::data(const QModelIndex& Place, int Role) const {
@@ -43,7 +43,7 @@ QVariant Grid_Model::data(const QModelIndex& Place, int Role) const {
 }
 
 QVariant Grid_Model::headerData(int Section, Qt::Orientation Direction, int Role) const {
-    if (Direction != Qt::Horizontal || Role != Qt::DisplayRole) return {};
+    if (Owner.expired() || Direction != Qt::Horizontal || Role != Qt::DisplayRole) return {};
     return To_Screen(Source.Columns[static_cast<std::size_t>(Section)]);
 }
 

@@ -1,9 +1,10 @@
 #include "ui/theme.hpp"
 
+#include "ui/title_style.hpp"
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPalette>
-#include <QStyleFactory>
 
 namespace brinewright {
 
@@ -138,7 +139,7 @@ QPalette Qt_Palette(const Theme& T) {
 } // namespace
 
 Theme::Theme(QApplication& Application) : Styled(Application) {
-    Styled.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    Styled.setStyle(new Title_Style);
     QFont Face = QApplication::font();
     Face.setPointSizeF(9);
     Styled.setFont(Face);

@@ -13,6 +13,7 @@ constexpr int Look_Pause_ms = 100;
 Countdown_Bar::Countdown_Bar(const Theme& Its_Theme, std::weak_ptr<Form> Its_Owner, const Timer& Its_Timer)
     : Colours(Its_Theme), Owner(std::move(Its_Owner)), Watched(Its_Timer) {
     setFixedHeight(4);
+    setAttribute(Qt::WA_OpaquePaintEvent); // so that nothing beneath is painted with it
     setMinimumWidth(40);
     startTimer(Look_Pause_ms);
 }

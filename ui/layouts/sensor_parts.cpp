@@ -89,6 +89,7 @@ QLayout* Routing_Row(Form_View& View, Combo_Box& Ports, Text_Box& Talker,
 QWidget* Ticker(Form_View& View, int Form_Index) {
     auto* Line = new QLabel;
     Line->setObjectName(QStringLiteral("ticker"));
+    Line->setAttribute(Qt::WA_OpaquePaintEvent); // its style fills it
     Line->setTextFormat(Qt::PlainText);
     Line->setFont(Sentence_Font());
     Line->setTextInteractionFlags(Qt::TextSelectableByMouse);

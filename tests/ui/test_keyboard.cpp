@@ -1,0 +1,195 @@
+// Focus, keys and mnemonics.
+
+#include "tests/ui/shown_desktop.hpp"
+
+#include <QAction>
+#include <QDialog>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace brinewright {
+namespace {
+
+struct Keyboard : testing::Test, Shown_Desktop {
+    void SetUp() override { Open(); }
+    frmPosition& Window() { return *Sim.frmPosition_Instance[1]; }
+    template <class Open_It>
+    QWidget& Dialog_Of(const char* Path, Open_It Open_Dialog) {
+        Open_Dialog();
+        Settle();
+        QWidget* Dialog = View->Window_Of(Path);
+        if (!Dialog) throw std::logic_error(std::string(Path) + " is not open");
+        Dialog->activateWindow();
+        QApplication::processEvents();
+        return *Dialog;
+    }
+};
+
+TEST_F(Keyboard, A_Refused_Talker_Takes_The_Focus_Back) {
+    Hold_Boxes = true;
+    View->Window_Of("frmPosition[1]")->activateWindow();
+    Click(Sim.Main->mnuOpenForm_GNSS1);
+    Settle();
+    auto& Talker = Shown_As<QLineEdit>(Window().txtTalker);
+    auto& Latitude = Shown_As<QLineEdit>(Window().txtLat);
+    Talker.setFocus();
+    Settle();
+    EXPECT_EQ(Talker.selectedText(), QStringLiteral("GP")) << "the whole text is chosen on entering";
+    QTest::keyClicks(&Talker, QStringLiteral("X"));
+    Latitude.setFocus();
+    EXPECT_EQ(QApplication::focusWidget(), &Talker);
+    ASSERT_EQ(Take_Boxes(), (Texts{"NMEA Talker ID must be two characters. Try again!"}));
+    Settle();
+    EXPECT_EQ(Talker.text(), QStringLiteral("GP"));
+    Sim.Windows.Event([&] { Sim.Windows.Boxes.Answer(Sim.Windows.Boxes.Last_Id); });
+    Settle();
+    View->activateWindow(); // as the window system does when a box goes
+    Settle();
+    EXPECT_EQ(QApplication::focusWidget(), &Talker);
+    Talker.selectAll();
+    QTest::keyClicks(&Talker, QStringLiteral("in"));
+    EXPECT_EQ(Sim.State.GNSS_Talker[1], "GP") << "not before it is left";
+    Latitude.setFocus();
+    EXPECT_EQ(QApplication::focusWidget(), &Latitude);
+    EXPECT_EQ(Sim.State.GNSS_Talker[1], "IN");
+    Settle();
+    EXPECT_EQ(Talker.text(), QStringLiteral("IN"));
+    EXPECT_TRUE(Take_Boxes().empty());
+}
+
+TEST_F(Keyboard, Enter_Takes_A_Text_Over_And_Stays) {
+    auto& Speed = Shown_As<QLineEdit>(Window().txtSOG);
+    View->Window_Of("frmPosition[1]")->setFocus();
+    Speed.setFocus();
+    Speed.selectAll();
+    QTest::keyClicks(&Speed, QStringLiteral("12.3"));
+    EXPECT_EQ(Sim.State.GNSS_SOG[1], 0.0F);
+    QTest::keyClick(&Speed, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(Sim.State.GNSS_SOG[1], 12.3F);
+    EXPECT_EQ(QApplication::focusWidget(), &Speed);
+    EXPECT_EQ(Shown_As<QSlider>(Window().scrSOG).value(), 123);
+    EXPECT_EQ(Shown_As<QLabel>(Window().lblSOG).text(), QStringLiteral("12.3"));
+}
+
+TEST_F(Keyboard, The_Arrow_Keys_Steer) {
+    Click(Sim.Main->mnuOpenForm_GNSS1);
+    Settle();
+    QTest::mouseClick(Widget_Of(Window().cmdArrows), Qt::LeftButton);
+    Settle();
+    QWidget* Dummy = Widget_Of(Window().txtDummy);
+    ASSERT_EQ(QApplication::focusWidget(), Dummy);
+    const struct {
+        Qt::Key Key;
+        float SOG, COG;
+    } Steps[] = {{Qt::Key_Up, 0.1F, 0},        {Qt::Key_Up, 0.2F, 0},    {Qt::Key_Down, 0.1F, 0},
+                 {Qt::Key_Left, 0.1F, 359.9F}, {Qt::Key_Right, 0.1F, 0}, {Qt::Key_Right, 0.1F, 0.1F}};
+    for (const auto& Step : Steps) {
+        QTest::keyClick(QApplication::focusWidget(), Step.Key);
+        EXPECT_FLOAT_EQ(Sim.State.GNSS_SOG[1], Step.SOG);
+        EXPECT_FLOAT_EQ(Sim.State.GNSS_COG[1], Step.COG);
+    }
+    QTest::mouseClick(Widget_Of(Window().chkNoise), Qt::LeftButton, {}, QPoint(4, 8));
+    Widget_Of(Window().chkNoise)->setFocus();
+    Settle();
+    EXPECT_TRUE(*Window().cmdArrows.Enabled);
+    EXPECT_FALSE(Dummy->isVisible());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_FLOAT_EQ(Sim.State.GNSS_SOG[1], 0.1F) << "the keys are the controls' own again";
+}
+
+TEST_F(Keyboard, Enter_Presses_OK_And_Escape_Cancel) {
+    const auto Open_Format = [&] { Click(Sim.Main->mnuSetupLatLonFormat); };
+    QWidget* Dialog = &Dialog_Of("frmGeoFormat", Open_Format);
+    QTest::mouseClick(Widget_Of(*Sim.GeoFormat->optFormat.Buttons[1]), Qt::LeftButton, {}, QPoint(6, 8));
+    QTest::keyClick(Dialog, Qt::Key_Escape);
+    Settle();
+    EXPECT_FALSE(Sim.GeoFormat);
+    EXPECT_EQ(Sim.State.LatLon_Format, 0);
+    EXPECT_FALSE(View->Window_Of("frmGeoFormat"));
+
+    Dialog = &Dialog_Of("frmGeoFormat", Open_Format);
+    QTest::mouseClick(Widget_Of(*Sim.GeoFormat->optFormat.Buttons[1]), Qt::LeftButton, {}, QPoint(6, 8));
+    QTest::keyClick(Dialog, Qt::Key_Return);
+    EXPECT_FALSE(Sim.GeoFormat);
+    EXPECT_EQ(Sim.State.LatLon_Format, 1);
+
+    // From within a text: what is typed is taken over before OK.
+    Dialog_Of("frmIEC61162", [&] { Click(Sim.Main->mnuOptionIEC450); });
+    auto& Source = Shown_As<QLineEdit>(Sim.IEC61162->txtSourceId);
+    Source.setFocus();
+    Settle();
+    QTest::keyClicks(&Source, QStringLiteral("GP0001"));
+    QTest::keyClick(&Source, Qt::Key_Return);
+    EXPECT_FALSE(Sim.IEC61162);
+    EXPECT_EQ(Sim.State.s_Tag, "GP0001") << "the whole text was chosen on entering, and typed over";
+    Settle();
+
+    // A button that has the focus is pressed by Enter itself.
+    Dialog_Of("frmIEC61162", [&] { Click(Sim.Main->mnuOptionIEC450); });
+    Sim.IEC61162->txtSourceId.Set_Text("other");
+    QWidget* Cancel = Widget_Of(Sim.IEC61162->cmdCancel);
+    Cancel->setFocus();
+    QTest::keyClick(Cancel, Qt::Key_Return);
+    EXPECT_FALSE(Sim.IEC61162);
+    EXPECT_EQ(Sim.State.s_Tag, "GP0001");
+}
+
+TEST_F(Keyboard, Every_Menu_Has_A_Letter_Of_Its_Own) {
+    QStringList Titles;
+    QString Letters;
+    for (const QAction* Menu : View->menuBar()->actions()) {
+        Titles << Menu->text().remove(QLatin1Char('&'));
+        Letters += Menu->text().section(QLatin1Char('&'), 1).left(1);
+        QString Inner;
+        for (const QAction* Item : Menu->menu()->actions())
+            Inner += Item->text().section(QLatin1Char('&'), 1).left(1).toUpper();
+        EXPECT_EQ(std::set<QChar>(Inner.begin(), Inner.end()).size(), static_cast<std::size_t>(Inner.size()))
+            << Menu->text().toStdString();
+    }
+    EXPECT_EQ(Titles, (QStringList{"File", "Mode", "Setup", "View", "Window", "Options", "Help"}));
+    EXPECT_EQ(Letters, QStringLiteral("FMSVWOH"));
+    // File, then E&xit.
+    QTest::keyClick(View->menuBar(), Qt::Key_F, Qt::AltModifier);
+    QMenu* File = View->menuBar()->actions().front()->menu();
+    File->popup(QPoint(0, 0));
+    QTest::keyClick(File, Qt::Key_X);
+    EXPECT_TRUE(Sim.Ended);
+}
+
+// Tab goes on to the right or down among what stands together, never back up to the left, and comes by
+// everything that can take the focus.
+TEST_F(Keyboard, Tab_Follows_The_Reading_Order) {
+    Open_All_Windows();
+    for (const auto& F : Sim.Windows.Forms) {
+        if (F == Sim.Main) continue;
+        QWidget* Window = View->Window_Of(F->Path());
+        std::set<QWidget*> Wanted;
+        for (const Control* C : F->Controls) {
+            QWidget* W = C->Kind == Control_Kind::Timer ? nullptr : Widget_Of(*C);
+            if (W && C->Can_Focus() && W->isVisibleTo(Window) && W->focusPolicy() & Qt::TabFocus)
+                Wanted.insert(W);
+        }
+        if (Wanted.empty()) continue;
+        QWidget* First = nullptr;
+        // The chain is a ring; it is read from the view on.
+        QWidget* Contents = Window->findChild<Form_View*>();
+        std::vector<QWidget*> Chain;
+        for (QWidget* W = Contents->nextInFocusChain(); W != Contents; W = W->nextInFocusChain())
+            if (Wanted.contains(W)) Chain.push_back(W);
+        EXPECT_EQ(Chain.size(), Wanted.size()) << F->Path();
+        for (QWidget* Next : Chain) {
+            if (First && First->parentWidget() == Next->parentWidget()) {
+                const QRect A = First->geometry(), B = Next->geometry();
+                EXPECT_TRUE(B.left() > A.center().x() || B.top() > A.center().y())
+                    << F->Path() << ": " << First->objectName().toStdString() << " then "
+                    << Next->objectName().toStdString();
+            }
+            First = Next;
+        }
+    }
+}
+
+} // namespace
+} // namespace brinewright

@@ -1,0 +1,101 @@
+// Every window is shown whole on a small bench display, at every scaling. Runs at 150 and 200 % as well.
+
+#include "tests/ui/shown_desktop.hpp"
+
+#include <QMdiSubWindow>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionGroupBox>
+
+namespace brinewright {
+namespace {
+
+struct Layout : testing::Test, Shown_Desktop {
+    bool At_Full_Size() const { return qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble() <= 1; }
+    // The rest of a sentence that is too long for its line is no loss: the monitors show it whole.
+    static bool May_Be_Cut(const QWidget& W) { return W.objectName() == QStringLiteral("ticker"); }
+
+    static bool Is_Cut(const QWidget& W) {
+        if (const auto* Text = qobject_cast<const QLabel*>(&W)) {
+            if (Text->text().isEmpty() || May_Be_Cut(W)) return false;
+            if (Text->wordWrap()) return Text->height() < Text->heightForWidth(Text->width());
+        } else if (const auto* Box = qobject_cast<const QGroupBox*>(&W)) {
+            const int Room = Box->width() - 20; // the title begins 10 in and ends before the corner
+            return Box->fontMetrics().horizontalAdvance(Box->title()) > Room;
+        } else if (!qobject_cast<const QAbstractButton*>(&W)) {
+            return false;
+        }
+        return W.width() < W.sizeHint().width() || W.height() < W.sizeHint().height();
+    }
+    void Expect_Whole(const std::string& Path) {
+        const QWidget* Window = View->Window_Of(Path);
+        ASSERT_TRUE(Window) << Path;
+        for (const QWidget* W : Window->findChildren<QWidget*>())
+            if (W->isVisibleTo(Window) && !W->inherits("QMdi::ControlContainer") &&
+                W->window() == Window->window() && Is_Cut(*W))
+                ADD_FAILURE() << Path << " cuts " << W->objectName().toStdString() << " of class "
+                              << W->metaObject()->className() << ": " << W->width() << " x " << W->height()
+                              << " of " << W->sizeHint().width() << " x " << W->sizeHint().height();
+    }
+};
+
+TEST_F(Layout, No_Caption_Is_Cut) {
+    Open();
+    Open_All_Windows();
+    for (const auto& F : Sim.Windows.Forms)
+        if (F != Sim.Main) Expect_Whole(F->Path());
+}
+
+TEST_F(Layout, Every_Window_Fits_The_Display) {
+    if (!At_Full_Size()) GTEST_SKIP() << "a display of 1366 x 768 is meant at 100 %";
+    Simulator_State Setup = Full_Setup();
+    Setup.Open_Form_Count = 0;
+    Open(Setup);
+    View->showMaximized();
+    Settle();
+    for (const int I : {1, 2}) Click(*Sim.Main->mnuOpenForm(I));
+    Open_All_Windows();
+    EXPECT_LE(View->minimumSizeHint().width(), 1366);
+    EXPECT_LE(View->minimumSizeHint().height(), 768 - 30);
+    for (const auto& F : Sim.Windows.Forms) {
+        if (F == Sim.Main) continue;
+        QWidget* Window = View->Window_Of(F->Path());
+        EXPECT_LE(Window->width(), 1366) << F->Path();
+        EXPECT_LE(Window->height(), 768) << F->Path();
+        const auto* Child = qobject_cast<QMdiSubWindow*>(Window);
+        if (!Child) continue;
+        EXPECT_TRUE(Child->mdiArea()->viewport()->rect().contains(Child->geometry())) << F->Path();
+        const auto* Scroll = qobject_cast<QScrollArea*>(Child->widget());
+        ASSERT_TRUE(Scroll);
+        EXPECT_FALSE(Scroll->verticalScrollBar()->isVisible())
+            << F->Path() << " wants " << Scroll->widget()->sizeHint().height() << " of " << Scroll->height();
+        EXPECT_FALSE(Scroll->horizontalScrollBar()->isVisible()) << F->Path();
+    }
+}
+
+// A larger window gives what it gains to lists and sentences, and nothing overlaps in it.
+TEST_F(Layout, Windows_Grow_Without_Overlaps) {
+    Open();
+    Open_All_Windows();
+    for (const auto& F : Sim.Windows.Forms) {
+        if (F == Sim.Main) continue;
+        QWidget* Window = View->Window_Of(F->Path());
+        Window->resize(Window->size() + QSize(200, 120));
+        QApplication::processEvents();
+        Expect_Whole(F->Path());
+        std::vector<const QWidget*> Parts;
+        for (const Control* C : F->Controls)
+            if (C->Kind != Control_Kind::Timer)
+                if (const QWidget* W = Widget_Of(*C); W && W->isVisibleTo(Window)) Parts.push_back(W);
+        for (std::size_t I = 0; I < Parts.size(); ++I)
+            for (std::size_t J = 0; J < I; ++J)
+                if (Parts[I]->parentWidget() == Parts[J]->parentWidget()) {
+                    EXPECT_FALSE(Parts[I]->geometry().intersects(Parts[J]->geometry()))
+                        << F->Path() << ": " << Parts[I]->objectName().toStdString() << " over "
+                        << Parts[J]->objectName().toStdString();
+                }
+    }
+}
+
+} // namespace
+} // namespace brinewright

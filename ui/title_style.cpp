@@ -1,0 +1,66 @@
+#include "ui/title_style.hpp"
+
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace brinewright {
+
+namespace {
+
+constexpr double Sign_Size = 4; // from the middle of a button to the ends of its sign
+
+void Paint_Sign(QPainter& Painter, QStyle::SubControl Which, const QPointF& Middle) {
+    const double S = Sign_Size;
+    switch (Which) {
+    case QStyle::SC_TitleBarCloseButton:
+        Painter.drawLine(Middle + QPointF(-S, -S), Middle + QPointF(S, S));
+        Painter.drawLine(Middle + QPointF(-S, S), Middle + QPointF(S, -S));
+        break;
+    case QStyle::SC_TitleBarMinButton:
+        Painter.drawLine(Middle + QPointF(-S, S), Middle + QPointF(S, S));
+        break;
+    case QStyle::SC_TitleBarMaxButton:
+        Painter.drawRect(QRectF(Middle.x() - S, Middle.y() - S, 2 * S, 2 * S));
+        break;
+    default: // back to the normal size
+        Painter.drawRect(QRectF(Middle.x() - S, Middle.y() - S / 2, 1.5 * S, 1.5 * S));
+        Painter.drawLine(Middle + QPointF(-S / 2, -S), Middle + QPointF(S, -S));
+        Painter.drawLine(Middle + QPointF(S, -S), Middle + QPointF(S, S / 2));
+        break;
+    }
+}
+
+} // namespace
+
+Title_Style::Title_Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void Title_Style::drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option,
+                                     QPainter* Painter, const QWidget* Widget) const {
+    const auto* Title = qstyleoption_cast<const QStyleOptionTitleBar*>(Option);
+    if (Control != CC_TitleBar || !Title)
+        return QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
+    const bool Active = Title->titleBarState & Qt::WindowActive;
+    const QPalette& P = Title->palette;
+    Painter->save();
+    Painter->fillRect(Title->rect, P.color(Active ? QPalette::Mid : QPalette::Button));
+    Painter->setPen(Active ? P.color(QPalette::Active, QPalette::WindowText)
+                           : P.color(QPalette::PlaceholderText));
+    const QRect Place = proxy()->subControlRect(CC_TitleBar, Title, SC_TitleBarLabel, Widget);
+    Painter->drawText(Place, Qt::AlignVCenter | Qt::AlignLeft,
+                      Title->fontMetrics.elidedText(Title->text, Qt::ElideRight, Place.width()));
+    Painter->setRenderHint(QPainter::Antialiasing);
+    const bool Small = Title->titleBarState & (Qt::WindowMaximized | Qt::WindowMinimized);
+    const SubControl Buttons[] = {
+        SC_TitleBarMinButton, Small ? SC_TitleBarNormalButton : SC_TitleBarMaxButton, SC_TitleBarCloseButton};
+    for (const SubControl Which : Buttons) {
+        const QRect Button = proxy()->subControlRect(CC_TitleBar, Title, Which, Widget);
+        if (!Button.isValid()) continue;
+        if (Title->activeSubControls & Which && Title->state & State_MouseOver)
+            Painter->fillRect(Button, P.color(QPalette::Base));
+        Paint_Sign(*Painter, Which, QRectF(Button).center());
+    }
+    Painter->restore();
+}
+
+} // namespace brinewright
