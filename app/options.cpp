@@ -77,7 +77,8 @@ void Declare(CLI::App& App, Program_Options& Chosen, Raw_Options& Raw) {
     App.add_option("--start-time", Raw.Start_Time,
                    "Local date and time at which virtual time starts (default: now)")
         ->type_name("ISO");
-    App.add_flag("--headless", Raw.Headless, "Run without windows (tools/run then takes brinewright-headless, which always does)");
+    App.add_flag("--headless", Raw.Headless,
+                 "Run without windows (tools/run then takes brinewright-headless, which always does)");
 }
 
 void Check(const CLI::App& App, Program_Options& Chosen, const Raw_Options& Raw) {

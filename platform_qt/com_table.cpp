@@ -84,7 +84,8 @@ std::vector<std::string> Find_Serial_Devices(const Device_Roots& Roots) {
     }
     for (const std::string& Name : Numbered_Names(Names, "ttyAMA")) Found.push_back(Roots.Dev + "/" + Name);
     const std::string By_Id = Roots.Dev + "/serial/by-id";
-    for (const std::string& Name : Names_In(By_Id)) Found.push_back(std::string(By_Id).append("/").append(Name));
+    for (const std::string& Name : Names_In(By_Id))
+        Found.push_back(std::string(By_Id).append("/").append(Name));
     for (const char* Prefix : {"ttyUSB", "ttyACM"}) {
         for (const std::string& Name : Numbered_Names(Names, Prefix)) {
             const std::string Path = Roots.Dev + "/" + Name;

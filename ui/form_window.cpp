@@ -93,8 +93,8 @@ void Form_Window::Apply_Place(const Form& F) {
                  std::max(Pixels(Height), Contents.height() + Frame_Margins.top() + Frame_Margins.bottom()));
     QPoint Corner(std::max(Pixels(Left), 0), std::max(Pixels(Top), 0));
     const QWidget* Area = Child->parentWidget();
-    if (First && Area && Area->width() > 200 && Area->height() > 200) {
-        // A window that opens does so inside the area, as far as it can.
+    if (Area && Area->width() > 200 && Area->height() > 200) {
+        // A window that opens or grows does so inside the area, as far as it can.
         Wanted = Wanted.boundedTo(Area->size());
         Corner.setX(std::min(Corner.x(), Area->width() - Wanted.width()));
         Corner.setY(std::min(Corner.y(), Area->height() - Wanted.height()));

@@ -136,11 +136,16 @@ QGroupBox* Datum_Box(Form_View& View, frmPosition& F) {
     Column->addLayout(Datums);
     Column->addWidget(View.Make(F.lblOffset, "dim"));
     QHBoxLayout* Offsets = Row();
-    for (QWidget* W :
-         {static_cast<QWidget*>(View.Make(F.txtOffset[0])), static_cast<QWidget*>(View.Make(F.cmbNS)),
-          static_cast<QWidget*>(View.Make(F.txtOffset[1])), static_cast<QWidget*>(View.Make(F.cmbEW)),
-          static_cast<QWidget*>(View.Make(F.txtOffset[2]))})
-        Offsets->addWidget(W);
+    Combo_Box* const Directions[] = {&F.cmbNS, &F.cmbEW, nullptr}; // the altitude has a sign instead
+    for (int I = 0; I <= 2; ++I) {
+        QLineEdit* Value = View.Make(F.txtOffset[I]);
+        Value->setMinimumWidth(Value->sizeHint().width());
+        Offsets->addWidget(Value, 1);
+        if (!Directions[I]) continue;
+        QComboBox* Direction = View.Make(*Directions[I]);
+        Direction->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+        Offsets->addWidget(Direction);
+    }
     Column->addLayout(Offsets);
     return Boxed(QStringLiteral("Datum (DTM)"), Column);
 }
