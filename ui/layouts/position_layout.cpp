@@ -143,7 +143,7 @@ QGroupBox* Datum_Box(Form_View& View, frmPosition& F) {
         Offsets->addWidget(Value, 1);
         if (!Directions[I]) continue;
         QComboBox* Direction = View.Make(*Directions[I]);
-        Direction->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+        Direction->setFixedWidth(Direction->fontMetrics().horizontalAdvance(QStringLiteral("W")) + 34);
         Offsets->addWidget(Direction);
     }
     Column->addLayout(Offsets);
