@@ -5,6 +5,8 @@
 #include "ui/layouts/layout_parts.hpp"
 #include "ui/layouts/sensor_parts.hpp"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QFontMetrics>
 #include <QHeaderView>
 
@@ -257,7 +259,11 @@ QGroupBox* GST_Box(Form_View& View, frmPosition& F) {
 
 QGroupBox* Fix_Box(Form_View& View, frmPosition& F) {
     QGroupBox* Main = View.Make(F.frmGGA);
-    Main->setProperty("bare", true);
+    // A group box takes its margins from the style when it is made, before it had the name that the style
+    // knows.
+    Main->ensurePolished();
+    QEvent Named(QEvent::StyleChange);
+    QCoreApplication::sendEvent(Main, &Named);
     auto* Columns = new QHBoxLayout(Main);
     Columns->setContentsMargins(0, 0, 0, 0);
     Columns->setSpacing(rhythm::Gap);
