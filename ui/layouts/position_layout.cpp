@@ -296,7 +296,7 @@ void Lay_Out_Position(Form_View& View, Form& Shown) {
     auto& F = static_cast<frmPosition&>(Shown);
     QVBoxLayout* Column = Column_In(&View, rhythm::Gap);
     Column->setSpacing(rhythm::Base);
-    Column->addWidget(State_Line(View, F, F.cmdStart, F.cmdPause, F.timer_Simulator, F.Instance));
+    Column->addWidget(State_Line(View, F.cmdStart, F.cmdPause, F.timer_Simulator, F.Instance));
     QHBoxLayout* Frames = Row();
     Frames->addWidget(Fix_Box(View, F));
     QGroupBox* const Wide[] = {GSA_Box(View, F), GSV_Box(View, F), GST_Box(View, F)};

@@ -27,11 +27,10 @@ QString Port_Text(const Simulator& Sim, int Form_Index) {
 
 } // namespace
 
-QWidget* State_Line(Form_View& View, Form& Shown, Button& Start, Button& Pause, const Timer& Simulation,
-                    int Form_Index) {
+QWidget* State_Line(Form_View& View, Button& Start, Button& Pause, const Timer& Simulation, int Form_Index) {
     auto* Line = new QLabel;
     Line->setTextFormat(Qt::PlainText);
-    View.When_Shown([&View, &Shown, &Start, &Pause, &Simulation, Form_Index, Line] {
+    View.When_Shown([&View, &Start, &Pause, &Simulation, Form_Index, Line] {
         const bool Ship = View.Sim.State.Mode == "Ship";
         const bool Running = Simulation.Interval_ms() > 0;
         const bool Paused = !Running && *Pause.Enabled;
@@ -41,7 +40,6 @@ QWidget* State_Line(Form_View& View, Form& Shown, Button& Start, Button& Pause, 
         Set_Property(Line, "role", Ship ? "readout" : Running ? "good" : Paused ? "warn" : "dim");
         if (QWidget* W = View.Widget_Of(Start)) Set_Property(W, "state", Running ? "good" : "");
         if (QWidget* W = View.Widget_Of(Pause)) Set_Property(W, "state", Paused ? "warn" : "");
-        (void)Shown;
     });
     return Line;
 }

@@ -14,8 +14,7 @@ namespace brinewright {
 
 // Running, paused or under the ship's control, the port and the talker; START and PAUSE carry the state as a
 // colour.
-QWidget* State_Line(Form_View& View, Form& Shown, Button& Start, Button& Pause, const Timer& Simulation,
-                    int Form_Index);
+QWidget* State_Line(Form_View& View, Button& Start, Button& Pause, const Timer& Simulation, int Form_Index);
 
 // A row a sentence: box, interval, and a thin bar that fills when it leaves and empties until the next one.
 QGroupBox* Messages_Box(Form_View& View, Frame& Box, Sentence_Family& Sentences);
