@@ -20,6 +20,15 @@ constexpr Field_Description Altitude{"Antenna above mean sea level", "m"};
 constexpr Field_Description Separation{"Geoidal separation", "m"};
 constexpr Field_Description Age{"Age of differential corrections", "s"};
 constexpr Field_Description Station{"Differential reference station"};
+constexpr Field_Description Heading{"Heading", "deg true"};
+constexpr Field_Description Heading_Magnetic{"Heading", "deg magnetic"};
+constexpr Field_Description Pitch{"Pitch", "deg"};
+constexpr Field_Description Roll{"Roll", "deg"};
+constexpr Field_Description True{"True"};
+constexpr Field_Description Magnetic{"Magnetic"};
+constexpr Field_Description Speed_Unit{"Unit of the speed"};
+constexpr Field_Description Depth_Unit{"Unit of the depth"};
+constexpr Field_Description Distance_Unit{"Unit of the distance"};
 
 constexpr Field_Description DTM[] = {
     {"Local datum"},
@@ -110,13 +119,13 @@ constexpr Field_Description RMC[] = {
 
 constexpr Field_Description VTG[] = {
     {"Course over ground", "deg true"},
-    {"True"},
+    True,
     {"Course over ground", "deg magnetic"},
-    {"Magnetic"},
+    Magnetic,
     {"Speed over ground", "kn"},
-    {"Unit of the speed"},
+    Speed_Unit,
     {"Speed over ground", "km/h"},
-    {"Unit of the speed"},
+    Speed_Unit,
     Mode,
 };
 
@@ -124,7 +133,91 @@ constexpr Field_Description ZDA[] = {
     Time, {"Day", "dd"}, {"Month", "mm"}, {"Year", "yyyy"}, {"Local zone", "h"}, {"Local zone", "min"},
 };
 
+constexpr Field_Description HDT[] = {Heading, True};
+
+constexpr Field_Description THS[] = {Heading, {"Mode", "A, E, M, S, V not valid"}};
+
+constexpr Field_Description ROT[] = {{"Rate of turn", "deg/min, negative to port"}, Status};
+
+constexpr Field_Description PFEC[] = {{"Talker and type", "--att"}, Heading, Pitch, Roll};
+
+constexpr Field_Description PRDID[] = {Pitch, Roll, Heading};
+
+constexpr Field_Description VHW[] = {
+    Heading,
+    True,
+    Heading_Magnetic,
+    Magnetic,
+    {"Speed through the water", "kn"},
+    Speed_Unit,
+    {"Speed through the water", "km/h"},
+    Speed_Unit,
+};
+
+constexpr Field_Description VBW[] = {
+    {"Speed through the water, along", "kn"},
+    {"Speed through the water, across", "kn"},
+    {"Status of the speed through the water", Status.Unit},
+    {"Speed over ground, along", "kn"},
+    {"Speed over ground, across", "kn"},
+    {"Status of the speed over ground", Status.Unit},
+    {"Speed through the water, across at the stern", "kn"},
+    {"Status at the stern, water", Status.Unit},
+    {"Speed over ground, across at the stern", "kn"},
+    {"Status at the stern, ground", Status.Unit},
+};
+
+constexpr Field_Description VDR[] = {
+    {"Set of the current", "deg true"}, True,       {"Set of the current", "deg magnetic"}, Magnetic,
+    {"Drift of the current", "kn"},     Speed_Unit,
+};
+
+constexpr Field_Description VLW[] = {
+    {"Total distance through the water", "NM"},
+    Distance_Unit,
+    {"Trip through the water", "NM"},
+    Distance_Unit,
+    {"Total distance over ground", "NM"},
+    Distance_Unit,
+    {"Trip over ground", "NM"},
+    Distance_Unit,
+    {"Empty"},
+};
+
+constexpr Field_Description DBT[] = {
+    {"Depth below the transducer", "ft"},      Depth_Unit, {"Depth below the transducer", "m"}, Depth_Unit,
+    {"Depth below the transducer", "fathoms"}, Depth_Unit,
+};
+
+constexpr Field_Description DPT[] = {
+    {"Depth below the transducer", "m"},
+    {"Offset of the transducer", "m"},
+    {"Range of the scale", "m"},
+};
+
+constexpr Field_Description MWV[] = {
+    {"Wind angle", "deg"},
+    {"Reference", "R relative, T true"},
+    {"Wind speed", "in the unit that follows"},
+    {"Unit of the speed", "N kn, M m/s, K km/h"},
+    Status,
+};
+
+constexpr Field_Description MWD[] = {
+    {"Wind direction", "deg true"},
+    True,
+    {"Wind direction", "deg magnetic"},
+    Magnetic,
+    {"Wind speed", "kn"},
+    Speed_Unit,
+    {"Wind speed", "m/s"},
+    Speed_Unit,
+};
+
+// Found by the type, which of a maker's own sentence is its whole address.
 constexpr Sentence_Description Descriptions[] = {
+    {"DBT", "depth below the transducer", DBT},
+    {"DPT", "depth", DPT},
     {"DTM", "datum reference", DTM},
     {"GGA", "fix data", GGA},
     {"GLL", "position", GLL},
@@ -132,7 +225,18 @@ constexpr Sentence_Description Descriptions[] = {
     {"GSA", "satellites in use", GSA, 2, 1, 12},
     {"GST", "statistics of the position's errors", GST},
     {"GSV", "satellites in view", GSV, 3, 4, 4},
+    {"HDT", "true heading", HDT},
+    {"MWD", "direction and speed of the true wind", MWD},
+    {"MWV", "wind speed and angle", MWV},
+    {"PFEC", "heading and attitude", PFEC},
+    {"PRDID", "attitude and heading", PRDID},
     {"RMC", "recommended minimum data", RMC},
+    {"ROT", "rate of turn", ROT},
+    {"THS", "true heading and status", THS},
+    {"VBW", "speed over ground and through the water", VBW},
+    {"VDR", "set and drift of the current", VDR},
+    {"VHW", "heading and speed through the water", VHW},
+    {"VLW", "distances through the water and over ground", VLW},
     {"VTG", "course and speed over ground", VTG},
     {"ZDA", "time and date", ZDA},
 };

@@ -15,9 +15,14 @@ namespace brinewright {
 // brings the comma in front of it, so an empty one keeps its comma and a sentence without fields has none.
 // Line ends and faults are put behind the finished sentence by the transmit path.
 
-// "$", the talker and the type. A talker is a fixed field of two characters: a longer one is cut, a shorter
-// one filled with blanks.
+// "$", the talker and the type.
 std::string Begin_Sentence(std::string_view Talker, std::string_view Type);
+
+// "$" and the address of a maker's own sentence, "PRDID", which has no talker.
+std::string Begin_Proprietary(std::string_view Address);
+
+// A talker is a fixed field of two characters: a longer one is cut, a shorter one filled with blanks.
+void Append_Talker(std::string& Out, std::string_view Talker);
 
 // A comma, then the text as it stands; no check is made for characters that frame a sentence.
 inline void Add_Text(std::string& Out, std::string_view Text) { (Out += ',') += Text; }

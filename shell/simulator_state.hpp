@@ -6,6 +6,7 @@
 #include "shell/state/gullwatch_state.hpp"
 #include "shell/state/iec450_state.hpp"
 #include "shell/state/link_state.hpp"
+#include "shell/state/log_state.hpp"
 #include "shell/state/message_state.hpp"
 #include "shell/state/navdata_state.hpp"
 #include "shell/state/noise_state.hpp"
@@ -26,6 +27,7 @@ struct Simulator_State : Shell_State,
                          Message_State,
                          Talker_State,
                          Navdata_State,
+                         Log_State,
                          Noise_State,
                          GNSS_State,
                          Radar_State,
@@ -44,6 +46,7 @@ void Visit_State(Simulator_State& S, Visitor&& Visit) {
     Visit_State(static_cast<Message_State&>(S), Visit);
     Visit_State(static_cast<Talker_State&>(S), Visit);
     Visit_State(static_cast<Navdata_State&>(S), Visit);
+    Visit_State(static_cast<Log_State&>(S), Visit);
     Visit_State(static_cast<Noise_State&>(S), Visit);
     Visit_State(static_cast<GNSS_State&>(S), Visit);
     Visit_State(static_cast<Radar_State&>(S), Visit);

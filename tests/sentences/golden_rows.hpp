@@ -48,4 +48,7 @@ struct Golden_Row {
     }
 };
 
+// Composes what a row tells.
+using Golden_Reader = std::string (*)(Golden_Row&);
+
 std::vector<Golden_Row> Load_Golden_Rows(const std::filesystem::path& File);

@@ -1,5 +1,8 @@
 #include "fake_clock.hpp"
 #include "sentences/checksum_verdict.hpp"
+#include "sentences/compose_att.hpp"
+#include "sentences/compose_dbt.hpp"
+#include "sentences/compose_dpt.hpp"
 #include "sentences/compose_dtm.hpp"
 #include "sentences/compose_gga.hpp"
 #include "sentences/compose_gll.hpp"
@@ -7,7 +10,17 @@
 #include "sentences/compose_gsa.hpp"
 #include "sentences/compose_gst.hpp"
 #include "sentences/compose_gsv.hpp"
+#include "sentences/compose_hdt.hpp"
+#include "sentences/compose_mwd.hpp"
+#include "sentences/compose_mwv.hpp"
+#include "sentences/compose_prdid.hpp"
 #include "sentences/compose_rmc.hpp"
+#include "sentences/compose_rot.hpp"
+#include "sentences/compose_ths.hpp"
+#include "sentences/compose_vbw.hpp"
+#include "sentences/compose_vdr.hpp"
+#include "sentences/compose_vhw.hpp"
+#include "sentences/compose_vlw.hpp"
 #include "sentences/compose_vtg.hpp"
 #include "sentences/compose_zda.hpp"
 #include "sentences/field_descriptions.hpp"
@@ -26,18 +39,34 @@ using namespace brinewright;
 
 namespace {
 
+// By the composer's name.
 std::map<std::string, std::string> One_Of_Each() {
+    Log_State Counters;
+    VLW_Record VLW;
     Fake_Clock Clock(0);
     const UTC_State UTC;
     const Sentence_Time Time{Clock, UTC};
-    return {{"DTM", Compose_DTM({}, false)},
+    return {{"ATT", Compose_ATT({}, false)},
+            {"DBT", Compose_DBT({}, false)},
+            {"DPT", Compose_DPT({}, false)},
+            {"DTM", Compose_DTM({}, false)},
             {"GGA", Compose_GGA(Time, {}, 4, 2, 1, false)},
             {"GLL", Compose_GLL(Time, {}, 4, 2, 1, false)},
             {"GNS", Compose_GNS(Time, {}, 4, 2, 1, false)},
             {"GSA", Compose_GSA({}, false)},
             {"GST", Compose_GST(Time, {}, 2, 1, false)},
             {"GSV", Compose_GSV({}, false)},
+            {"HDT", Compose_HDT({}, 1, false)},
+            {"MWD", Compose_MWD({}, false)},
+            {"MWV", Compose_MWV({}, false)},
+            {"PRDID", Compose_PRDID({}, false)},
             {"RMC", Compose_RMC(Time, {}, 4, 2, 1, false)},
+            {"ROT", Compose_ROT({}, 1, false)},
+            {"THS", Compose_THS({}, 1, false)},
+            {"VBW", Compose_VBW({}, false)},
+            {"VDR", Compose_VDR({}, false)},
+            {"VHW", Compose_VHW({}, false)},
+            {"VLW", Compose_VLW(Counters, {}, VLW, 1, false)},
             {"VTG", Compose_VTG({}, false)},
             {"ZDA", Compose_ZDA(Time, {}, 2, 1, false)}};
 }
@@ -66,8 +95,13 @@ TEST(Field_Descriptions, Every_Composer_Has_One_With_As_Many_Fields_As_It_Writes
         Composers.insert(Type);
     }
     std::set<std::string> Composed;
-    for (const auto& [Type, Sentence] : One_Of_Each()) {
-        Composed.insert(Type);
+    for (const auto& [Composer, Sentence] : One_Of_Each()) {
+        Composed.insert(Composer);
+        EXPECT_EQ(Verdict_Of(Sentence), Checksum_Verdict::Ok) << Sentence;
+        const auto Address = Address_Of(Sentence);
+        ASSERT_TRUE(Address) << Sentence;
+        const std::string Type(Address->Type);
+        EXPECT_EQ(Type, Composer == "ATT" ? "PFEC" : Composer);
         const Sentence_Description* D = Find_Description(Type);
         ASSERT_NE(D, nullptr) << Type;
         EXPECT_EQ(static_cast<std::size_t>(std::count(Sentence.begin(), Sentence.end(), ',')),
@@ -105,6 +139,24 @@ TEST(Take_Apart, Names_The_Values_In_Their_Places) {
     EXPECT_EQ(Value_Of(GSA, "Satellite 12"), "12");
     EXPECT_EQ(Value_Of(GSA, "Position dilution of precision"), "1.1"); // behind the group
     EXPECT_EQ(Value_Of(GSA, "Vertical dilution of precision"), "3.3");
+}
+
+TEST(Take_Apart, Sentences_Of_Makers_Have_No_Talker_In_The_Address) {
+    // 67 and 66 are the exclusive or of what stands between "$" and "*".
+    const std::vector<Field_Value> Expected{{"Type", "PFEC", "heading and attitude"},
+                                            {"Talker and type", "GPatt", "--att"},
+                                            {"Heading", "123.4", "deg true"},
+                                            {"Pitch", "002.5", "deg"},
+                                            {"Roll", "-001.0", "deg"},
+                                            {"Checksum", "67", "ok"}};
+    EXPECT_EQ(Take_Apart("$PFEC,GPatt,123.4,002.5,-001.0*67\r\n"), Expected);
+    const auto PRDID = Take_Apart("$PRDID,002.5,-001.0,123.4*66");
+    ASSERT_EQ(PRDID.size(), 5u);
+    EXPECT_EQ(PRDID[0], (Field_Value{"Type", "PRDID", "attitude and heading"}));
+    EXPECT_EQ(PRDID[3], (Field_Value{"Heading", "123.4", "deg true"}));
+    // The comma behind the last unit of VLW is a field of its own, and named.
+    EXPECT_EQ(Value_Of("$VWVLW,1.0,N,2.0,N,3.0,N,4.0,N,*00", "Trip over ground"), "4.0");
+    EXPECT_EQ(Value_Of("$VWVLW,1.0,N,2.0,N,3.0,N,4.0,N,*00", "Empty"), "");
 }
 
 TEST(Take_Apart, Shows_Header_And_Tags_With_Their_Meaning) {
@@ -150,7 +202,7 @@ TEST(Take_Apart, Makes_The_Best_Of_Mutilated_Sentences) {
     EXPECT_EQ(Take_Apart("$G*4F").back(), (Field_Value{"Checksum", "4F", "wrong: 47 is right"}));
     // More fields than there are, a type that nobody knows, a cut address.
     EXPECT_EQ(Value_Of("$GPDTM,1,2,3,4,5,6,7,8,9", "Field 9"), "9");
-    EXPECT_EQ(Value_Of("$PFEC,GPatt,123.4", "Field 1"), "GPatt");
+    EXPECT_EQ(Value_Of("$PABC,GPatt,123.4", "Field 1"), "GPatt");
     EXPECT_EQ(Value_Of("$GPG", "Unreadable address"), "$GPG");
     EXPECT_EQ(Value_Of("\\s:Brinewr", "s: source"), "Brinewr");
     EXPECT_TRUE(Take_Apart("").empty());

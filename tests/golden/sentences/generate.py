@@ -10,64 +10,11 @@ import datetime
 import math
 import pathlib
 import random
-import re
-import struct
-from decimal import ROUND_HALF_UP, Decimal, localcontext
+
+from sensor_kinds import PROPRIETARY, SENSOR_KINDS
+from wire_text import EMPTY, Float, field, frame, pattern
 
 HERE = pathlib.Path(__file__).parent
-EMPTY = -9999
-
-
-class Float(float):
-    """A value that the program holds as a 32-bit float."""
-
-    def __new__(cls, value):
-        return super().__new__(cls, struct.unpack("f", struct.pack("f", float(value)))[0])
-
-    def __repr__(self):
-        for digits in range(1, 10):
-            text = f"{float(self):.{digits}g}"
-            if struct.pack("f", float(text)) == struct.pack("f", self):
-                return text
-        raise ValueError(float(self))
-
-
-def shortest(value):
-    return Decimal(repr(value))
-
-
-def pattern(value, picture):
-    with localcontext() as context:
-        context.prec = 400
-        context.rounding = ROUND_HALF_UP
-        number = shortest(value)
-        sign = "-" if number < 0 else ""
-        number = abs(number)
-        if picture == "":
-            if isinstance(value, Float) and number:
-                number = number.quantize(Decimal(1).scaleb(number.adjusted() - 6))
-            text = f"{number:f}"
-            return sign + (text.rstrip("0").rstrip(".") if "." in text else text)
-        front, behind, words = re.fullmatch(r"([0#]*)(?:\.([0#]+))?(.*)", picture).groups()
-        behind = behind or ""
-        rounded = f"{number.quantize(Decimal(1).scaleb(-len(behind))):f}"
-        whole, _, decimals = rounded.partition(".")
-        whole = whole.lstrip("0").rjust(front.count("0"), "0")
-        fixed = behind.rfind("0") + 1
-        decimals = decimals[:fixed] + decimals[fixed:].rstrip("0")
-        return sign + whole + ("." + decimals if decimals else "") + words
-
-
-def field(value, picture):
-    return "" if value == EMPTY else pattern(value, picture)
-
-
-def frame(talker, kind, fields, no_checksum):
-    text = ",".join([f"${talker}{kind}", *fields])
-    total = 0
-    for letter in text[1:]:
-        total ^= ord(letter)
-    return text if no_checksum else f"{text}*{total:02X}"
 
 
 def moment(text):
@@ -259,17 +206,19 @@ KINDS = {
                                             Orientation=EMPTY, Sd_Lat=F(EMPTY), Sd_Lon=F(EMPTY),
                                             Sd_Alt=F(EMPTY))}),
 }
+KINDS |= SENSOR_KINDS
 COMMON_EDGES = {"ordinary": {}, "no checksum": dict(No_Checksum=True), "another talker": dict(Talker="1A")}
+
+RANGES = dict(Decimals_Position=(3, 6), Decimals_Time=(0, 3), Instance=(0, 3), Decimals=(-1, 4), Log=(1, 2),
+              Log_VLW_Seconds=(1, 5))
 
 
 def random_value(draw, key, value):
     """A usual value of the kind of Value; texts stay as they are."""
     if key == "Clock":
         return moment("2000-01-01") + datetime.timedelta(microseconds=draw.randrange(40 * 365 * 86_400_000_000))
-    if key == "Decimals_Position":
-        return draw.randint(3, 6)
-    if key in ("Decimals_Time", "Instance"):
-        return draw.randint(0, 3)
+    if key in RANGES:
+        return draw.randint(*RANGES[key])
     if key in ("Lat", "Lon"):
         return draw.uniform(-90, 90) * (1 if key == "Lat" else 2)
     if isinstance(value, bool):
@@ -309,7 +258,8 @@ def sentence_rows(name):
                   for key, v in usual.items()}
         cases.append((f"random {number}", inputs))
     for title, inputs in cases:
-        yield title, inputs, frame(inputs["Talker"], name.upper(), compose(inputs), inputs["No_Checksum"])
+        address = PROPRIETARY.get(name, inputs["Talker"] + name.upper())
+        yield title, inputs, frame(address, compose(inputs), inputs["No_Checksum"])
 
 
 def pattern_rows():
