@@ -39,7 +39,7 @@ struct Raw_Options {
     bool Headless = false;
 };
 
-void Declare(CLI::App& App, Program_Options& Chosen, Raw_Options& Raw) {
+void Declare_Inputs_And_Outputs(CLI::App& App, Program_Options& Chosen, Raw_Options& Raw) {
     App.add_option("--setup", Chosen.Setup_File,
                    "Setup file that takes the place of the instance's own, for the start and for saving")
         ->type_name("FILE");
@@ -60,12 +60,22 @@ void Declare(CLI::App& App, Program_Options& Chosen, Raw_Options& Raw) {
     App.add_option("--record", Chosen.Record_File, "Record each sentence: time, port number, bytes")
         ->type_name("FILE");
     App.add_option("--script", Chosen.Script_File, "Play automation lines at given times")->type_name("FILE");
+    App.add_option("--joystick-script", Chosen.Joystick_Script_File,
+                   "Play a game controller: lines \"SECONDS X Y BUTTONS\" (X and Y 0 to 65535), or \"SECONDS "
+                   "gone\"")
+        ->type_name("FILE");
+    App.add_flag("--control-input", Chosen.Control_Input,
+                 "Let VTG and ROT datagrams steer the ship in Ship mode, on the UDP port that "
+                 "Quillon_UDP_port.txt in the data folder names");
     App.add_option("--automation", Chosen.Automation_Socket, "Local socket to drive the program by")
         ->type_name("PATH");
     App.add_flag(
         "--hold-boxes", Chosen.Hold_Boxes,
         "Message boxes stand until they are answered by automation (no sentence leaves meanwhile); without "
         "it they are printed and answered at once");
+}
+
+void Declare_Run(CLI::App& App, Program_Options& Chosen, Raw_Options& Raw) {
     App.add_option("--seed", Raw.Seed,
                    "Seed of the random draws (default: 0 in virtual time, else another each time)")
         ->type_name("N");
@@ -100,7 +110,8 @@ void Check(const CLI::App& App, Program_Options& Chosen, const Raw_Options& Raw)
     if (Chosen.Virtual && !Chosen.Duration_s && Chosen.Script_File.empty() &&
         Chosen.Automation_Socket.empty())
         throw Run_Time_Error("--virtual needs --duration, --script or --automation");
-    for (const char* Named : {"--setup", "--data-folder", "--record", "--script", "--automation"})
+    for (const char* Named :
+         {"--setup", "--data-folder", "--record", "--script", "--joystick-script", "--automation"})
         if (App.count(Named) > 0 && App[Named]->as<std::string>().empty())
             throw Run_Time_Error(std::string(Named) + ": a name is wanted");
     Chosen.Own_Data_Folder = App.count("--data-folder") > 0;
@@ -121,7 +132,8 @@ std::optional<Program_Options> Read_Options(int Argument_Count, char** Arguments
         Program_Name};
     Program_Options Chosen;
     Raw_Options Raw;
-    Declare(App, Chosen, Raw);
+    Declare_Inputs_And_Outputs(App, Chosen, Raw);
+    Declare_Run(App, Chosen, Raw);
     try {
         App.parse(Argument_Count, Arguments);
         Check(App, Chosen, Raw);

@@ -18,6 +18,8 @@ struct Program_Options {
     bool To_Stdout = false;
     std::string Record_File;
     std::string Script_File;
+    std::string Joystick_Script_File; // empty: the game controller of the machine
+    bool Control_Input = false;
     std::string Automation_Socket;
     bool Hold_Boxes = false;
     std::optional<std::uint64_t> Seed;

@@ -4,6 +4,7 @@
 #include "app/sentence_sinks.hpp"
 #include "app/summary.hpp"
 #include "automation/script.hpp"
+#include "platform/scripted_joystick.hpp"
 #include "platform/virtual_platform.hpp"
 #include "platform_qt/ini_settings.hpp"
 #include "platform_qt/qt_platform.hpp"
@@ -55,7 +56,8 @@ void Print_Left_Boxes(const Simulator& Sim, const Front_End& Front) {
 }
 
 Start_Options Start_Options_Of(const Program_Options& Chosen) {
-    return {Chosen.Setup_File, Chosen.No_Save, Chosen.Data_Folder, Chosen.Instance_Number};
+    return {Chosen.Setup_File, Chosen.No_Save, Chosen.Data_Folder, Chosen.Instance_Number,
+            Chosen.Control_Input};
 }
 
 std::string Settings_File_Of(const Program_Options& Chosen) {
@@ -74,17 +76,31 @@ void End_Program(Simulator& Sim) {
     if (!Sim.Ended) Sim.Windows.Event([&Sim] { Sim.Windows.Unload(*Sim.Main); });
 }
 
-std::vector<Script_Line> Load_Script(const std::string& File) {
+// What Read makes of the text of a file; whatever is wrong with it names the file.
+template <class Reader>
+auto Read_Script_File(const std::string& File, Reader&& Read) {
     constexpr std::size_t Script_Limit_Bytes = 64 * 1024 * 1024;
-    std::vector<Script_Line> Lines;
-    std::string Wrong;
     try {
-        Wrong = Read_Script(Disk_Files().Read(File, Script_Limit_Bytes), Lines);
+        return Read(Disk_Files().Read(File, Script_Limit_Bytes));
     } catch (const Run_Time_Error& Failure) {
-        Wrong = Failure.what();
+        throw Run_Time_Error(File + ": " + Failure.what());
     }
-    if (!Wrong.empty()) throw Run_Time_Error(File + ": " + Wrong);
-    return Lines;
+}
+
+std::vector<Script_Line> Load_Script(const std::string& File) {
+    return Read_Script_File(File, [](const std::string& Text) {
+        std::vector<Script_Line> Lines;
+        const std::string Wrong = Read_Script(Text, Lines);
+        if (!Wrong.empty()) throw Run_Time_Error(Wrong);
+        return Lines;
+    });
+}
+
+// The script, when there is one, takes the place of the game controller that the platform has.
+void Choose_Joystick(const Program_Options& Chosen, Clock& Time, std::unique_ptr<Joystick>& Stick) {
+    if (Chosen.Joystick_Script_File.empty()) return;
+    Stick = std::make_unique<Scripted_Joystick>(
+        Read_Script_File(Chosen.Joystick_Script_File, Read_Joystick_Script), Time);
 }
 
 // What runs beside the simulator, in both kinds of time. It goes before the simulator does.
@@ -145,6 +161,7 @@ int Run_In_Virtual_Time(const Program_Options& Chosen, const Front_End& Front) {
     Virtual_Program_Platform World(Disk, Settings,
                                    Chosen.Start_Local_us.value_or(Machine_Clock().Local_us()));
     World.Random.Seed(Chosen.Seed.value_or(0));
+    Choose_Joystick(Chosen, World.Time(), World.Its_Joystick);
     Simulator Sim(World, Start_Options_Of(Chosen));
     if (!Front.Shows_Boxes) Tell_Boxes(Sim, Chosen.Hold_Boxes);
     Opened_Front Windows(Front, Sim);
@@ -176,6 +193,7 @@ int Run_In_Real_Time(const Program_Options& Chosen, const Front_End& Front) {
     World_Options.Com_Devices = Chosen.Com_Devices;
     World_Options.Seed = Chosen.Seed;
     Qt_Platform World(World_Options);
+    Choose_Joystick(Chosen, World.Time(), World.Its_Joystick);
     Simulator Sim(World, Start_Options_Of(Chosen));
     if (!Front.Shows_Boxes) Tell_Boxes(Sim, Chosen.Hold_Boxes);
     Opened_Front Windows(Front, Sim);

@@ -1,25 +1,20 @@
 #include "app/summary.hpp"
 
-#include "gnss/frm_position.hpp"
 #include "links/port_list.hpp"
 #include "shell/file_menu.hpp"
+#include "shell/frm_main.hpp"
+#include "shell/sensor_form.hpp"
 #include "shell/simulator.hpp"
 
 namespace brinewright {
 
 namespace {
 
-// " GGA VTG" for the sentences that sensor Form_Index sends now.
-std::string Sentence_List(const Form& Window) {
+// " GGA VTG" for the sentences that are ticked.
+std::string Sentence_List(const Sensor_Form& Window) {
     std::string List;
-    for (const Control* C : Window.Controls) {
-        constexpr std::string_view Prefix = "timer_";
-        if (C->Kind != Control_Kind::Timer || !C->Name.starts_with(Prefix)) continue;
-        const std::string Type = C->Name.substr(Prefix.size());
-        const Control* Box = Window.Find("chk" + Type);
-        if (Box && Box->Kind == Control_Kind::Check_Box && static_cast<const Check_Box*>(Box)->Value())
-            List += " " + Type;
-    }
+    for (const Sentence_Line& Line : Window.Sentences.Lines)
+        if (Line.Box->Value()) List += std::string(" ") + Line.Type;
     return List.empty() ? " no sentence is ticked" : List;
 }
 
@@ -43,12 +38,12 @@ std::string Link_Text(const Simulator& Sim, int Port) {
 std::string Summary(const Simulator& Sim) {
     std::string Text = "Setup: " + Setup_File_Name(Sim) + ", " + Sim.State.Mode + " mode\n";
     bool Any = false;
-    for (const int Instance : {1, 2}) {
-        const auto& Window = Sim.frmPosition_Instance[Instance];
+    for (std::int16_t Index = 1; Index <= Sim.State.Sensor_Table.Last_Index; ++Index) {
+        const Sensor_Form* Window = Sensor_Window(Sim, Index);
         if (!Window) continue;
         Any = true;
-        Text += "GNSS " + std::to_string(Instance) + ":" + Sentence_List(*Window) + " -> " +
-                Link_Text(Sim, Sim.State.Sensor_Table[Instance].Port) + "\n";
+        Text += *Sim.Main->mnuOpenForm(Index)->Caption + ":" + Sentence_List(*Window) + " -> " +
+                Link_Text(Sim, Sim.State.Sensor_Table[Index].Port) + "\n";
     }
     if (!Any) Text += "No sensor window is open in this setup, so nothing is sent.\n";
     return Text;

@@ -17,10 +17,25 @@ struct Window_Class {
     int Instances = 0; // 0 = the class exists once
 };
 constexpr std::array Window_Classes{
-    Window_Class{"frmMain"},      Window_Class{"frmPosition", 2}, Window_Class{"frmMonitor"},
-    Window_Class{"frmTCPIP"},     Window_Class{"frmIEC61162"},    Window_Class{"frmExtendedMonitor"},
-    Window_Class{"frmGeoFormat"}, Window_Class{"frmGNSS", 2},     Window_Class{"frmSetup"},
-    Window_Class{"frmProgress"},  Window_Class{"frmComportInfo"}, Window_Class{"frmTraffic"},
+    Window_Class{"frmMain"},
+    Window_Class{"frmPosition", 2},
+    Window_Class{"frmMonitor"},
+    Window_Class{"frmGyro", 2},
+    Window_Class{"frmLog", 2},
+    Window_Class{"frmEchosounder", 2},
+    Window_Class{"frmWind", 2},
+    Window_Class{"frmShip"},
+    Window_Class{"frmShipSetup"},
+    Window_Class{"frmSetSOG"},
+    Window_Class{"frmTCPIP"},
+    Window_Class{"frmIEC61162"},
+    Window_Class{"frmExtendedMonitor"},
+    Window_Class{"frmGeoFormat"},
+    Window_Class{"frmGNSS", 2},
+    Window_Class{"frmSetup"},
+    Window_Class{"frmProgress"},
+    Window_Class{"frmComportInfo"},
+    Window_Class{"frmTraffic"},
 };
 
 constexpr std::string_view State_Prefix = "state.";

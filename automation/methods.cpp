@@ -6,6 +6,7 @@
 #include "automation/watch_list.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 namespace brinewright {
 
@@ -65,18 +66,37 @@ int Key_Code(const Json& Code) {
         std::string_view Name;
         int Code;
     };
-    constexpr std::array Keys{Named_Key{"Left", key::Left}, Named_Key{"Up", key::Up},
-                              Named_Key{"Right", key::Right}, Named_Key{"Down", key::Down}};
+    constexpr std::array Keys{Named_Key{"Left", key::Left},       Named_Key{"Up", key::Up},
+                              Named_Key{"Right", key::Right},     Named_Key{"Down", key::Down},
+                              Named_Key{"Page_Up", key::Page_Up}, Named_Key{"Page_Down", key::Page_Down}};
     if (Code.is_number_unsigned() && Code.get<std::uint64_t>() >= 1 && Code.get<std::uint64_t>() <= 255)
         return Code.get<int>();
     for (const Named_Key& Key : Keys)
         if (Code == Key.Name) return Key.Code;
-    Wrong_Parameter("code must be 1 to 255, Left, Up, Right or Down");
+    Wrong_Parameter("code must be 1 to 255, Left, Up, Right, Down, Page_Up or Page_Down");
+}
+
+Key_Modifiers Held_Keys(const Json& Names) {
+    Key_Modifiers Held;
+    const struct {
+        std::string_view Name;
+        bool& Flag;
+    } Keys[] = {{"Shift", Held.Shift}, {"Ctrl", Held.Ctrl}, {"Alt", Held.Alt}};
+    if (Names.is_null()) return Held;
+    if (!Names.is_array()) Wrong_Parameter("held must be a list of Shift, Ctrl and Alt");
+    for (const Json& Name : Names) {
+        const auto* Found =
+            std::find_if(std::begin(Keys), std::end(Keys), [&](const auto& Key) { return Name == Key.Name; });
+        if (Found == std::end(Keys)) Wrong_Parameter("held must be a list of Shift, Ctrl and Alt");
+        Found->Flag = true;
+    }
+    return Held;
 }
 
 Json Key(Automation_Core& Core, const Json& Bound) {
     const int Code = Key_Code(Bound.at("code"));
-    Key_By_User(Core.Target, Find_Window(Core.Target, Text_Parameter(Bound, "path")), Code);
+    Key_By_User(Core.Target, Find_Window(Core.Target, Text_Parameter(Bound, "path")), Code,
+                Held_Keys(Bound.value("held", Json())));
     return true;
 }
 
@@ -161,7 +181,7 @@ constexpr std::array Methods{
     Rpc_Method{"type", {{{"path", Needed}, {"text", Needed}}}, Type},
     Rpc_Method{"focus", {{{"path", Needed}}}, Focus},
     Rpc_Method{"leave", {}, Leave},
-    Rpc_Method{"key", {{{"path", Needed}, {"code", Needed}}}, Key},
+    Rpc_Method{"key", {{{"path", Needed}, {"code", Needed}, {"held"}}}, Key},
     Rpc_Method{"close", {{{"path", Needed}}}, Close},
     Rpc_Method{"list", {{{"path"}}}, List},
     Rpc_Method{"watch", {{{"path", Needed}}}, Watch_Path},

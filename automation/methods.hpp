@@ -15,7 +15,7 @@ struct Rpc_Parameter {
 // One row of the table of what can be called.
 struct Rpc_Method {
     std::string_view Name;
-    std::array<Rpc_Parameter, 2> Parameters;
+    std::array<Rpc_Parameter, 3> Parameters;
     Json (*Run)(Automation_Core& Core, const Json& Bound);
 };
 

@@ -180,8 +180,8 @@ void Leave_By_User(const Automation_Target& Target) {
     As_User(Target, [&] { Target.Windows.Set_Focus(nullptr); });
 }
 
-void Key_By_User(const Automation_Target& Target, Form& Window, int Key_Code) {
-    As_User(Target, [&] { Target.Windows.User_Key(Window, Key_Code); });
+void Key_By_User(const Automation_Target& Target, Form& Window, int Key_Code, Key_Modifiers Held) {
+    As_User(Target, [&] { Target.Windows.User_Key(Window, Key_Code, Held); });
 }
 
 void Close_By_User(const Automation_Target& Target, Form& Window) {

@@ -34,10 +34,14 @@ using Stopwatch = std::chrono::steady_clock;
 
 inline const std::string Program = BRINEWRIGHT_BIN_DIR "/brinewright-headless";
 inline const std::string Client = BRINEWRIGHT_BIN_DIR "/brinewright-ctl";
-inline const fs::path Demo_Setup = BRINEWRIGHT_SOURCE_DIR "/examples/demo.ini";
+inline const fs::path Demo_Setup = BRINEWRIGHT_SOURCE_DIR "/examples/sensor.ini";
 // Both windows, all ten sentences of each at their shortest interval: ten every 0.1 s, the other ten every
 // second.
 inline const fs::path Dense_Setup = BRINEWRIGHT_SOURCE_DIR "/benchmarks/dense.ini";
+
+// The ship under way with all ten sensor windows open, every sentence at its shortest interval: 300 a second.
+inline const fs::path All_Sensors_Setup = BRINEWRIGHT_SOURCE_DIR "/benchmarks/all_sensors.ini";
+inline const fs::path Ship_Setup = BRINEWRIGHT_SOURCE_DIR "/examples/demo.ini";
 
 inline double Seconds_Since(Stopwatch::time_point Start) {
     return std::chrono::duration<double>(Stopwatch::now() - Start).count();

@@ -1,7 +1,7 @@
 #include "gnss/fix_quality.hpp"
 
-#include "gnss/control_text.hpp"
 #include "gnss/frm_position.hpp"
+#include "shell/control_text.hpp"
 #include "shell/number_text.hpp"
 #include "shell/simulator.hpp"
 

@@ -1,6 +1,5 @@
 #include "gnss/frm_position.hpp"
 
-#include "gnss/control_text.hpp"
 #include "gnss/datum_controls.hpp"
 #include "gnss/fix_quality.hpp"
 #include "gnss/frm_gnss.hpp"
@@ -12,12 +11,10 @@
 #include "gnss/position_simulator.hpp"
 #include "gnss/position_tips.hpp"
 #include "gnss/satellite_controls.hpp"
-#include "links/port_list.hpp"
 #include "ownship/position_text.hpp"
-#include "shell/form_position.hpp"
-#include "shell/frm_main.hpp"
+#include "shell/control_text.hpp"
+#include "shell/load_sensor_form.hpp"
 #include "shell/simulator.hpp"
-#include "shell/talker_box.hpp"
 
 namespace brinewright {
 
@@ -97,12 +94,6 @@ void Fill_Lists(Simulator& Sim, frmPosition& W) {
     Fill_Satellite_Lists(W);
 }
 
-// A stored choice that its list does not have, as a setup file may hold, becomes the default one.
-void Restore_Choice(Combo_Box& List, int Stored, int Default) {
-    const int Count = static_cast<int>(List.Items().size());
-    List.Set_List_Index(Stored >= 0 && Stored < Count ? Stored : Default);
-}
-
 // Selecting runs the click operations, so that what depends on a choice fills itself.
 void Restore_Settings(Simulator& Sim, frmPosition& W) {
     const Simulator_State& S = Sim.State;
@@ -125,11 +116,10 @@ void Restore_Settings(Simulator& Sim, frmPosition& W) {
 void Wire_Controls(Simulator& Sim, frmPosition& W) {
     W.cmdStart.Click = [&] { cmdStart_Click(Sim, W); };
     W.cmdPause.Click = [&] { cmdPause_Click(Sim, W); };
-    W.cmbComPort.Click = [&] { cmbComPort_Click(Sim, W); };
     W.cmbDecimals.Click = [&] { cmbDecimals_Click(Sim, W); };
     W.cmbDecimalsTime.Click = [&] { cmbDecimalsTime_Click(Sim, W); };
-    Wire_Talker_Box(Sim.Windows, W.txtTalker, Sim.State.GNSS_Talker[W.Instance],
-                    [&W](const std::string& Talker) { Set_Talker(W, Talker); });
+    Wire_Routing(Sim, W, Sim.State.GNSS_Talker[W.Instance],
+                 [&W](const std::string& Talker) { Set_Talker(W, Talker); });
     Wire_Position_Simulator(Sim, W);
     Wire_Motion_Controls(Sim, W);
     Wire_Fix_Quality(Sim, W);
@@ -142,8 +132,6 @@ void Wire_Controls(Simulator& Sim, frmPosition& W) {
 }
 
 void Form_Load(Simulator& Sim, frmPosition& W) {
-    W.Sentences.Is_Loading = true;
-    W.Tag = std::to_string(W.Instance);
     W.chkFixOffset.Visible = W.Instance == 2;
     Show_Motion(Sim.State, W); // before the wiring: showing the speed and course must not write them
     Wire_Controls(Sim, W);
@@ -158,23 +146,12 @@ void Form_Load(Simulator& Sim, frmPosition& W) {
     Start_Enabled_Sentences(W.Sentences);
     W.cmbInView.Set_List_Index(W.cmbInView.List_Index()); // builds the table
     Reset_Mode_Lists(W);
-    W.Sentences.Is_Loading = false;
-}
-
-// The entry of the menu is cleared first, since a change of mode loads the window anew right after. Keeping
-// the place comes last, since it fails when the list of places is full.
-void Form_Unload(Simulator& Sim, const frmPosition& W) {
-    const auto Kept_Alive = W.shared_from_this();
-    if (Sim.Main)
-        if (Menu_Item* Entry = Sim.Main->mnuOpenForm(W.Instance)) Entry->Checked = false;
-    Sim.frmPosition_Instance[W.Instance].reset();
-    Save_Form_Position(Sim, W);
 }
 
 } // namespace
 
 frmPosition::frmPosition(Desktop& Its_Windows, int Its_Instance)
-    : Form(Its_Windows, "frmPosition", Its_Instance, Form_Kind::Child), Sentences(Its_Windows.Timers) {
+    : Sensor_Form(Its_Windows, "frmPosition", Its_Instance, form_index::GNSS_1, "GP") {
     frmGGA.Width = GGA_Width;
     frmGSA.Width = GSA_Width;
     frmGSV.Width = GSV_Width;
@@ -189,19 +166,8 @@ frmPosition::frmPosition(Desktop& Its_Windows, int Its_Instance)
     Set_Fix_Tool_Tips(*this);
 }
 
-std::shared_ptr<frmPosition> Load_frmPosition(Simulator& Sim) {
-    const int Instance = Sim.State.Open_Form_Index;
-    std::shared_ptr<frmPosition>& Place = Sim.frmPosition_Instance[Instance];
-    auto Window = std::make_shared<frmPosition>(Sim.Windows, Instance);
-    Place = Window;
-    Form_Load(Sim, *Window);
-    // Sim keeps no hold on the window once it has unloaded; the desktop does until the event is over.
-    Window->On_Unload = [&Sim, &W = *Window] { Form_Unload(Sim, W); };
-    return Window;
-}
-
-void Rebuild_Port_List(Simulator& Sim, frmPosition& W) {
-    Fill_Port_List(Sim, W.cmbComPort, Sim.State.Sensor_Table[W.Instance].Port);
+std::shared_ptr<Sensor_Form> Load_frmPosition(Simulator& Sim) {
+    return Load_Sensor_Form(Sim, Sim.frmPosition_Instance, Sim.State.Open_Form_Index, Form_Load);
 }
 
 void Fit_Width(Simulator& Sim, frmPosition& W) {
@@ -235,11 +201,6 @@ void cmdPause_Click(Simulator&, frmPosition& W) {
     W.cmdStart.Caption = std::string("Continue");
     W.timer_Simulator.Set_Interval(0);
     Pause_Sentences(W.Sentences);
-}
-
-void cmbComPort_Click(Simulator& Sim, frmPosition& W) {
-    if (W.cmbComPort.List_Index() < 0) return;
-    Sim.State.Sensor_Table[W.Instance].Port = static_cast<std::int16_t>(W.cmbComPort.Item_Data());
 }
 
 void cmbDecimals_Click(Simulator& Sim, frmPosition& W) {

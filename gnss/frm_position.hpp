@@ -12,7 +12,7 @@
 #include "sentences/compose_rmc.hpp"
 #include "sentences/compose_vtg.hpp"
 #include "sentences/compose_zda.hpp"
-#include "shell/sentence_family.hpp"
+#include "shell/sensor_form.hpp"
 
 #include <memory>
 #include <string>
@@ -23,7 +23,7 @@ struct Simulator;
 
 // The window of one positioning sensor, GNSS 1 or GNSS 2. Instance, 1 or 2, is at once its form index, its
 // Tag and its element of all per-sensor tables.
-struct frmPosition : Form {
+struct frmPosition : Sensor_Form {
     frmPosition(Desktop& Windows, int Its_Instance);
 
     // What the sentences are composed from. The ticks refresh what changes; all else stays as the controls
@@ -40,7 +40,6 @@ struct frmPosition : Form {
     brinewright::GSV_Record GSV_Record;
     brinewright::GST_Record GST_Record;
 
-    Sentence_Family Sentences;
     float Offset_North = 0; // metres from GNSS 1, held while chkFixOffset is checked
     float Offset_East = 0;
     bool Sats_Changing = false;          // cmbSats is setting the boxes of the satellites
@@ -88,7 +87,6 @@ struct frmPosition : Form {
     Text_Box txtDummy{*this, "txtDummy"}; // catches the keyboard for the arrow keys
     Timer timer_Simulator{*this, "timer_Simulator"};
 
-    Frame frameNMEAMessages{*this, "frameNMEAMessages", "NMEA Messages"};
     Check_Box chkGGA{*this, "chkGGA", "GGA"};
     Combo_Box cmbGGAInterval{*this, "cmbGGAInterval"};
     Timer timer_GGA{*this, "timer_GGA"};
@@ -120,8 +118,6 @@ struct frmPosition : Form {
     Combo_Box cmbGSTInterval{*this, "cmbGSTInterval"};
     Timer timer_GST{*this, "timer_GST"};
 
-    Text_Box txtTalker{*this, "txtTalker", "GP"};
-    Combo_Box cmbComPort{*this, "cmbComPort"};
     Label lblDecimals{*this, "lblDecimals", "No of decimals"};
     Label lblDecimalsPosition{*this, "lblDecimalsPosition", "Lat/Lon"};
     Combo_Box cmbDecimals{*this, "cmbDecimals"};
@@ -207,17 +203,13 @@ struct frmPosition : Form {
 
 // Makes the window of form index Open_Form_Index, 1 or 2, and runs its opening up to the point where it can
 // be shown. Any other index throws Run_Time_Error "Subscript out of range".
-std::shared_ptr<frmPosition> Load_frmPosition(Simulator& Sim);
-
-// Fills cmbComPort with the links that are in use now and selects the window's own, if it is among them.
-void Rebuild_Port_List(Simulator& Sim, frmPosition& W);
+std::shared_ptr<Sensor_Form> Load_frmPosition(Simulator& Sim);
 
 // The width that shows frmGGA and, left to right, as far as the last of GSA, GSV and GST that is enabled.
 void Fit_Width(Simulator& Sim, frmPosition& W);
 
 void cmdStart_Click(Simulator& Sim, frmPosition& W);
 void cmdPause_Click(Simulator& Sim, frmPosition& W);
-void cmbComPort_Click(Simulator& Sim, frmPosition& W);
 void cmbDecimals_Click(Simulator& Sim, frmPosition& W);
 void cmbDecimalsTime_Click(Simulator& Sim, frmPosition& W);
 

@@ -1,7 +1,7 @@
 #include "gnss/gst_controls.hpp"
 
-#include "gnss/control_text.hpp"
 #include "gnss/frm_position.hpp"
+#include "shell/control_text.hpp"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #include "gnss/mode_lists.hpp"
 
-#include "gnss/control_text.hpp"
 #include "gnss/frm_position.hpp"
+#include "shell/control_text.hpp"
 
 namespace brinewright {
 

@@ -2,6 +2,7 @@
 
 #include "gnss/frm_position.hpp"
 #include "sentences/number_pattern.hpp"
+#include "shell/control_text.hpp"
 #include "shell/simulator.hpp"
 
 #include <algorithm>
@@ -24,14 +25,6 @@ void Show_COG(const Simulator_State& S, frmPosition& W) {
     W.txtCOG.Set_Text(W.lblCOG.Caption);
 }
 
-// The nearest place on the bar, ties to even.
-int Bar_Place(const Scroll_Bar& Bar, double Value) {
-    const int Least = std::min<int>(Bar.Min, Bar.Max), Most = std::max<int>(Bar.Min, Bar.Max);
-    if (std::isnan(Value)) return std::clamp(0, Least, Most);
-    return static_cast<int>(
-        std::nearbyint(std::clamp(Value * Bar_Steps, static_cast<double>(Least), static_cast<double>(Most))));
-}
-
 } // namespace
 
 void Wire_Motion_Controls(Simulator& Sim, frmPosition& W) {
@@ -41,14 +34,14 @@ void Wire_Motion_Controls(Simulator& Sim, frmPosition& W) {
     W.txtCOG.Lost_Focus = [&] { txtCOG_LostFocus(Sim, W); };
     W.cmdArrows.Click = [&] { cmdArrows_Click(Sim, W); };
     W.txtDummy.Lost_Focus = [&] { txtDummy_LostFocus(Sim, W); };
-    W.On_Key_Down = [&W](int Key_Code) { return frmPosition_KeyDown(W, Key_Code); };
+    W.On_Key_Down = [&W](int Key_Code, Key_Modifiers) { return frmPosition_KeyDown(W, Key_Code); };
 }
 
 void Show_Motion(const Simulator_State& State, frmPosition& W) {
-    W.scrSOG.Set_Value(Bar_Place(W.scrSOG, State.GNSS_SOG[W.Instance]));
+    W.scrSOG.Set_Value(Bar_Place(W.scrSOG, State.GNSS_SOG[W.Instance], Bar_Steps));
     // The ends of the course bar are the wrap, not places to stand on.
     const int Circle = W.scrCOG.Max;
-    W.scrCOG.Set_Value((Bar_Place(W.scrCOG, State.GNSS_COG[W.Instance]) + Circle) % Circle);
+    W.scrCOG.Set_Value((Bar_Place(W.scrCOG, State.GNSS_COG[W.Instance], Bar_Steps) + Circle) % Circle);
     Show_SOG(State, W);
     Show_COG(State, W);
 }
@@ -62,7 +55,7 @@ void scrSOG_Change(Simulator& Sim, frmPosition& W) {
 // 40 knots, where the bar stands at its end, and between two tenths. This order is required.
 void txtSOG_LostFocus(Simulator& Sim, frmPosition& W) {
     const double Speed = std::abs(Val_Dot(W.txtSOG.Text()));
-    W.scrSOG.Set_Value(Bar_Place(W.scrSOG, Speed));
+    W.scrSOG.Set_Value(Bar_Place(W.scrSOG, Speed, Bar_Steps));
     Sim.State.GNSS_SOG[W.Instance] =
         static_cast<float>(std::min(Speed, static_cast<double>(std::numeric_limits<float>::max())));
     Show_SOG(Sim.State, W);

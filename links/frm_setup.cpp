@@ -1,6 +1,5 @@
 #include "links/frm_setup.hpp"
 
-#include "gnss/frm_position.hpp"
 #include "links/port_detection.hpp"
 #include "links/port_validation.hpp"
 #include "links/serial_ports.hpp"
@@ -8,6 +7,7 @@
 #include "shell/frm_main.hpp"
 #include "shell/frm_traffic.hpp"
 #include "shell/number_text.hpp"
+#include "shell/sensor_form.hpp"
 #include "shell/simulator.hpp"
 
 #include <array>
@@ -122,7 +122,7 @@ void Rebuild_Port_Lists(Simulator& Sim) {
         const Menu_Item* Item = Sim.Main->mnuOpenForm(Index);
         if (!Item || !*Item->Checked) continue;
         Sim.State.Open_Form_Index = Index;
-        Rebuild_Port_List(Sim, *Sim.frmPosition_Instance[Index]);
+        if (Sensor_Form* Window = Sensor_Window(Sim, Index)) Rebuild_Port_List(Sim, *Window);
     }
     if (Sim.Traffic) Rebuild_Port_List(Sim, *Sim.Traffic);
 }

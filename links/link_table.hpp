@@ -12,7 +12,7 @@ namespace brinewright {
 
 // States of a socket element as its users test them.
 namespace socket_state {
-inline constexpr int Closed = 0, Listening = 2, Connected = 7, Closing = 8, Failed = 9;
+inline constexpr int Closed = 0, Listening = 2, Connected = 7, Closing = 8;
 } // namespace socket_state
 
 // One element of WinsockArray: the one that listens, a client, or a client that has gone. Elements are never
@@ -34,6 +34,7 @@ struct Link_Table {
     std::vector<std::string> Connection_History;     // what frmTCPIP lists
     std::unique_ptr<TCP_Connection> Gone_Connection; // the last one that went, see its closing
     Table<std::unique_ptr<UDP_Socket>, 0, 10> WinsockUDP;
+    std::unique_ptr<UDP_Socket> WinsockQuillon; // the control input, when it is on
     std::string Rx_Buffer; // received text without its line feed yet; one for all serial ports
 };
 

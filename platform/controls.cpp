@@ -177,6 +177,18 @@ void Scroll_Bar::User_Set(const Control_Value& V) {
                                       static_cast<double>(std::max<int>(*Min, *Max)))));
 }
 
+std::int64_t Scroll_Bar::Limited(std::int64_t Wanted) const {
+    return std::clamp<std::int64_t>(Wanted, std::min<int>(*Min, *Max), std::max<int>(*Min, *Max));
+}
+
+Slider::Slider(Form& F, std::string N, int At_Min, int At_Max, int Its_Tick_Step, int I)
+    : Scroll_Bar(F, std::move(N), At_Min, At_Max, 10, I), Tick_Step(Its_Tick_Step) {}
+void Slider::Set_Range(int At_Min, int At_Max) {
+    Min = At_Min;
+    Max = At_Max;
+    Set_Value(Value());
+}
+
 Option_Button::Option_Button(Form& F, Option_Group& Its_Group, std::string N, std::string Text, int I)
     : Visible_Control(F, Control_Kind::Option_Button, std::move(N), I), Group(Its_Group) {
     Caption = std::move(Text);

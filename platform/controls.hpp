@@ -138,8 +138,19 @@ struct Scroll_Bar : Visible_Control {
     Control_Value Current() const override { return static_cast<std::int64_t>(Position); }
     bool Can_Focus() const override { return true; }
 
+  protected:
+    std::int64_t Limited(std::int64_t Wanted) const;
+
   private:
     int Position = 0;
+};
+
+// A scroll bar with a scale that holds what code gives it within its range too.
+struct Slider : Scroll_Bar {
+    Slider(Form& F, std::string N, int At_Min, int At_Max, int Its_Tick_Step, int I = No_Index);
+    int Tick_Step; // of the scale
+    void Set_Value(std::int64_t New) { Scroll_Bar::Set_Value(Limited(New)); }
+    void Set_Range(int At_Min, int At_Max); // moves the value into it, which runs Change
 };
 
 struct Option_Group;

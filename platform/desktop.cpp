@@ -19,6 +19,7 @@ void Desktop::Show(std::shared_ptr<Form> Window, bool With_Focus) {
 void Desktop::Activate(Form& Window) {
     Active_Form = &Window;
     Window.Revision = ++Revision;
+    if (Window.On_Got_Focus) Window.On_Got_Focus();
 }
 
 void Desktop::Unload(Form& Window) {
@@ -60,8 +61,6 @@ Control* Desktop::Find_Control(std::string_view Full_Path) const {
     const Form* Window = Find_Form(Full_Path.substr(0, Dot));
     return Window ? Window->Find(Full_Path.substr(Dot + 1)) : nullptr;
 }
-
-bool Desktop::Is_Open(const Form& Window) const { return Window.Loaded; }
 
 bool Desktop::Usable(const Control& Target, std::string* Why) const {
     const auto Refuse = [&](const char* Reason) {
@@ -109,9 +108,9 @@ void Desktop::User_Set(Control& Target, const Control_Value& New) {
     if (Typed && Focus == &Target) Set_Focus(nullptr);
 }
 
-void Desktop::User_Key(Form& Window, int Key_Code) {
+void Desktop::User_Key(Form& Window, int Key_Code, Key_Modifiers Held) {
     if (!Window.Loaded) throw User_Refusal(Window.Path() + " is closed");
-    if (Window.Key_Preview && Window.On_Key_Down && Window.On_Key_Down(Key_Code)) return;
+    if (Window.Key_Preview && Window.On_Key_Down && Window.On_Key_Down(Key_Code, Held)) return;
     if (!Focus || &Focus->Owner != &Window) return;
     if (Focus->Kind == Control_Kind::Text_Box) {
         const auto& Box = static_cast<Text_Box&>(*Focus);

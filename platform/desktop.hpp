@@ -17,7 +17,7 @@ namespace brinewright {
 
 // Codes of the keys that handlers look at.
 namespace key {
-inline constexpr int Left = 37, Up = 38, Right = 39, Down = 40;
+inline constexpr int Page_Up = 33, Page_Down = 34, Left = 37, Up = 38, Right = 39, Down = 40;
 } // namespace key
 
 // A question for a file name. The answer may come much later; timers and output go on meanwhile.
@@ -59,7 +59,6 @@ class Desktop {
     void Unload(Form& Window);
     Form* Find_Form(std::string_view Form_Path) const;
     Control* Find_Control(std::string_view Full_Path) const; // frmPosition[1].chkGGA
-    bool Is_Open(const Form& Window) const;
 
     // What a user does. Disabled or hidden controls refuse with User_Refusal; a click first moves the focus,
     // so that the box that is left runs its Lost_Focus before.
@@ -67,7 +66,8 @@ class Desktop {
     void User_Focus(Control& Target);
     void User_Set(Control& Target, const Control_Value& New); // a text box: types and leaves it
     void User_Type(Control& Target, const std::string& Text); // types and stays
-    void User_Key(Form& Window, int Key_Code); // to the form with Key_Preview, then to the focus
+    // To the form with Key_Preview, then to the focus.
+    void User_Key(Form& Window, int Key_Code, Key_Modifiers Held = {});
     void User_Close(Form& Window);
     bool Usable(const Control& Target, std::string* Why = nullptr) const;
 

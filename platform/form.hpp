@@ -14,6 +14,13 @@ class Desktop;
 enum class Form_Kind { Main, Child, Dialog, Tool };
 enum class Window_State { Normal, Minimised, Maximised };
 
+// The keys that are held while another is pressed.
+struct Key_Modifiers {
+    bool Shift = false;
+    bool Ctrl = false;
+    bool Alt = false;
+};
+
 // A window as a record: its controls, its place, and what runs when it opens, closes or changes size. Lengths
 // are in twentieths of a point of the main window's client area.
 struct Form : std::enable_shared_from_this<Form> {
@@ -47,7 +54,9 @@ struct Form : std::enable_shared_from_this<Form> {
     std::vector<Control*> Controls; // in the order in which they are made
     std::function<void()> On_Unload;
     std::function<void()> On_Resize;
-    std::function<bool(int Key_Code)> On_Key_Down; // with Key_Preview; true = the key is used up
+    std::function<void()> On_Got_Focus; // the window itself was chosen
+    // With Key_Preview; true = the key is used up.
+    std::function<bool(int Key_Code, Key_Modifiers Held)> On_Key_Down;
 };
 
 } // namespace brinewright

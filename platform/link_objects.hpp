@@ -85,6 +85,9 @@ class UDP_Socket {
     // with the TTL and on the interface of the application settings. Throws Run_Time_Error with the system's
     // text.
     virtual void Open(const std::string& Remote_Host, std::int32_t Remote_Port) = 0;
+    // Opens it for receiving on Local_Port (1 to 65535) of every interface. Throws Run_Time_Error with the
+    // system's text, for instance when the port is taken.
+    virtual void Bind(std::int32_t Local_Port) = 0;
     virtual bool Is_Open() const = 0;
     virtual void Close() = 0;
     // Throws Run_Time_Error with the system's text. Never blocks.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/clock.hpp"
+#include "platform/joystick.hpp"
 #include "platform/link_objects.hpp"
 #include "platform/random_source.hpp"
 
@@ -46,6 +47,7 @@ class Platform {
     virtual std::unique_ptr<Serial_Port> Make_Serial_Port(int Com_Number) = 0; // 1 to 16
     virtual std::unique_ptr<TCP_Listener> Make_TCP_Listener() = 0;
     virtual std::unique_ptr<UDP_Socket> Make_UDP_Socket() = 0;
+    virtual Joystick& Stick() = 0;
     // The device behind a COM number, for the user to read; empty when there is none or it has no name.
     virtual std::string Device_Of(int Com_Number) = 0;
     virtual std::string Local_IP() const = 0; // dotted IPv4 address of this machine

@@ -63,6 +63,10 @@ class Memory_UDP_Socket : public UDP_Socket {
         Name = "UDP " + Remote_Host + ":" + std::to_string(Remote_Port);
         Require_Opening(Links, Name);
     }
+    void Bind(std::int32_t Local_Port) override {
+        Name = "UDP bound to " + std::to_string(Local_Port);
+        Require_Opening(Links, Name);
+    }
     bool Is_Open() const override { return !Name.empty(); }
     void Close() override { Name.clear(); }
     void Send(std::string_view Text) override {

@@ -70,6 +70,7 @@ class Virtual_Platform : public Platform {
     std::unique_ptr<Serial_Port> Make_Serial_Port(int Com_Number) override;
     std::unique_ptr<TCP_Listener> Make_TCP_Listener() override;
     std::unique_ptr<UDP_Socket> Make_UDP_Socket() override;
+    Joystick& Stick() override { return *Its_Joystick; }
     std::string Device_Of(int) override { return {}; }
     std::string Local_IP() const override { return "127.0.0.1"; }
     void Quit() override { Quitting = true; }
@@ -79,6 +80,7 @@ class Virtual_Platform : public Platform {
 
     Virtual_Clock Machine_Clock;
     Memory_Links Links;
+    std::unique_ptr<Joystick> Its_Joystick = std::make_unique<No_Joystick>(); // or one that plays a script
     bool Quitting = false;
 
   private:

@@ -1,6 +1,7 @@
 #include "platform_qt/qt_platform.hpp"
 
 #include "platform_qt/ipv4.hpp"
+#include "platform_qt/sdl_joystick.hpp"
 #include "platform_qt/serial_line.hpp"
 #include "platform_qt/tcp_server.hpp"
 #include "platform_qt/udp_link.hpp"
@@ -25,6 +26,7 @@ std::uint64_t Fresh_Seed() {
 Qt_Platform::Qt_Platform(Qt_Platform_Options Chosen)
     : Options(std::move(Chosen)), Its_Settings(Options.Settings_File), Devices(Load_Com_Table(Its_Settings)) {
     Random.Seed(Options.Seed ? *Options.Seed : Fresh_Seed());
+    Its_Joystick = std::make_unique<SDL_Stick>(Machine);
     Look_For_Devices();
 }
 

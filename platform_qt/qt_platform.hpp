@@ -33,6 +33,7 @@ class Qt_Platform final : public Platform {
     std::unique_ptr<Serial_Port> Make_Serial_Port(int Com_Number) override;
     std::unique_ptr<TCP_Listener> Make_TCP_Listener() override;
     std::unique_ptr<UDP_Socket> Make_UDP_Socket() override;
+    Joystick& Stick() override { return *Its_Joystick; }
     std::string Device_Of(int Com_Number) override { return Com_Device(Com_Number); }
     std::string Local_IP() const override;
     void Quit() override; // also before the event loop has started: then it ends at its start
@@ -40,6 +41,8 @@ class Qt_Platform final : public Platform {
     // The device behind a COM number, empty when there is none. A number without a device makes it look for
     // devices that were plugged in meanwhile.
     std::string Com_Device(int Com_Number);
+
+    std::unique_ptr<Joystick> Its_Joystick; // the machine's, or one that plays a script
 
   private:
     void Look_For_Devices();

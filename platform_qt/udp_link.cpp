@@ -24,6 +24,12 @@ void Set_Option(const Unique_Fd& Socket, int Level, int Option, const T& Value) 
     if (::setsockopt(Socket.Get(), Level, Option, &Value, sizeof Value) != 0) Throw_System_Error(errno);
 }
 
+Unique_Fd Make_Socket() {
+    Unique_Fd Fresh(::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    if (!Fresh) Throw_System_Error(errno);
+    return Fresh;
+}
+
 int Multicast_TTL(const App_Settings& Settings) {
     const std::string Text = Settings.Get("UDP_Multicast_TTL", "1");
     int TTL = -1;
@@ -57,12 +63,26 @@ void Socket_UDP::Open(const std::string& Remote_Host, std::int32_t Remote_Port) 
     const auto Host = Parse_IPv4(Remote_Host);
     if (!Host) throw Run_Time_Error("\"" + Remote_Host + "\" is not an IPv4 address.");
     Require_Port(Remote_Port);
-    Unique_Fd Fresh(::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    if (!Fresh) Throw_System_Error(errno);
+    Unique_Fd Fresh = Make_Socket();
     Set_Option(Fresh, SOL_SOCKET, SO_BROADCAST, 1);
     if (Is_Multicast(*Host)) Set_Multicast(Fresh, Settings);
-    Socket = std::move(Fresh);
-    Remote = IPv4_Address(*Host, Remote_Port);
+    Use(std::move(Fresh), IPv4_Address(*Host, Remote_Port));
+}
+
+void Socket_UDP::Bind(std::int32_t Local_Port) {
+    Close();
+    Require_Port(Local_Port);
+    Unique_Fd Fresh = Make_Socket();
+    // Not shared: of two programs that steer by one port, only one would hear anything.
+    const sockaddr_in Local = IPv4_Address({htonl(INADDR_ANY)}, Local_Port);
+    if (::bind(Fresh.Get(), reinterpret_cast<const sockaddr*>(&Local), sizeof Local) != 0)
+        Throw_System_Error(errno);
+    Use(std::move(Fresh), {});
+}
+
+void Socket_UDP::Use(Unique_Fd Opened, sockaddr_in Its_Remote) {
+    Socket = std::move(Opened);
+    Remote = Its_Remote;
     Watch = Watch_Fd(Socket.Get(), QSocketNotifier::Read, [this] { Take_Datagram(); });
 }
 
@@ -92,8 +112,10 @@ void Socket_UDP::Take_Datagram() {
     std::array<char, Largest_Datagram_Bytes> Buffer;
     const ssize_t Count = ::recv(Socket.Get(), Buffer.data(), Buffer.size(), MSG_DONTWAIT);
     if (Count < 0) return;
-    // A datagram that finds no room is told of all the same: there is something to read.
-    if (Received.size() < Kept_Datagrams)
+    // A datagram that finds no room is told of all the same: there is something to read. An empty one is told
+    // and not kept, since Receive says the same of it as of none: a reader of all that waits would stop
+    // there.
+    if (Count > 0 && Received.size() < Kept_Datagrams)
         Received.emplace_back(Buffer.data(), static_cast<std::size_t>(Count));
     if (const auto Tell = On_Data_Arrival) Tell();
 }

@@ -24,12 +24,14 @@ class Socket_UDP final : public UDP_Socket {
     explicit Socket_UDP(const App_Settings& Its_Settings) : Settings(Its_Settings) {}
 
     void Open(const std::string& Remote_Host, std::int32_t Remote_Port) override;
+    void Bind(std::int32_t Local_Port) override;
     bool Is_Open() const override { return static_cast<bool>(Socket); }
     void Close() override;
     void Send(std::string_view Text) override;
     std::string Receive() override;
 
   private:
+    void Use(Unique_Fd Opened, sockaddr_in Its_Remote);
     void Take_Datagram();
 
     const App_Settings& Settings;

@@ -3,6 +3,7 @@
 #include "gnss/frm_position.hpp"
 #include "links/serial_ports.hpp"
 #include "links/setup_file.hpp"
+#include "ownship/ship/frm_ship.hpp"
 #include "shell/form_position.hpp"
 #include "shell/frm_main.hpp"
 #include "shell/simulator.hpp"
@@ -23,6 +24,7 @@ void Show_Failure(Simulator& Sim, const std::string& Text) {
 // Both save commands add the open sensor windows to the list. Save leaves the count as it stands, on purpose:
 // that many saves in one run end in a subscript failure is known.
 void Add_Open_Windows(Simulator& Sim) {
+    if (Sim.Ship) Save_Form_Position(Sim, *Sim.Ship);
     for (std::int16_t Index = 1; Index <= 11; ++Index) {
         const Menu_Item* Item = Sim.Main->mnuOpenForm(Index);
         if (!Item || !*Item->Checked) continue;
@@ -54,6 +56,7 @@ void Unload_Sensor_Windows(Simulator& Sim) {
 
 void Open_Existing_Setup(Simulator& Sim, const std::string& File) {
     for (int Port = 1; Port <= Last_Closed_Port; ++Port) Close_Comport(Sim, Port);
+    if (Sim.Ship) Sim.Windows.Event([&] { Sim.Windows.Unload(*Sim.Ship); });
     Unload_Sensor_Windows(Sim);
     Load_Setup(Sim, File);
     Repair_Talkers(Sim.State);
@@ -61,7 +64,7 @@ void Open_Existing_Setup(Simulator& Sim, const std::string& File) {
     Show_Mode(Sim);
     for (int I = 1; I <= Sim.State.Open_Form_Count; ++I) {
         const std::int16_t Index = Sim.State.Open_Form_List[I].Index;
-        if (Index != 0) Sim.Windows.Event([&] { mnuOpenForm_Click(Sim, Index); });
+        Sim.Windows.Event([&] { Open_Kept_Window(Sim, Index); });
     }
     Sim.State.Open_Form_Count = 0;
 }

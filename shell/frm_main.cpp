@@ -4,6 +4,12 @@
 #include "gnss/frm_position.hpp"
 #include "links/frm_iec61162.hpp"
 #include "links/frm_setup.hpp"
+#include "ownship/ship/frm_ship.hpp"
+#include "ownship/ship/frm_ship_setup.hpp"
+#include "sensors/frm_echosounder.hpp"
+#include "sensors/frm_gyro.hpp"
+#include "sensors/frm_log.hpp"
+#include "sensors/frm_wind.hpp"
 #include "shell/file_menu.hpp"
 #include "shell/form_position.hpp"
 #include "shell/frm_extended_monitor.hpp"
@@ -64,14 +70,70 @@ void mnuHelp_Click(Simulator& Sim) {
     Sim.Windows.Boxes.Show("Unable to display Help Contents. There is no Help associated with this project.");
 }
 
-std::string GNSS_Caption(int Instance) {
-    return "GNSS " + Number_Text(Instance) + "    (Global Nav Sat System" + Number_Text(Instance) + ")";
+constexpr float Log_Width = 2800; // twentieths of a point
+
+// What the sensor windows of one kind differ in, seen from the menu. They exist twice.
+struct Window_Kind {
+    int First_Form_Index;
+    const char* Menu_Name; // of both, "GNSS 1" and "GNSS 2"
+    std::shared_ptr<Sensor_Form> (*Load)(Simulator&);
+    Sensor_Form* (*Open_One)(const Simulator&, int Instance);
+    const char* Caption; // before the instance number
+    float Width;         // that its opening gives it; 0 = its own
+};
+
+template <auto Instances>
+Sensor_Form* Open_One(const Simulator& Sim, int Instance) {
+    return (Sim.*Instances)[Instance].get();
+}
+
+constexpr std::array<Window_Kind, 5> Window_Kinds{{
+    {form_index::GNSS_1, "GNSS", Load_frmPosition, Open_One<&Simulator::frmPosition_Instance>, "GNSS ", 0},
+    {form_index::Gyro_1, "Gyro", Load_frmGyro, Open_One<&Simulator::frmGyro_Instance>, "Gyro ", 0},
+    {form_index::Log_1, "Log", Load_frmLog, Open_One<&Simulator::frmLog_Instance>, "Log ", Log_Width},
+    {form_index::Echosounder_1, "Echosounder", Load_frmEchosounder,
+     Open_One<&Simulator::frmEchosounder_Instance>, "Echosounder ", 0},
+    {form_index::Wind_1, "Wind Gauge", Load_frmWind, Open_One<&Simulator::frmWind_Instance>, "Wind gauge ",
+     0},
+}};
+
+// Null for form indices whose window does not exist.
+const Window_Kind* Kind_Of(int Form_Index) {
+    for (const Window_Kind& Kind : Window_Kinds)
+        if (Form_Index == Kind.First_Form_Index || Form_Index == Kind.First_Form_Index + 1) return &Kind;
+    return nullptr;
+}
+
+// The window that gets the focus when an open one is chosen again. For the echo sounders it is the log of the
+// same number, if it is open: this slip is required.
+Sensor_Form* Window_To_Focus(const Simulator& Sim, int Form_Index) {
+    const bool Echosounder =
+        Form_Index == form_index::Echosounder_1 || Form_Index == form_index::Echosounder_1 + 1;
+    const int Shown = Echosounder ? Form_Index - form_index::Echosounder_1 + form_index::Log_1 : Form_Index;
+    return Sensor_Window(Sim, static_cast<std::int16_t>(Shown));
+}
+
+// An event of its own: keeping the place fails when the list of places is full. That is told, and what
+// follows goes on all the same.
+void Close_In_Event(Simulator& Sim, Form& Window) {
+    Sim.Windows.Event([&] { Sim.Windows.Unload(Window); });
+}
+
+std::string Window_Caption(const Window_Kind& Kind, int Instance) {
+    std::string Text = Kind.Caption + Number_Text(Instance);
+    if (Kind.First_Form_Index == form_index::GNSS_1)
+        Text += "    (Global Nav Sat System" + Number_Text(Instance) + ")";
+    return Text;
 }
 
 } // namespace
 
 frmMain::frmMain(Desktop& Its_Windows)
     : Form(Its_Windows, "frmMain", 0, Form_Kind::Main), sbStatusBar(*this, "sbStatusBar", "") {
+    for (const Window_Kind& Windows_Alike : Window_Kinds)
+        for (const int Which : {1, 2})
+            mnuOpenForm_Items[Windows_Alike.First_Form_Index + Which - 1].Caption =
+                Windows_Alike.Menu_Name + Number_Text(Which);
     for (int Port = 1; Port <= 16; ++Port) {
         sbStatusBar[Port].Caption = "COM" + Number_Text(Port);
         sbStatusBar[Port].Visible = false;
@@ -81,11 +143,7 @@ frmMain::frmMain(Desktop& Its_Windows)
 }
 
 Menu_Item* frmMain::mnuOpenForm(int Form_Index) {
-    switch (Form_Index) {
-    case 1: return &mnuOpenForm_GNSS1;
-    case 2: return &mnuOpenForm_GNSS2;
-    default: return nullptr;
-    }
+    return Kind_Of(Form_Index) ? &mnuOpenForm_Items[Form_Index] : nullptr;
 }
 
 void Wire_Menus(Simulator& Sim) {
@@ -96,9 +154,11 @@ void Wire_Menus(Simulator& Sim) {
     F.mnuFileExit.Click = [&Sim] { Sim.Windows.Unload(*Sim.Main); };
     F.mnuMode_Ship.Click = [&Sim] { mnuMode_Click(Sim, 1); };
     F.mnuMode_Sensor.Click = [&Sim] { mnuMode_Click(Sim, 2); };
+    F.mnuSetupShip.Click = [&Sim] { mnuSetupShip_Click(Sim); };
     F.mnuSetupStartOption.Click = [&Sim] { mnuSetupStartOption_Click(Sim); };
     F.mnuSetupPort.Click = [&Sim] { mnuSetupPort_Click(Sim); };
     F.mnuSetupLatLonFormat.Click = [&Sim] { mnuSetupLatLonFormat_Click(Sim); };
+    F.mnuShip.Click = [&Sim] { mnuShip_Click(Sim); };
     for (std::int16_t Index = 1; Index <= 11; ++Index)
         if (Menu_Item* Item = F.mnuOpenForm(Index))
             Item->Click = [&Sim, Index] { mnuOpenForm_Click(Sim, Index); };
@@ -112,30 +172,41 @@ void Wire_Menus(Simulator& Sim) {
     F.mnuHelpSearch.Click = [&Sim] { mnuHelp_Click(Sim); };
 }
 
-Form* Sensor_Window(Simulator& Sim, std::int16_t Form_Index) {
-    if (Form_Index == 1 || Form_Index == 2) return Sim.frmPosition_Instance[Form_Index].get();
-    return nullptr;
+Sensor_Form* Sensor_Window(const Simulator& Sim, std::int16_t Form_Index) {
+    const Window_Kind* Kind = Kind_Of(Form_Index);
+    return Kind ? Kind->Open_One(Sim, Form_Index - Kind->First_Form_Index + 1) : nullptr;
 }
 
 void mnuOpenForm_Click(Simulator& Sim, std::int16_t Form_Index) {
-    Menu_Item* Item = Sim.Main->mnuOpenForm(Form_Index);
-    if (!Item) return; // a setup may name windows that do not exist here
+    const Window_Kind* Kind = Kind_Of(Form_Index);
+    if (!Kind) return; // a setup may name windows that do not exist here
+    Menu_Item& Item = *Sim.Main->mnuOpenForm(Form_Index);
     Sim.State.Open_Form_Index = Form_Index;
-    if (*Item->Checked) {
-        if (Form* Window = Sensor_Window(Sim, Form_Index)) Sim.Windows.Activate(*Window);
+    if (*Item.Checked) {
+        if (Form* Window = Window_To_Focus(Sim, Form_Index)) Sim.Windows.Activate(*Window);
         return;
     }
-    Item->Checked = true;
-    std::shared_ptr<Form> Window = Load_frmPosition(Sim);
+    Item.Checked = true;
+    const std::shared_ptr<Sensor_Form> Window = Kind->Load(Sim);
     if (Sim.State.Open_Form_Count != 0) Restore_Form_Position(Sim, *Window, Form_Index);
     Sim.Windows.Show(Window);
-    Window->Set_Caption(GNSS_Caption(Form_Index));
+    Window->Set_Caption(Window_Caption(*Kind, Window->Instance));
+    if (Kind->Width > 0) Window->Resize(Kind->Width, Window->Height);
+}
+
+void Open_Kept_Window(Simulator& Sim, std::int16_t Index) {
+    if (Index == 0)
+        mnuShip_Click(Sim);
+    else
+        mnuOpenForm_Click(Sim, Index);
 }
 
 void Show_Mode(Simulator& Sim) {
     const bool Ship = Sim.State.Mode == "Ship";
     Sim.Main->mnuMode_Ship.Checked = Ship;
     Sim.Main->mnuMode_Sensor.Checked = !Ship;
+    Sim.Main->mnuShip.Enabled = Ship;
+    Sim.Main->mnuSetupShip.Enabled = Ship;
 }
 
 void mnuMode_Click(Simulator& Sim, int Index) {
@@ -150,14 +221,19 @@ void mnuMode_Click(Simulator& Sim, int Index) {
     For_Open_Windows([&Sim](std::int16_t Form_Index) { mnuOpenForm_Click(Sim, Form_Index); });
     Sim.State.Mode = Index == 1 ? "Ship" : "Sensor";
     Show_Mode(Sim);
+    // Windows that close keep their place in the list of open windows, and take it from there when they open
+    // again. They stand again afterwards, so the list ends as it was: it has room for 20.
+    const std::int16_t Kept_Places = Sim.State.Open_Form_Count;
+    if (Index == 1)
+        mnuShip_Click(Sim);
+    else if (Sim.Ship)
+        Close_In_Event(Sim, *Sim.Ship);
     // The unload clears the check, so that the call loads the window anew, in the new mode.
     For_Open_Windows([&Sim](std::int16_t Form_Index) {
-        // An event of its own: keeping the place fails when the list of places is full. That is told, and the
-        // window opens again all the same.
-        if (Form* Window = Sensor_Window(Sim, Form_Index))
-            Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
+        if (Form* Window = Sensor_Window(Sim, Form_Index)) Close_In_Event(Sim, *Window);
         mnuOpenForm_Click(Sim, Form_Index);
     });
+    Sim.State.Open_Form_Count = Kept_Places;
 }
 
 } // namespace brinewright

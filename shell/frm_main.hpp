@@ -9,6 +9,7 @@
 namespace brinewright {
 
 struct Simulator;
+struct Sensor_Form;
 
 inline constexpr const char* Version_Text = "7.00 2026-04-21";
 
@@ -23,12 +24,13 @@ struct frmMain : Form {
     Menu_Item mnuFileExit{*this, "mnuFileExit", "E&xit", "File"};
     Menu_Item mnuMode_Ship{*this, "mnuMode", "&Ship simulator", "Mode", 1};
     Menu_Item mnuMode_Sensor{*this, "mnuMode", "S&ensor", "Mode", 2};
+    Menu_Item mnuSetupShip{*this, "mnuSetupShip", "Ship setup", "Setup"};
     Menu_Item mnuSetupStartOption{*this, "mnuSetupStartOption", "Start with navdata from last session",
                                   "Setup"};
     Menu_Item mnuSetupPort{*this, "mnuSetupPort", "Com setup", "Setup"};
     Menu_Item mnuSetupLatLonFormat{*this, "mnuSetupLatLonFormat", "Lat/Lon format", "Setup"};
-    Menu_Item mnuOpenForm_GNSS1{*this, "mnuOpenForm", "GNSS 1", "Window", 1};
-    Menu_Item mnuOpenForm_GNSS2{*this, "mnuOpenForm", "GNSS 2", "Window", 2};
+    Menu_Item mnuShip{*this, "mnuShip", "Ship simulator", "Window"};
+    Control_Array<Menu_Item, 1, 10> mnuOpenForm_Items{*this, "mnuOpenForm", "", "Window"};
     Menu_Item mnuMonitor{*this, "mnuMonitor", "Comport monitor", "Window"};
     Menu_Item mnuExtendedMonitor{*this, "mnuExtendedMonitor", "Extended Comport monitor", "Window"};
     Menu_Item mnuTraffic{*this, "mnuTraffic", "Traffic", "Window"};
@@ -45,6 +47,7 @@ struct frmMain : Form {
 
     Control_Array<Label, 1, 16> sbStatusBar; // one panel for each serial port
     Timer timer_Sky{*this, "timer_Sky"};
+    bool Control_Input_Warned = false; // the control input has told that it needs Ship mode
     std::vector<std::unique_ptr<Timer>> timerTCPIP_StateCheck; // one for each element of WinsockArray
 
     // Null for form indices whose window does not exist.
@@ -57,10 +60,13 @@ void MDIForm_Load(Simulator& Sim);
 // Opens sensor window Form_Index (1 to 11) or gives it the focus.
 void mnuOpenForm_Click(Simulator& Sim, std::int16_t Form_Index);
 
-// The open sensor window of a form index; null when it is closed or does not exist.
-Form* Sensor_Window(Simulator& Sim, std::int16_t Form_Index);
+// Opens the window of an entry of Open_Form_List: a sensor window, or the ship window for 0.
+void Open_Kept_Window(Simulator& Sim, std::int16_t Index);
 
-// Sets the checks of the mode menu from Mode.
+// The open sensor window of a form index; null when it is closed or does not exist.
+Sensor_Form* Sensor_Window(const Simulator& Sim, std::int16_t Form_Index);
+
+// Sets the checks of the mode menu from Mode, and what is enabled in Ship mode only.
 void Show_Mode(Simulator& Sim);
 
 void Wire_Menus(Simulator& Sim);

@@ -5,6 +5,7 @@
 #include "sentences/number_pattern.hpp"
 #include "shell/frm_main.hpp"
 #include "shell/send_nmea.hpp"
+#include "shell/sensor_form.hpp"
 #include "shell/simulator.hpp"
 
 #include <algorithm>
@@ -45,6 +46,7 @@ void Check_Box_Click(Sentence_Family& Family, Sentence_Line& Line) {
 
 void Interval_List_Click(Sentence_Line& Line) {
     *Line.Interval = static_cast<std::int16_t>(Line.Interval_List->List_Index());
+    if (Line.After_Interval) Line.After_Interval();
     if (Line.Box->Value()) Restart(Line);
 }
 
@@ -108,7 +110,7 @@ void Send_Sentence(Simulator& Sim, std::string Text, int Form_Index, std::int16_
     if (Sim.State.IEC450_Enabled && Exists) Make_UdPbC_Header(Sim, Text, Port, Line, Lines);
     Send_NMEA(Sim, Text, Port);
     Sim.Last_Sentence[Form_Index] = std::move(Text);
-    if (Form* Window = Sensor_Window(Sim, static_cast<std::int16_t>(Form_Index)))
+    if (Sensor_Form* Window = Sensor_Window(Sim, static_cast<std::int16_t>(Form_Index)))
         Window->Revision = ++Sim.Windows.Revision;
 }
 

@@ -41,6 +41,8 @@ struct Sentence_Row {
     void (*After_Check)(Simulator&, Window&); // what else follows a click on its box; may be null
     Per_Instance<bool> Message_State::*Enabled;
     Per_Instance<std::int16_t> Message_State::*Interval;
+    // What else follows the choice of an interval, before its timer restarts.
+    void (*After_Interval)(Simulator&, Window&) = nullptr;
 };
 
 // A row at work in an open window.
@@ -55,6 +57,7 @@ struct Sentence_Line {
     int Start_Place = 0;
     bool Stopped_By_Pause = false;
     Handler After_Check;
+    Handler After_Interval;
     bool* Enabled = nullptr; // the instance's elements of the public tables
     std::int16_t* Interval = nullptr;
 };
@@ -92,6 +95,7 @@ void Wire_Sentences(Sentence_Family& Family, std::span<const Sentence_Row<Window
         Line.Start_Place = Row.Start_Place;
         Line.Stopped_By_Pause = Row.Stopped_By_Pause;
         if (Row.After_Check) Line.After_Check = [&Row, &Sim, &W] { Row.After_Check(Sim, W); };
+        if (Row.After_Interval) Line.After_Interval = [&Row, &Sim, &W] { Row.After_Interval(Sim, W); };
         Line.Enabled = &(Settings.*Row.Enabled)[Instance];
         Line.Interval = &(Settings.*Row.Interval)[Instance];
         Line.Clock->Tick = [&Row, &Sim, &W] { Row.Tick(Sim, W); };

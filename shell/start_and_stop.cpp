@@ -1,13 +1,15 @@
 #include "gnss/gnss_sky.hpp"
+#include "links/control_input.hpp"
 #include "links/frm_setup.hpp"
 #include "links/serial_ports.hpp"
 #include "links/setup_file.hpp"
+#include "ownship/ship/frm_ship.hpp"
+#include "ownship/ship/joystick.hpp"
+#include "sentences/number_pattern.hpp"
 #include "shell/file_menu.hpp"
 #include "shell/frm_main.hpp"
 #include "shell/simulator.hpp"
 #include "shell/talker_defaults.hpp"
-
-#include "sentences/number_pattern.hpp"
 
 #include <array>
 
@@ -72,10 +74,9 @@ void Keep_Main_Place(Simulator& Sim) {
 void Open_Saved_Windows(Simulator& Sim) {
     for (int I = 1; I <= Sim.State.Open_Form_Count; ++I) {
         const std::int16_t Index = Sim.State.Open_Form_List[I].Index;
-        if (Index == 0) continue; // the ship window, which opens without a wait, does not exist here
-        Sim.Timers.Spin_us(Window_Stagger_us);
+        if (Index != 0) Sim.Timers.Spin_us(Window_Stagger_us);
         // An event of its own: a window that fails to open is told in a box, and the others open.
-        Sim.Windows.Event([&] { mnuOpenForm_Click(Sim, Index); });
+        Sim.Windows.Event([&] { Open_Kept_Window(Sim, Index); });
     }
     Sim.State.Open_Form_Count = 0;
 }
@@ -100,6 +101,7 @@ void MDIForm_Load(Simulator& Sim) {
     frmMain& Main = *Sim.Main;
     S.Instance_Number = Sim.Options.Instance_Number;
     S.Data_Folder = Sim.Options.Data_Folder;
+    S.Control_Input_Enabled = Sim.Options.Control_Input;
     // Without the folder the program still starts: the setup may stand elsewhere, and its save must not be of
     // nothing.
     Sim.Windows.Event([&] { Sim.Services.Disk().Make_Folder(S.Data_Folder); });
@@ -112,9 +114,12 @@ void MDIForm_Load(Simulator& Sim) {
     Main.Set_Caption(Main_Caption(Sim));
     Place_Main_Window(Sim);
     Show_Mode(Sim);
+    if (S.Mode == "Ship") Sim.Windows.Event([&] { mnuShip_Click(Sim); }); // before the sensors that it drives
     Open_Saved_Windows(Sim);
+    Joystick_Present(Sim, First_Joystick);
     Main.mnuSetupStartOption.Checked = S.Start_With_Last_Navdata;
     Main.mnuOptionIEC450.Checked = S.IEC450_Enabled;
+    if (S.Control_Input_Enabled) Start_Control_Input(Sim);
 }
 
 Simulator::Simulator(Platform& Its_Platform, Start_Options Its_Options)

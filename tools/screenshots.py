@@ -11,8 +11,8 @@ import time
 
 PALETTES = ("Day", "Dusk", "Night")
 
-# What is done before the pictures; then each window and how it is opened.
-PREPARE = [
+# For each setup: what is done before the pictures; then each window, the name of its picture and how it is opened.
+SENSOR_PREPARE = [
     ("set", {"path": "frmPosition[1].txtSOG", "value": "12.4"}),
     ("set", {"path": "frmPosition[1].txtCOG", "value": "47.0"}),
     ("click", {"path": "frmPosition[1].cmdStart"}),
@@ -24,7 +24,44 @@ PREPARE = [
     ("advance", {"seconds": 21}),
     ("set", {"path": "frmTraffic.hfgTraffic", "value": 20}),
 ]
-WINDOWS = [
+GYRO = [
+    ("click", {"path": "frmMain.mnuOpenForm(3)"}),
+    ("set", {"path": "frmGyro[1].cmbComPort", "value": "TCP/IP"}),
+    ("set", {"path": "frmGyro[1].txtHDG", "value": "312.5"}),
+    ("set", {"path": "frmGyro[1].txtROT", "value": "-12.0"}),
+    ("set", {"path": "frmGyro[1].txtRoll", "value": "8.5"}),
+    ("set", {"path": "frmGyro[1].txtPitch", "value": "-3.0"}),
+    ("set", {"path": "frmGyro[1].chkHDT", "value": True}),
+    ("set", {"path": "frmGyro[1].chkROT", "value": True}),
+    ("set", {"path": "frmGyro[1].chkPRDID", "value": True}),
+    ("click", {"path": "frmGyro[1].cmdStart"}),
+    ("advance", {"seconds": 6}),
+]
+LOG = [
+    ("click", {"path": "frmMain.mnuOpenForm(5)"}),
+    ("set", {"path": "frmLog[1].cmbComPort", "value": "TCP/IP"}),
+    ("set", {"path": "frmLog[1].txtSpeed", "value": "12.3"}),
+    ("set", {"path": "frmLog[1].chkVHW", "value": True}),
+    ("set", {"path": "frmLog[1].chkVLW", "value": True}),
+    ("advance", {"seconds": 6}),
+]
+ECHOSOUNDER = [
+    ("click", {"path": "frmMain.mnuOpenForm(7)"}),
+    ("set", {"path": "frmEchosounder[1].cmbComPort", "value": "TCP/IP"}),
+    ("set", {"path": "frmEchosounder[1].txtDepth", "value": "86.4"}),
+    ("set", {"path": "frmEchosounder[1].chkDPT", "value": True}),
+    ("advance", {"seconds": 6}),
+]
+WIND = [
+    ("click", {"path": "frmMain.mnuOpenForm(9)"}),
+    ("set", {"path": "frmWind[1].cmbComPort", "value": "TCP/IP"}),
+    ("set", {"path": "frmWind[1].txtHDG", "value": "270"}),
+    ("set", {"path": "frmWind[1].txtSpeed", "value": "18.5"}),
+    ("set", {"path": "frmWind[1].chkMWV", "value": True}),
+    ("set", {"path": "frmWind[1].chkMWD", "value": True}),
+    ("advance", {"seconds": 6}),
+]
+SENSOR_WINDOWS = [
     ("frmPosition[1]", "gnss", []),
     ("frmPosition[1]", "gnss-wide", [
         ("set", {"path": "frmPosition[1].chkGST", "value": True}), ("advance", {"seconds": 1})]),
@@ -33,6 +70,10 @@ WINDOWS = [
     ("frmMonitor", "monitor", []),
     ("frmExtendedMonitor", "extended-monitor", []),
     ("frmTCPIP", "tcpip", []),
+    ("frmGyro[1]", "gyro", GYRO),
+    ("frmLog[1]", "log", LOG),
+    ("frmEchosounder[1]", "echosounder", ECHOSOUNDER),
+    ("frmWind[1]", "wind-sensor-mode", WIND),
     ("frmGNSS[1]", "gnss-configuration", [("click", {"path": "frmPosition[1].cmdGNSS"})]),
     ("frmIEC61162", "iec61162-450", [("click", {"path": "frmMain.mnuOptionIEC450"})]),
     ("frmGeoFormat", "position-format", [("click", {"path": "frmMain.mnuSetupLatLonFormat"})]),
@@ -43,6 +84,23 @@ WINDOWS = [
         ("close", {"path": "frmGNSS[1]"}), ("close", {"path": "frmComportInfo"}),
         ("click", {"path": "frmMain.mnuOptionsFaultyChecksum"})]),
 ]
+SHIP_PREPARE = [("advance", {"seconds": 25})]
+SHIP_WINDOWS = [
+    ("frmShip", "ship", []),
+    ("frmPosition[1]", "gnss-ship-mode", []),
+    ("frmGyro[1]", "gyro-ship-mode", []),
+    ("frmLog[1]", "log-ship-mode", []),
+    ("frmEchosounder[1]", "echosounder-ship-mode", []),
+    ("frmWind[1]", "wind", []),
+    ("frmMain", "main", []),
+    ("frmShipSetup", "ship-setup", [("click", {"path": "frmMain.mnuSetupShip"})]),
+    ("frmSetSOG", "set-sog", [("click", {"path": "frmShip.cmdSetSOG"})]),
+    ("frmShip", "ship-frozen-keyboard", [
+        ("close", {"path": "frmShipSetup"}), ("close", {"path": "frmSetSOG"}),
+        ("click", {"path": "frmShip.cmdFreeze"}), ("click", {"path": "frmShip.cmdPause"}),
+        ("click", {"path": "frmShip.cmdArrows"})]),
+]
+RUNS = [("sensor.ini", SENSOR_PREPARE, SENSOR_WINDOWS), ("demo.ini", SHIP_PREPARE, SHIP_WINDOWS)]
 
 
 class Automation:
@@ -71,22 +129,22 @@ class Automation:
         return answer["result"]
 
 
-def picture_palette(bin_dir, root, pictures, palette):
+def picture_palette(bin_dir, root, pictures, palette, setup, prepare, windows):
     with tempfile.TemporaryDirectory() as folder:
         screen = {"name": "bench", "x": 0, "y": 0, "width": 1366, "height": 768, "logicalDpi": 96, "dpr": 1}
         (pathlib.Path(folder) / "screen.json").write_text(json.dumps({"screens": [screen]}))
         (pathlib.Path(folder) / "application-settings.ini").write_text(f"[Settings]\nPalette={palette}\n")
         path = folder + "/automation"
         program = subprocess.Popen(
-            [f"{bin_dir}/brinewright", "--setup", f"{root}/examples/demo.ini", "--no-save", "--data-folder", folder,
+            [f"{bin_dir}/brinewright", "--setup", f"{root}/examples/{setup}", "--no-save", "--data-folder", folder,
              "--automation", path, "--virtual", "--start-time", "2026-06-21T10:15:00", "--seed", "7"],
             env={**os.environ, "QT_QPA_PLATFORM": f"offscreen:configfile={folder}/screen.json", "QT_LOGGING_RULES": "*=false"},
             stderr=subprocess.DEVNULL)
         try:
             drive = Automation(path, program)
-            for method, params in PREPARE:
+            for method, params in prepare:
                 drive.call(method, params)
-            for form, name, steps in WINDOWS:
+            for form, name, steps in windows:
                 for method, params in steps:
                     drive.call(method, params)
                 drive.call("grab", {"path": form, "file": f"{pictures}/{name}-{palette.lower()}.png"})
@@ -100,8 +158,9 @@ def picture_palette(bin_dir, root, pictures, palette):
 def main():
     bin_dir, root, pictures = sys.argv[1:]
     for palette in PALETTES:
-        picture_palette(bin_dir, root, pictures, palette)
-    print(len(PALETTES) * len(WINDOWS), "pictures in", pictures)
+        for setup, prepare, windows in RUNS:
+            picture_palette(bin_dir, root, pictures, palette, setup, prepare, windows)
+    print(len(PALETTES) * sum(len(windows) for _, _, windows in RUNS), "pictures in", pictures)
 
 
 main()

@@ -300,6 +300,23 @@ void Form_View::paintEvent(QPaintEvent* Wanted) {
     QPainter(this).fillRect(Wanted->rect(), Colours.Colour(Token::Panel));
 }
 
+// True: the form takes it, so the control that has the focus does not see it.
+bool Form_View::Preview_Key(const QKeyEvent& Pressed) {
+    const auto F = Source.lock();
+    if (!F->Key_Preview) return false;
+    static constexpr std::pair<Qt::Key, int> Codes[] = {
+        {Qt::Key_Left, key::Left}, {Qt::Key_Up, key::Up},          {Qt::Key_Right, key::Right},
+        {Qt::Key_Down, key::Down}, {Qt::Key_PageUp, key::Page_Up}, {Qt::Key_PageDown, key::Page_Down}};
+    const auto* Row = std::find_if(std::begin(Codes), std::end(Codes),
+                                   [&](const auto& R) { return R.first == Pressed.key(); });
+    if (Row == std::end(Codes)) return false;
+    const Qt::KeyboardModifiers Held = Pressed.modifiers();
+    const Key_Modifiers Told{Held.testFlag(Qt::ShiftModifier), Held.testFlag(Qt::ControlModifier),
+                             Held.testFlag(Qt::AltModifier)};
+    Act([&](Desktop& D) { D.User_Key(*F, Row->second, Told); });
+    return true;
+}
+
 bool Form_View::eventFilter(QObject* Watched, QEvent* Happened) {
     Control* C = Source.expired() ? nullptr : Control_Of(Watched);
     if (!C) return QWidget::eventFilter(Watched, Happened);
@@ -313,17 +330,7 @@ bool Form_View::eventFilter(QObject* Watched, QEvent* Happened) {
         const bool Left = static_cast<QMouseEvent*>(Happened)->button() == Qt::LeftButton;
         Act([C, Left](Desktop& D) { D.User_Click(*C, Left ? Mouse_Button::Left : Mouse_Button::Right); });
     } else if (Happened->type() == QEvent::KeyPress) {
-        const auto F = Source.lock();
-        const int Key = static_cast<QKeyEvent*>(Happened)->key();
-        const std::pair<int, int> Codes[] = {{Qt::Key_Left, key::Left},
-                                             {Qt::Key_Up, key::Up},
-                                             {Qt::Key_Right, key::Right},
-                                             {Qt::Key_Down, key::Down}};
-        for (const auto& [Qt_Key, Code] : Codes)
-            if (Key == Qt_Key && F->Key_Preview) {
-                Act([&F, Code = Code](Desktop& D) { D.User_Key(*F, Code); });
-                return true;
-            }
+        if (Preview_Key(*static_cast<QKeyEvent*>(Happened))) return true;
     }
     return QWidget::eventFilter(Watched, Happened);
 }

@@ -80,6 +80,7 @@ class Form_View : public QWidget {
     void Show_Common(const Visible_Control& C, QWidget* W) const;
     Control* Control_Of(const QObject* W) const;
     void Follow_Focus(const Desktop& Windows);
+    bool Preview_Key(const QKeyEvent& Pressed);
 
     std::weak_ptr<Form> Source;
     std::vector<Binding> Bindings;

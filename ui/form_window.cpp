@@ -51,6 +51,7 @@ Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, con
         });
     }
     Lay_Out(*Its_View, *Shown);
+    Its_View->installEventFilter(this);
 }
 
 Form_Window::~Form_Window() {
@@ -75,7 +76,24 @@ void Form_Window::Follow() {
     // What its parts ask for now that they are styled reaches the outermost layout in steps.
     if (First) QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     if (Moved || First) Apply_Place(*F);
+    // The scroll bars of the small window that it was at first go with the next layout only.
+    if (First) QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     First = false;
+    Placing = false;
+    Grow_To_Contents();
+}
+
+// What is shown later may need more room than the window was given; room that the user has taken away since
+// is not claimed back.
+void Form_Window::Grow_To_Contents() {
+    const auto F = Source.lock();
+    if (!F || !Scroll || First || Placing) return;
+    const QSize Needs = Its_View->layout()->minimumSize(), Room = Scroll->viewport()->size();
+    const bool More = Needs.boundedTo(Needed) != Needs;
+    Needed = Needs;
+    if (!More || Needs.boundedTo(Room) == Needs) return;
+    Placing = true;
+    Apply_Place(*F);
     Placing = false;
 }
 
@@ -152,6 +170,9 @@ void Form_Window::Press(const char* First_Name, const char* Other_Name) {
 
 bool Form_Window::eventFilter(QObject* Watched, QEvent* Happened) {
     switch (Happened->type()) {
+    case QEvent::LayoutRequest:
+        if (Watched == Its_View) Grow_To_Contents();
+        break;
     case QEvent::Close:
         if (Placing) break;
         Happened->ignore(); // the model closes the window, and then the view goes
@@ -159,7 +180,7 @@ bool Form_Window::eventFilter(QObject* Watched, QEvent* Happened) {
         return true;
     case QEvent::Move:
     case QEvent::Resize:
-        if (!Placing) Report_Place();
+        if (!Placing && Watched != Its_View) Report_Place();
         break;
     case QEvent::KeyPress:
         if (Watched != Dialog) break;

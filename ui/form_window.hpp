@@ -33,6 +33,7 @@ class Form_Window : public QObject {
 
   private:
     void Apply_Place(const Form& F);
+    void Grow_To_Contents();
     void Report_Place();
     void Close_By_User();
     void Press(const char* First_Name, const char* Other_Name);
@@ -44,6 +45,7 @@ class Form_Window : public QObject {
     QPointer<QScrollArea> Scroll;
     float Left = 0, Top = 0, Width = 0, Height = 0; // of the form, as applied last
     QRect Applied; // the geometry that this gave the child window, as far as the user has not changed it
+    QSize Needed;  // by the contents, when they were looked at last
     bool Placing = false;
     bool First = true;
 };

@@ -25,6 +25,13 @@ constexpr Layout_Row Layouts[] = {
     {"frmSetup", Lay_Out_Setup},
     {"frmProgress", Lay_Out_Progress},
     {"frmComportInfo", Lay_Out_Comport_Info},
+    {"frmGyro", Lay_Out_Gyro},
+    {"frmLog", Lay_Out_Log},
+    {"frmEchosounder", Lay_Out_Echosounder},
+    {"frmWind", Lay_Out_Wind},
+    {"frmShip", Lay_Out_Ship},
+    {"frmShipSetup", Lay_Out_Ship_Setup},
+    {"frmSetSOG", Lay_Out_Set_SOG},
 };
 
 const Layout_Row* Find_Layout(const std::string& Form_Name) {

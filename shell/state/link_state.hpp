@@ -61,7 +61,7 @@ struct Link_State {
     bool Virtual_Port_Active = false;
     std::int16_t Virtual_Port_Number = 0;
     bool Control_Input_Enabled = false;
-    std::int16_t Control_Input_Port = 0; // UDP port
+    std::int32_t Control_Input_Port = 0; // UDP port: the 16-bit pattern of 0 to 65535
     Transmit_State Transmit;
 };
 

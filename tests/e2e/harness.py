@@ -69,7 +69,7 @@ class Setup:
     ROWS = {"GGA": 0, "GLL": 2, "VTG": 4, "RMC": 6, "ZDA": 8, "GNS": 10, "DTM": 12}
     LONG_LISTS = ("GGA", "GNS", "VTG", "RMC", "GST")  # begin with 0.1 and 0.5 s
 
-    def __init__(self, example="demo.ini"):
+    def __init__(self, example="sensor.ini"):
         self.lines = (EXAMPLES / example).read_text(encoding="latin-1").splitlines()
 
     @staticmethod

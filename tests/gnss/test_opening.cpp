@@ -252,7 +252,7 @@ TEST(GNSS_Opening, Closing_Stops_The_Sentences_And_Keeps_Place_And_Settings) {
     W.Set_Place(100, 200, 7000, 8000);
     Bench.Close();
     EXPECT_FALSE(Bench.Sim.frmPosition_Instance[1]);
-    EXPECT_FALSE(*Bench.Sim.Main->mnuOpenForm_GNSS1.Checked);
+    EXPECT_FALSE(*Bench.Sim.Main->mnuOpenForm_Items[1].Checked);
     Bench.Run_To(5);
     EXPECT_TRUE(Bench.Sent.empty());
     const Open_Form_Entry& Place = Bench.Sim.State.Open_Form_List[1];

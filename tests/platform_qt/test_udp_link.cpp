@@ -3,7 +3,11 @@
 #include "platform_qt/udp_link.hpp"
 #include "support.hpp"
 
+#include <QCoreApplication>
+
 #include <sys/socket.h>
+
+#include <vector>
 
 using namespace brinewright;
 
@@ -141,4 +145,81 @@ TEST(UDP_Link, Wrong_hosts_ports_and_settings_are_refused_and_the_broadcast_addr
     Settings.Set("UDP_Multicast_TTL", "0");
     Settings.Set("UDP_Multicast_Interface", "nosuchinterface");
     EXPECT_NE(Error_Of([&] { Link.Open("239.1.1.1", 1000); }).find("nosuchinterface"), std::string::npos);
+}
+
+TEST(UDP_Link, A_bound_port_takes_whole_datagrams_up_to_the_largest_and_keeps_the_oldest_64) {
+    Memory_Settings Settings;
+    Socket_UDP Link(Settings);
+    const std::int32_t Port = Free_Port(SOCK_DGRAM);
+    Link.Open("127.0.0.1", Port); // a link may change its use
+    Link.Bind(Port);
+    EXPECT_TRUE(Link.Is_Open());
+    std::vector<std::size_t> Told; // how many were received at each arrival
+    std::vector<std::string> Read;
+    bool Reading = true;
+    Link.On_Data_Arrival = [&] {
+        Told.push_back(Read.size());
+        if (Reading) Read.push_back(Link.Receive());
+    };
+    Socket_UDP Peer(Settings);
+    const std::string Largest(65507, 'L'), With_NUL("$HEROT\0,5\xFF", 11);
+    for (const char* Address : {"127.0.0.1", "127.0.0.2"}) {
+        Peer.Open(Address, Port);
+        for (const std::string& Text : {Largest, std::string(), With_NUL}) {
+            Peer.Send(Text);
+            const std::size_t Before = Read.size();
+            ASSERT_TRUE(Run_Until([&] { return Read.size() > Before; }));
+            EXPECT_EQ(Read.back(), Text);
+        }
+    }
+    EXPECT_NE(Error_Of([&] { Link.Send("to whom"); }), "");
+
+    // An empty datagram is told of but not kept: behind it, all that waits can be read in one go.
+    Reading = false;
+    Told.clear();
+    const auto Send = [&](const std::string& Text) {
+        const std::size_t Before = Told.size();
+        Peer.Send(Text);
+        ASSERT_TRUE(Run_Until([&] { return Told.size() > Before; }));
+    };
+    Send("");
+    for (int Number = 0; Number < 70; ++Number) Send(std::to_string(Number));
+    EXPECT_EQ(Told.size(), 71u);
+    for (int Number = 0; Number < 64; ++Number) EXPECT_EQ(Link.Receive(), std::to_string(Number));
+    EXPECT_EQ(Link.Receive(), "");
+}
+
+TEST(UDP_Link, A_port_that_is_taken_or_none_is_refused_and_leaves_the_link_closed) {
+    Memory_Settings Settings;
+    Socket_UDP First(Settings), Second(Settings);
+    const std::int32_t Port = Free_Port(SOCK_DGRAM);
+    First.Bind(Port);
+    EXPECT_EQ(Error_Of([&] { Second.Bind(Port); }), "Address already in use");
+    EXPECT_FALSE(Second.Is_Open());
+    for (const std::int32_t Wrong : {0, -1, 65536, 65536 + Port}) {
+        EXPECT_NE(Error_Of([&] { Second.Bind(Wrong); }).find("is not in the range 1 to 65535"),
+                  std::string::npos);
+        EXPECT_FALSE(Second.Is_Open());
+    }
+    First.Close();
+    EXPECT_EQ(Error_Of([&] { Second.Bind(Port); }), "");
+    EXPECT_TRUE(Second.Is_Open());
+}
+
+// A flood does not keep the timers from their turns: between two datagrams the event loop goes on.
+TEST(UDP_Link, Each_datagram_of_a_flood_is_a_turn_of_the_event_loop) {
+    Memory_Settings Settings;
+    Socket_UDP Link(Settings), Peer(Settings);
+    const std::int32_t Port = Free_Port(SOCK_DGRAM);
+    Link.Bind(Port);
+    Peer.Open("127.0.0.1", Port);
+    int Arrivals = 0, Arrivals_Before_Turn = -1;
+    Link.On_Data_Arrival = [&] {
+        if (++Arrivals > 1) return;
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [&] { Arrivals_Before_Turn = Arrivals; }, Qt::QueuedConnection);
+    };
+    for (int Number = 0; Number < 50; ++Number) Peer.Send("$GPVTG,,,,,5");
+    ASSERT_TRUE(Run_Until([&] { return Arrivals == 50; }));
+    EXPECT_EQ(Arrivals_Before_Turn, 1);
 }

@@ -14,7 +14,7 @@ namespace brinewright {
 
 // Virtual time with links whose far end the test plays: it lets clients come and go, data arrive and
 // operations fail. Links are told apart by name: "COM 3", "TCP 0" (clients in the order of their coming),
-// "UDP 255.255.255.255:60001".
+// "UDP 255.255.255.255:60001", "UDP bound to 5050".
 class Played_Platform : public Virtual_Platform {
   public:
     using Virtual_Platform::Virtual_Platform;
@@ -95,6 +95,12 @@ class Played_Platform : public Virtual_Platform {
             Name = "UDP " + Remote_Host + ":" + std::to_string(Remote_Port);
             World.Log.push_back(Name + " open");
             World.Fail_If_Told(Name + " open");
+            Opened = true;
+        }
+        void Bind(std::int32_t Local_Port) override {
+            Name = "UDP bound to " + std::to_string(Local_Port);
+            World.Log.push_back(Name);
+            World.Fail_If_Told(Name);
             Opened = true;
         }
         bool Is_Open() const override { return Opened; }

@@ -29,7 +29,7 @@ struct Keyboard : testing::Test, Shown_Desktop {
 TEST_F(Keyboard, A_Refused_Talker_Takes_The_Focus_Back) {
     Hold_Boxes = true;
     View->Window_Of("frmPosition[1]")->activateWindow();
-    Click(Sim.Main->mnuOpenForm_GNSS1);
+    Click(Sim.Main->mnuOpenForm_Items[1]);
     Settle();
     auto& Talker = Shown_As<QLineEdit>(Window().txtTalker);
     auto& Latitude = Shown_As<QLineEdit>(Window().txtLat);
@@ -74,7 +74,7 @@ TEST_F(Keyboard, Enter_Takes_A_Text_Over_And_Stays) {
 }
 
 TEST_F(Keyboard, The_Arrow_Keys_Steer) {
-    Click(Sim.Main->mnuOpenForm_GNSS1);
+    Click(Sim.Main->mnuOpenForm_Items[1]);
     Settle();
     QTest::mouseClick(Widget_Of(Window().cmdArrows), Qt::LeftButton);
     Settle();
@@ -97,6 +97,87 @@ TEST_F(Keyboard, The_Arrow_Keys_Steer) {
     EXPECT_FALSE(Dummy->isVisible());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
     EXPECT_FLOAT_EQ(Sim.State.GNSS_SOG[1], 0.1F) << "the keys are the controls' own again";
+}
+
+// Every modifier with every key, from throttle -20 and rudder 30 (percent and tenths of a degree per minute).
+TEST(Ship_Keyboard, Keys_With_Their_Modifiers_Reach_The_Ship) {
+    Shown_Desktop D;
+    D.Open(Shown_Desktop::Full_Setup("Ship"));
+    frmShip& W = *D.Sim.Ship;
+    D.View->Window_Of("frmShip")->activateWindow();
+    QTest::mouseClick(D.Widget_Of(W.cmdArrows), Qt::LeftButton);
+    D.Settle();
+    ASSERT_EQ(QApplication::focusWidget(), D.Widget_Of(W.txtDummy));
+    EXPECT_TRUE(D.Widget_Of(W.frameArrows)->isVisible());
+    const int Port_End = W.sldRudder.Min, Starboard_End = W.sldRudder.Max;
+    const struct {
+        Qt::Key Key;
+        Qt::KeyboardModifier Held;
+        int Throttle, Rudder;
+    } Cases[] = {
+        {Qt::Key_Up, Qt::NoModifier, -21, 30},
+        {Qt::Key_Down, Qt::NoModifier, -19, 30},
+        {Qt::Key_PageUp, Qt::NoModifier, -30, 30},
+        {Qt::Key_PageDown, Qt::NoModifier, -10, 30},
+        {Qt::Key_Left, Qt::NoModifier, -20, 29},
+        {Qt::Key_Right, Qt::NoModifier, -20, 31},
+        {Qt::Key_Up, Qt::ShiftModifier, -30, 30},
+        {Qt::Key_PageDown, Qt::ShiftModifier, -10, 30},
+        {Qt::Key_Left, Qt::ShiftModifier, -20, 20},
+        {Qt::Key_Up, Qt::ControlModifier, -100, 30},
+        {Qt::Key_PageDown, Qt::ControlModifier, 100, 30},
+        {Qt::Key_Left, Qt::ControlModifier, -20, Port_End},
+        {Qt::Key_Right, Qt::ControlModifier, -20, Starboard_End},
+        {Qt::Key_Up, Qt::AltModifier, 0, 30},
+        {Qt::Key_Down, Qt::AltModifier, 0, 30},
+        {Qt::Key_Right, Qt::AltModifier, -20, 0},
+    };
+    for (const auto& C : Cases) {
+        W.sldThrottle.Set_Value(-20);
+        W.sldRudder.Set_Value(30);
+        QTest::keyClick(QApplication::focusWidget(), C.Key, C.Held);
+        EXPECT_EQ(W.sldThrottle.Value(), C.Throttle) << C.Key << " with " << C.Held;
+        EXPECT_EQ(W.sldRudder.Value(), C.Rudder) << C.Key << " with " << C.Held;
+        D.Settle();
+        EXPECT_EQ(QApplication::focusWidget(), D.Widget_Of(W.txtDummy));
+    }
+    D.Widget_Of(W.cmbSOGNoise)->setFocus();
+    D.Settle();
+    EXPECT_FALSE(D.Widget_Of(W.frameArrows)->isVisible());
+    EXPECT_TRUE(D.Widget_Of(W.cmdSetSOG)->isVisible());
+    const int Before = W.sldThrottle.Value();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(W.sldThrottle.Value(), Before) << "the keys are the controls' own again";
+}
+
+TEST(Ship_Window, Latches_And_Speed_Show_By_Colour_And_Text) {
+    Shown_Desktop D;
+    D.Open(Shown_Desktop::Full_Setup("Ship"));
+    frmShip& W = *D.Sim.Ship;
+    const struct {
+        Button& Key;
+        Label& Lamp;
+        const char* Text;
+    } Latches[] = {{W.cmdFreeze, W.lblFreeze, "FREEZED"}, {W.cmdPause, W.lblPause, "TX PAUSED"}};
+    for (const auto& L : Latches) {
+        QWidget *Key = D.Widget_Of(L.Key), *Lamp = D.Widget_Of(L.Lamp);
+        EXPECT_FALSE(Lamp->isVisible());
+        EXPECT_NE(Key->property("state").toString(), QStringLiteral("warn"));
+        QTest::mouseClick(Key, Qt::LeftButton);
+        D.Settle();
+        EXPECT_TRUE(Lamp->isVisible());
+        EXPECT_EQ(static_cast<QLabel*>(Lamp)->text(), QString::fromLatin1(L.Text));
+        EXPECT_EQ(Key->property("state").toString(), QStringLiteral("warn"));
+        QTest::mouseClick(Key, Qt::LeftButton);
+        D.Settle();
+        EXPECT_FALSE(Lamp->isVisible());
+        EXPECT_NE(Key->property("state").toString(), QStringLiteral("warn"));
+    }
+    EXPECT_EQ(D.Shown_As<QLabel>(W.lblSOG).text(), QStringLiteral("12.5 knot"));
+    QTest::mouseClick(D.Widget_Of(W.cmdZero), Qt::LeftButton);
+    D.Settle();
+    EXPECT_EQ(D.Shown_As<QLabel>(W.lblSOG).text(), QStringLiteral("0.0 knot"));
+    EXPECT_EQ(D.Shown_As<QSlider>(W.sldThrottle).value(), 0);
 }
 
 TEST_F(Keyboard, Enter_Presses_OK_And_Escape_Cancel) {
@@ -160,7 +241,11 @@ TEST_F(Keyboard, Every_Menu_Has_A_Letter_Of_Its_Own) {
 
 // Tab goes on to the right or down among what stands together, never back up to the left, and comes by
 // everything that can take the focus.
-TEST_F(Keyboard, Tab_Follows_The_Reading_Order) {
+struct Tab_Order : testing::TestWithParam<const char*>, Shown_Desktop {};
+INSTANTIATE_TEST_SUITE_P(Keyboard, Tab_Order, testing::Values("Sensor", "Ship"),
+                         [](const auto& Info) { return std::string(Info.param); });
+TEST_P(Tab_Order, Follows_The_Reading_Order) {
+    Open(Full_Setup(GetParam()));
     Open_All_Windows();
     for (const auto& F : Sim.Windows.Forms) {
         if (F == Sim.Main) continue;

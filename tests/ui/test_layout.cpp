@@ -39,16 +39,20 @@ struct Layout : testing::Test, Shown_Desktop {
     }
 };
 
-TEST_F(Layout, No_Caption_Is_Cut) {
-    Open();
+struct In_Mode : Layout, testing::WithParamInterface<const char*> {};
+INSTANTIATE_TEST_SUITE_P(Layout, In_Mode, testing::Values("Sensor", "Ship"),
+                         [](const auto& Info) { return std::string(Info.param); });
+
+TEST_P(In_Mode, No_Caption_Is_Cut) {
+    Open(Full_Setup(GetParam()));
     Open_All_Windows();
     for (const auto& F : Sim.Windows.Forms)
         if (F != Sim.Main) Expect_Whole(F->Path());
 }
 
-TEST_F(Layout, Every_Window_Fits_The_Display) {
+TEST_P(In_Mode, Every_Window_Fits_The_Display) {
     if (!At_Full_Size()) GTEST_SKIP() << "a display of 1366 x 768 is meant at 100 %";
-    Simulator_State Setup = Full_Setup();
+    Simulator_State Setup = Full_Setup(GetParam());
     Setup.Open_Form_Count = 0;
     Open(Setup);
     View->showMaximized();
@@ -73,9 +77,36 @@ TEST_F(Layout, Every_Window_Fits_The_Display) {
     }
 }
 
-// A larger window gives what it gains to lists and sentences, and nothing overlaps in it.
-TEST_F(Layout, Windows_Grow_Without_Overlaps) {
+// What is shown later may be longer than what the window opened with; a window that its user has made small
+// stays so.
+TEST_F(Layout, Windows_Grow_With_What_They_Show) {
     Open();
+    Click(*Sim.Main->mnuOpenForm(form_index::Wind_1));
+    Settle();
+    frmWind& W = *Sim.frmWind_Instance[1];
+    auto& Child = *qobject_cast<QMdiSubWindow*>(View->Window_Of("frmWind[1]"));
+    const auto& Scroll = *qobject_cast<QScrollArea*>(Child.widget());
+    const auto Show = [&](const char* Text) {
+        W.lblShipSetup.Caption = std::string(Text);
+        Settle();
+        Settle();
+    };
+    const int Width = Child.width();
+    Show("(Ship Setup, and how it came to be set there)");
+    EXPECT_GT(Child.width(), Width);
+    EXPECT_FALSE(Scroll.horizontalScrollBar()->isVisible());
+    Expect_Whole("frmWind[1]");
+    Child.resize(300, Child.height());
+    Settle();
+    W.Set_Caption("Wind gauge");
+    Show("(Ship Setup)");
+    EXPECT_EQ(Child.width(), 300);
+    EXPECT_TRUE(Scroll.horizontalScrollBar()->isVisible());
+}
+
+// A larger window gives what it gains to lists and sentences, and nothing overlaps in it.
+TEST_P(In_Mode, Windows_Grow_Without_Overlaps) {
+    Open(Full_Setup(GetParam()));
     Open_All_Windows();
     for (const auto& F : Sim.Windows.Forms) {
         if (F == Sim.Main) continue;

@@ -61,12 +61,12 @@ TEST(Palettes, Night_Has_No_White_And_No_Blue) {
 }
 
 // Of the painted windows too, whatever the toolkit brings along.
-TEST(Palettes, No_Window_Is_Bright_At_Night) {
+void Expect_Dark(const char* Mode) {
     Shown_Desktop D;
     D.Settings.Values["Palette"] = "Night";
     D.View.reset();
     D.View.emplace(D.Sim, D.Colours);
-    D.Open();
+    D.Open(Shown_Desktop::Full_Setup(Mode));
     D.Open_All_Windows();
     const double Readout = Luminance(Theme::Colour_In(Palette_Kind::Night, Token::Readout));
     for (const auto& F : D.Sim.Windows.Forms) {
@@ -83,6 +83,10 @@ TEST(Palettes, No_Window_Is_Bright_At_Night) {
         EXPECT_EQ(Blue, 0) << F->Path();
     }
     D.Colours.Choose(Palette_Kind::Day);
+}
+TEST(Palettes, No_Window_Is_Bright_At_Night) {
+    Expect_Dark("Sensor");
+    Expect_Dark("Ship");
 }
 
 TEST(Palettes, The_Chosen_One_Is_Kept) {

@@ -1,5 +1,7 @@
 #include "ui/layouts/layout_parts.hpp"
 
+#include <QStyle>
+
 namespace brinewright {
 
 QVBoxLayout* Column_In(QWidget* Parent, int Margin) {
@@ -47,6 +49,13 @@ QGroupBox* Boxed(QGroupBox* Box, QLayout* Contents, int Side_Margin) {
 }
 
 QGroupBox* Boxed(const QString& Title, QLayout* Contents) { return Boxed(new QGroupBox(Title), Contents); }
+
+void Show_State(QWidget* W, const char* Property, const char* Value) {
+    if (!W || W->property(Property).toString() == QLatin1String(Value)) return;
+    W->setProperty(Property, QString::fromLatin1(Value));
+    W->style()->unpolish(W);
+    W->style()->polish(W);
+}
 
 QHBoxLayout* Buttons_Row(std::initializer_list<QPushButton*> Buttons) {
     QHBoxLayout* New = Row();

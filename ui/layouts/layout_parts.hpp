@@ -35,6 +35,9 @@ class Field_Grid {
 QGroupBox* Boxed(QGroupBox* Box, QLayout* Contents, int Side_Margin = rhythm::Margin);
 QGroupBox* Boxed(const QString& Title, QLayout* Contents);
 
+// Gives W a property that the style knows, "role" or "state".
+void Show_State(QWidget* W, const char* Property, const char* Value);
+
 // OK and Cancel and their like, at the right end of a row.
 QHBoxLayout* Buttons_Row(std::initializer_list<QPushButton*> Buttons);
 
@@ -49,5 +52,12 @@ void Lay_Out_Setup(Form_View& View, Form& Shown);
 void Lay_Out_Progress(Form_View& View, Form& Shown);
 void Lay_Out_Comport_Info(Form_View& View, Form& Shown);
 void Lay_Out_Traffic(Form_View& View, Form& Shown);
+void Lay_Out_Gyro(Form_View& View, Form& Shown);
+void Lay_Out_Log(Form_View& View, Form& Shown);
+void Lay_Out_Echosounder(Form_View& View, Form& Shown);
+void Lay_Out_Wind(Form_View& View, Form& Shown);
+void Lay_Out_Ship(Form_View& View, Form& Shown);
+void Lay_Out_Ship_Setup(Form_View& View, Form& Shown);
+void Lay_Out_Set_SOG(Form_View& View, Form& Shown);
 
 } // namespace brinewright

@@ -7,19 +7,11 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QFontMetrics>
 #include <QHeaderView>
 
 namespace brinewright {
 
 namespace {
-
-QLabel* Readout(Form_View& View, Label& C, int Pixels, const char* Widest) {
-    QLabel* W = View.Make(C, "readout");
-    W->setFont(Readout_Font(Pixels));
-    W->setMinimumWidth(QFontMetrics(W->font()).horizontalAdvance(QString::fromLatin1(Widest)));
-    return W;
-}
 
 // Value in large figures, slider, and the box to type it in.
 QGroupBox* Motion_Box(Form_View& View, Frame& Box, Label& Value, Label& Unit, Scroll_Bar& Bar,

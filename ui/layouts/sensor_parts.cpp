@@ -2,20 +2,17 @@
 
 #include "links/port_list.hpp"
 #include "ui/instruments/countdown_bar.hpp"
+#include "ui/instruments/slider_scale.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
-#include <QStyle>
+#include <QFontMetrics>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace brinewright {
 
 namespace {
-
-void Set_Property(QWidget* W, const char* Name, const char* Value) {
-    if (W->property(Name).toString() == QLatin1String(Value)) return;
-    W->setProperty(Name, QString::fromLatin1(Value));
-    W->style()->unpolish(W);
-    W->style()->polish(W);
-}
 
 QString Port_Text(const Simulator& Sim, int Form_Index) {
     const int Port = Sim.State.Sensor_Table[Form_Index].Port;
@@ -23,6 +20,10 @@ QString Port_Text(const Simulator& Sim, int Form_Index) {
     if (Port <= port_number::Last_Serial) return QStringLiteral("COM %1").arg(Port);
     if (Port == port_number::TCP) return QStringLiteral("TCP port %1").arg(Sim.State.TCP_Port);
     return QStringLiteral("UDP port %1").arg(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]);
+}
+
+QString State_Text(const Form_View& View, const char* State, int Form_Index) {
+    return QString::fromLatin1(State) + QStringLiteral("   to ") + Port_Text(View.Sim, Form_Index);
 }
 
 } // namespace
@@ -35,16 +36,30 @@ QWidget* State_Line(Form_View& View, Button& Start, Button& Pause, const Timer& 
         const bool Running = Simulation.Interval_ms() > 0;
         const bool Paused = !Running && *Pause.Enabled;
         const char* State = Ship ? "Ship control" : Running ? "Running" : Paused ? "Paused" : "Not started";
-        Line->setText(QString::fromLatin1(State) + QStringLiteral("   to ") +
-                      Port_Text(View.Sim, Form_Index));
-        Set_Property(Line, "role", Ship ? "readout" : Running ? "good" : Paused ? "warn" : "dim");
-        if (QWidget* W = View.Widget_Of(Start)) Set_Property(W, "state", Running ? "good" : "");
-        if (QWidget* W = View.Widget_Of(Pause)) Set_Property(W, "state", Paused ? "warn" : "");
+        Line->setText(State_Text(View, State, Form_Index));
+        Show_State(Line, "role", Ship ? "readout" : Running ? "good" : Paused ? "warn" : "dim");
+        Show_State(View.Widget_Of(Start), "state", Running ? "good" : "");
+        Show_State(View.Widget_Of(Pause), "state", Paused ? "warn" : "");
     });
     return Line;
 }
 
-QGroupBox* Messages_Box(Form_View& View, Frame& Box, Sentence_Family& Sentences) {
+QWidget* State_Line(Form_View& View, const Sentence_Family& Sentences, bool Follows_Ship, int Form_Index) {
+    auto* Line = new QLabel;
+    Line->setTextFormat(Qt::PlainText);
+    View.When_Shown([&View, &Sentences, Follows_Ship, Form_Index, Line] {
+        const bool Ship = Follows_Ship && View.Sim.State.Mode == "Ship";
+        const bool Running = std::any_of(Sentences.Lines.begin(), Sentences.Lines.end(),
+                                         [](const auto& L) { return L.Clock->Interval_ms() > 0; });
+        const char* State = !Running ? "No sentence is on" : Ship ? "Ship control" : "Running";
+        Line->setText(State_Text(View, State, Form_Index));
+        Show_State(Line, "role", !Running ? "dim" : Ship ? "readout" : "good");
+    });
+    return Line;
+}
+
+QGroupBox* Messages_Box(Form_View& View, Frame& Box, Sentence_Family& Sentences,
+                        const std::vector<Row_Note>& Notes) {
     auto* Grid = new QGridLayout;
     Grid->setHorizontalSpacing(rhythm::Gap);
     Grid->setVerticalSpacing(3);
@@ -53,10 +68,67 @@ QGroupBox* Messages_Box(Form_View& View, Frame& Box, Sentence_Family& Sentences)
         Grid->addWidget(View.Make(*Line.Box), Line_Number, 0);
         Grid->addWidget(View.Make(*Line.Interval_List), Line_Number, 1);
         Grid->addWidget(new Countdown_Bar(View.Colours, View.Shown_Form(), *Line.Clock), Line_Number, 2);
+        for (const auto& [Beside, Note] : Notes)
+            if (Beside == Line.Box) Grid->addLayout(Note(), Line_Number, 3);
         ++Line_Number;
     }
     Grid->setColumnStretch(2, 1);
     return Boxed(View.Make(Box), Grid);
+}
+
+QLabel* Readout(Form_View& View, Label& Value, int Pixels, const char* Widest) {
+    QLabel* W = View.Make(Value, "readout");
+    W->setFont(Readout_Font(Pixels));
+    W->setMinimumWidth(QFontMetrics(W->font()).horizontalAdvance(QString::fromLatin1(Widest)));
+    return W;
+}
+
+QHBoxLayout* Readout_Row(Form_View& View, Label& Value, int Pixels, const char* Widest, QWidget* Unit) {
+    QHBoxLayout* Line = Row();
+    QLabel* Figures = Readout(View, Value, Pixels, Widest);
+    Figures->setAlignment(Qt::AlignRight | Qt::AlignVCenter); // beside the unit, however many they are
+    Line->addWidget(Figures);
+    Line->addWidget(Unit, 0, Qt::AlignLeft | Qt::AlignBottom);
+    Line->addStretch(1);
+    return Line;
+}
+
+QLayout* Scaled(Form_View& View, Scroll_Bar& Bar, Qt::Orientation Direction, const Scale_Steps& Steps) {
+    const bool Lies = Direction == Qt::Horizontal;
+    const auto Read = [&Bar, Lies, Direction, Steps] {
+        // Bars that lie rise to the right; those that stand have their Min at the top.
+        const int Least = std::min<int>(Bar.Min, Bar.Max), Most = std::max<int>(Bar.Min, Bar.Max);
+        const int First = Lies ? Least : *Bar.Min, Last = Lies ? Most : *Bar.Max;
+        const auto Share = [&](int Value) { return static_cast<double>(Value - First) / (Last - First); };
+        Slider_Scale_Reading Scale{Direction, static_cast<double>(Steps.Tick) / (Most - Least), Share(0), {}};
+        for (int Value = Least; Value <= Most; ++Value)
+            if (Value % Steps.Figure == 0)
+                Scale.Figures.push_back(
+                    {Share(Value),
+                     QString::number((Steps.Unsigned ? std::abs(Value) : Value) / Steps.Per_Unit)});
+        std::sort(Scale.Figures.begin(), Scale.Figures.end(),
+                  [](const auto& A, const auto& B) { return A.Share < B.Share; });
+        return Scale;
+    };
+    auto* Both = new QBoxLayout(Lies ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    Both->setSpacing(0);
+    Both->addWidget(View.Make(Bar, Direction));
+    auto* Scale = new Slider_Scale(View.Colours, Direction, Lies ? 22 : 34, Read);
+    Both->addWidget(Scale);
+    View.When_Shown([Scale] { Scale->Look(); });
+    return Both;
+}
+
+QHBoxLayout* Noise_Row(Form_View& View, Check_Box& On, const std::vector<Noise_List>& Lists) {
+    QHBoxLayout* Line = Row();
+    Line->addWidget(View.Make(On));
+    Line->addStretch(1);
+    for (const Noise_List& Noise : Lists) {
+        Line->addWidget(View.Make(*Noise.Title, "dim"));
+        Line->addWidget(View.Make(*Noise.List));
+        Line->addWidget(Noise.Unit);
+    }
+    return Line;
 }
 
 QLayout* Routing_Row(Form_View& View, Combo_Box& Ports, Text_Box& Talker,
@@ -73,6 +145,7 @@ QLayout* Routing_Row(Form_View& View, Combo_Box& Ports, Text_Box& Talker,
     Talker_Box->setFixedWidth(44);
     First->addWidget(Talker_Box);
     Column->addLayout(First);
+    if (Lists.empty()) return Column;
     QHBoxLayout* Second = Row();
     if (Lists_Title) Second->addWidget(View.Make(*Lists_Title, "dim"));
     Second->addStretch(1);

@@ -4,6 +4,7 @@
 #include "sentences/number_pattern.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <span>
 #include <string_view>
@@ -19,6 +20,20 @@ inline float Record_Number(double Value) {
     using Limits = std::numeric_limits<float>;
     return static_cast<float>(
         std::clamp(Value, static_cast<double>(Limits::lowest()), static_cast<double>(Limits::max())));
+}
+
+// A stored choice that its list does not have, as a setup file may hold, becomes the default one.
+inline void Restore_Choice(Combo_Box& List, int Stored, int Default) {
+    const int Count = static_cast<int>(List.Items().size());
+    List.Set_List_Index(Stored >= 0 && Stored < Count ? Stored : Default);
+}
+
+// The place on a bar of Steps to the unit that is nearest to Value, ties to even; held within the bar.
+inline int Bar_Place(const Scroll_Bar& Bar, double Value, int Steps) {
+    const int Least = std::min<int>(Bar.Min, Bar.Max), Most = std::max<int>(Bar.Min, Bar.Max);
+    if (std::isnan(Value)) return std::clamp(0, Least, Most);
+    return static_cast<int>(
+        std::nearbyint(std::clamp(Value * Steps, static_cast<double>(Least), static_cast<double>(Most))));
 }
 
 // The number that the text of a box or of a list starts with.

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/controls.hpp"
+#include "platform/form.hpp"
+
+namespace brinewright {
+
+struct Simulator;
+
+// "Set SOG/COG": speed and heading of the own ship by number.
+struct frmSetSOG : Form {
+    explicit frmSetSOG(Desktop& Windows);
+
+    Label lblSOG{*this, "lblSOG", "Set SOG "};
+    Text_Box txtSOG{*this, "txtSOG", "0.00"};
+    Label lblSOGUnit{*this, "lblSOGUnit", "knots"};
+    Label lblCOG{*this, "lblCOG", "Set COG "};
+    Text_Box txtCOG{*this, "txtCOG", "000.00"};
+    Label lblCOGUnit{*this, "lblCOGUnit", "deg"};
+    Button cmdOK{*this, "cmdOK", "OK"};
+    Button cmdCancel{*this, "cmdCancel", "Cancel"};
+};
+
+// Opens the dialog below cmdSetSOG of the ship window, or gives it the focus.
+void cmdSetSOG_Click(Simulator& Sim);
+
+} // namespace brinewright

@@ -1,0 +1,232 @@
+#include "ownship/ship/frm_ship_setup.hpp"
+
+#include "ownship/position_text.hpp"
+#include "ownship/ship/frm_ship.hpp"
+#include "ownship/ship/ship_controls.hpp"
+#include "ownship/ship/ship_tips.hpp"
+#include "sentences/number_pattern.hpp"
+#include "shell/control_text.hpp"
+#include "shell/simulator.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace brinewright {
+
+namespace {
+
+constexpr float Form_Height = 3960, Form_Width = 5460; // twentieths of a point
+constexpr double Same_Start_deg = 1e-11;               // a start position less off than this is the same
+constexpr int Most_Zone_Hours = 13, Last_Minute = 59;
+
+// A value that is chosen from a list of equal steps.
+struct Choice {
+    Combo_Box frmShipSetup::*List;
+    float Navdata_State::*Value;
+    int First, Last, Step;
+    const char* Pattern;
+};
+constexpr Choice Choices[] = {
+    {&frmShipSetup::cmbMaxSpeedAhead, &Navdata_State::Max_Speed_Ahead, 5, 100, 5, "0"},
+    {&frmShipSetup::cmbMaxSpeedAstern, &Navdata_State::Max_Speed_Astern, 1, 20, 1, "0"},
+    {&frmShipSetup::cmbMaxRudder, &Navdata_State::Max_Rudder, 5, 360, 5, "000"},
+};
+constexpr Choice Deviation{
+    &frmShipSetup::cmbMagneticDeviation, &Navdata_State::Magnetic_Variation, -10, 10, 1, "0"};
+
+// One of the two clocks.
+struct Zone {
+    int Element;
+    std::int16_t UTC_State::*Offset_min;
+    std::int16_t UTC_State::*Minutes;
+};
+constexpr Zone Zones[] = {
+    {0, &UTC_State::UTC_Offset_Hours, &UTC_State::UTC_Offset_Minutes},
+    {1, &UTC_State::GNSS2_UTC_Offset_Hours, &UTC_State::GNSS2_UTC_Offset_Minutes},
+};
+
+struct Start_Box {
+    Text_Box frmShipSetup::*Box;
+    double Navdata_State::*Start;
+    double Navdata_State::*Ship;
+    const char* Kind;
+};
+constexpr Start_Box Start_Boxes[] = {
+    {&frmShipSetup::txtStartLat, &Navdata_State::Start_Lat, &Navdata_State::Nav_Lat, "LAT"},
+    {&frmShipSetup::txtStartLon, &Navdata_State::Start_Lon, &Navdata_State::Nav_Lon, "LON"},
+};
+
+constexpr const char *Metres = "0.0 m", *Degrees = "000.0 deg", *Knots = "0.0 knop";
+
+struct Offset_Box {
+    Text_Box& Box;
+    const char* Pattern;
+};
+std::array<Offset_Box, 6> Offset_Boxes(frmShipSetup& F) {
+    return {{{F.txtLatOffset, Metres},
+             {F.txtLonOffset, Metres},
+             {F.txtGyroOffset[0], Degrees},
+             {F.txtGyroOffset[1], Degrees},
+             {F.txtLogOffset[0], Knots},
+             {F.txtLogOffset[1], Knots}}};
+}
+
+// A stored value that the list does not have, as a setup file may hold, leaves nothing chosen; Apply then
+// leaves the value alone.
+void Choose(Combo_Box& List, double Place) {
+    const int Count = static_cast<int>(List.Items().size());
+    const double Rounded = std::nearbyint(Place);
+    List.Set_List_Index(Rounded >= 0 && Rounded < Count ? static_cast<int>(Rounded) : -1);
+}
+
+void Fill(frmShipSetup& F, const Choice& C) {
+    for (int Value = C.First; Value <= C.Last; Value += C.Step)
+        (F.*C.List).Add_Item(Format_Dot(Value, C.Pattern));
+}
+
+void Show(const Simulator_State& S, frmShipSetup& F, const Choice& C) {
+    Choose(F.*C.List, (static_cast<double>(S.*C.Value) - C.First) / C.Step);
+}
+
+void Take(Simulator_State& S, const frmShipSetup& F, const Choice& C) {
+    if ((F.*C.List).List_Index() >= 0) S.*C.Value = Number_Shown((F.*C.List).Text());
+}
+
+void Fill_Sixty(Combo_Box& List) {
+    for (int I = 0; I <= Last_Minute; ++I) List.Add_Item(Format_Dot(I, "00"));
+}
+
+void Fill_Lists(frmShipSetup& F) {
+    for (const Choice& C : Choices) Fill(F, C);
+    Fill(F, Deviation);
+    for (const Zone& Z : Zones) {
+        for (int Hours = -Most_Zone_Hours; Hours <= Most_Zone_Hours; ++Hours)
+            F.cmbUTCOffsetHours[Z.Element].Add_Item((Hours > 0 ? "+" : "") + Format_Dot(Hours, "00"));
+        Fill_Sixty(F.cmbUTCOffsetMinutes[Z.Element]);
+    }
+    Fill_Sixty(F.cmbGNSS2OffsetSeconds);
+}
+
+// The hours come back with the other sign than they were chosen with: +02 shows as -02 at the next opening.
+// This is required.
+void Show_Zone(const Simulator_State& S, frmShipSetup& F, const Zone& Z) {
+    const int Hours = -(S.*Z.Offset_min) / 60; // cut off, not rounded
+    Choose(F.cmbUTCOffsetHours[Z.Element], Hours + Most_Zone_Hours);
+    Choose(F.cmbUTCOffsetMinutes[Z.Element], S.*Z.Minutes);
+}
+
+void Show_State(const Simulator_State& S, frmShipSetup& F) {
+    for (const Choice& C : Choices) Show(S, F, C);
+    Show(S, F, Deviation);
+    F.chkUseUTC.Set_Value(S.Use_UTC);
+    for (const Zone& Z : Zones) Show_Zone(S, F, Z);
+    Choose(F.cmbGNSS2OffsetSeconds, S.GNSS2_UTC_Offset_Seconds);
+    for (const Start_Box& B : Start_Boxes)
+        (F.*B.Box).Set_Text(Position_Text(S.LatLon_Format, S.*B.Start, B.Kind));
+    // Each in its own width: the 32-bit 123.45 shows as 123.5.
+    F.txtLatOffset.Set_Text(Format_Dot(S.Lat_Offset, Metres));
+    F.txtLonOffset.Set_Text(Format_Dot(S.Lon_Offset, Metres));
+    for (int I = 1; I <= 2; ++I) {
+        F.txtGyroOffset[I - 1].Set_Text(Format_Dot(S.Gyro_Offset[I], Degrees));
+        F.txtLogOffset[I - 1].Set_Text(Format_Dot(S.Log_Offset[I], Knots));
+    }
+}
+
+double Typed_Start(Simulator& Sim, const frmShipSetup& F, const Start_Box& B) {
+    return Parse_Position(Sim.State.LatLon_Format, (F.*B.Box).Text(), B.Kind, Sim.Windows.Boxes);
+}
+
+void Leave_Start_Box(Simulator& Sim, frmShipSetup& F, const Start_Box& B) {
+    const double New_deg = Typed_Start(Sim, F, B);
+    (F.*B.Box).Set_Text(Position_Text(Sim.State.LatLon_Format, New_deg, B.Kind));
+    if (std::abs(New_deg - Sim.State.*B.Start) > Same_Start_deg) F.Start_Changed = true;
+}
+
+// The ship jumps to a new start at once.
+void Take_Start(Simulator& Sim, frmShipSetup& F) {
+    if (!F.Start_Changed) return;
+    for (const Start_Box& B : Start_Boxes) Sim.State.*B.Ship = Sim.State.*B.Start = Typed_Start(Sim, F, B);
+    F.Start_Changed = false;
+}
+
+void Take_List_Place(const Combo_Box& List, std::int16_t& Value) {
+    if (List.List_Index() >= 0) Value = static_cast<std::int16_t>(List.List_Index());
+}
+
+void Take_Zone_Hours(Simulator_State& S, const frmShipSetup& F, const Zone& Z) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const Combo_Box& List = F.cmbUTCOffsetHours[Z.Element];
+    if (List.List_Index() < 0) return;
+    const int Hours = static_cast<int>(Val(List.Text()));
+    const int Minutes = Hours >= 0 ? S.*Z.Minutes : -(S.*Z.Minutes);
+    S.*Z.Offset_min =
+        static_cast<std::int16_t>(std::clamp<int>(Hours * 60 + Minutes, Limits::min(), Limits::max()));
+}
+
+void Take_Offsets(Simulator_State& S, const frmShipSetup& F) {
+    S.Lat_Offset = Val_Dot(F.txtLatOffset.Text());
+    S.Lon_Offset = Val_Dot(F.txtLonOffset.Text());
+    for (int I = 1; I <= 2; ++I) {
+        S.Gyro_Offset[I] = Number_Shown(F.txtGyroOffset[I - 1].Text());
+        S.Log_Offset[I] = Number_Shown(F.txtLogOffset[I - 1].Text());
+    }
+}
+
+void cmdApply_Click(Simulator& Sim, frmShipSetup& F) {
+    Simulator_State& S = Sim.State;
+    Take_Start(Sim, F);
+    for (const Choice& C : Choices) Take(S, F, C);
+    for (const Zone& Z : Zones) Take_List_Place(F.cmbUTCOffsetMinutes[Z.Element], S.*Z.Minutes);
+    for (const Zone& Z : Zones) Take_Zone_Hours(S, F, Z);
+    Take_List_Place(F.cmbGNSS2OffsetSeconds, S.GNSS2_UTC_Offset_Seconds);
+    Take(S, F, Deviation);
+    Take_Offsets(S, F);
+    if (Sim.Ship) Show_Rudder_Range(S, *Sim.Ship);
+    S.Use_UTC = F.chkUseUTC.Value();
+}
+
+void cmdOK_Click(Simulator& Sim, frmShipSetup& F) {
+    cmdApply_Click(Sim, F);
+    Sim.Windows.Unload(F);
+}
+
+void Wire_Boxes(Simulator& Sim, frmShipSetup& F) {
+    for (const Start_Box& B : Start_Boxes) {
+        Text_Box& Box = F.*B.Box;
+        Box.Got_Focus = [&Box] { Box.Select_All(); };
+        Box.Lost_Focus = [&Sim, &F, &B] { Leave_Start_Box(Sim, F, B); };
+    }
+    for (const Offset_Box& B : Offset_Boxes(F)) {
+        B.Box.Got_Focus = [&Box = B.Box] { Box.Select_All(); };
+        B.Box.Lost_Focus = [B] { B.Box.Set_Text(Format_Dot(Val_Dot(B.Box.Text()), B.Pattern)); };
+    }
+}
+
+void frmShipSetup_Load(Simulator& Sim, frmShipSetup& F) {
+    F.Resize(Form_Width, Form_Height);
+    Fill_Lists(F);
+    Show_State(Sim.State, F);
+    Wire_Boxes(Sim, F);
+    F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };
+    F.cmdApply.Click = [&] { cmdApply_Click(Sim, F); };
+    F.cmdCancel.Click = [&] { Sim.Windows.Unload(F); };
+    F.On_Unload = [&Sim] { Sim.ShipSetup.reset(); };
+}
+
+} // namespace
+
+frmShipSetup::frmShipSetup(Desktop& Its_Windows) : Form(Its_Windows, "frmShipSetup", 0, Form_Kind::Dialog) {
+    Caption = "Ship & Environment Setup";
+    Set_Tool_Tips(*this);
+}
+
+void mnuSetupShip_Click(Simulator& Sim) {
+    if (Sim.ShipSetup) return Sim.Windows.Activate(*Sim.ShipSetup);
+    Sim.ShipSetup = std::make_shared<frmShipSetup>(Sim.Windows);
+    frmShipSetup_Load(Sim, *Sim.ShipSetup);
+    Sim.Windows.Show(Sim.ShipSetup);
+}
+
+} // namespace brinewright

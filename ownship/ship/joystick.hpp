@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+namespace brinewright {
+
+struct frmShip;
+struct Simulator;
+
+// A game controller that moves the two sliders of the ship window. It is polled, and may vanish at any time.
+
+inline constexpr std::int32_t First_Joystick = 0; // the device, the only one that is used
+
+// Whether there is one; if so, where it stands now becomes its rest.
+bool Joystick_Present(Simulator& Sim, std::int32_t Device_Id);
+
+// Axes and buttons into Sim.Joystick. One that has vanished is at rest with no button down.
+void Joystick_Read(Simulator& Sim);
+
+void Wire_Joystick(Simulator& Sim, frmShip& W);
+void timerJoystick_Tick(Simulator& Sim, frmShip& W);
+
+} // namespace brinewright

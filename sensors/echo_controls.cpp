@@ -1,0 +1,77 @@
+#include "sensors/echo_controls.hpp"
+
+#include "sensors/depth_wind_parts.hpp"
+#include "sensors/frm_echosounder.hpp"
+#include "sensors/sensor_parts.hpp"
+#include "shell/control_text.hpp"
+#include "shell/number_text.hpp"
+#include "shell/simulator.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brinewright {
+
+namespace {
+
+constexpr int Offset_Limit_m = 20;
+
+void Show_Depth(frmEchosounder& W) {
+    W.lblDepth.Caption = Format_Dot(W.Depth_Value, "0.0");
+    W.txtDepth.Set_Text(W.lblDepth.Caption);
+}
+
+// Echo sounder 1 alone hands its depth to the state, although both start from it.
+void Take_Depth(Simulator& Sim, frmEchosounder& W, float Depth_m) {
+    W.Depth_Value = Depth_m;
+    if (W.Instance == 1) Sim.State.Echo_Depth = Depth_m;
+    Show_Depth(W);
+}
+
+} // namespace
+
+void Fill_Echo_Lists(frmEchosounder& W) {
+    for (int Metres = -Offset_Limit_m; Metres <= Offset_Limit_m; ++Metres)
+        W.cmbOffset.Add_Item(Number_Text(Metres));
+    for (int Metres = 0; Metres <= Last_Noise_Choice; ++Metres) W.cmbNoise.Add_Item(std::to_string(Metres));
+}
+
+void Show_Kept_Depth(const Simulator& Sim, frmEchosounder& W) {
+    W.Depth_Value = std::max(Sim.State.Echo_Depth, 0.0F); // a setup file may hold any number
+    W.scrDepth.Set_Value(Bar_Place(W.scrDepth, W.Depth_Value, Bar_Steps));
+    Show_Depth(W);
+}
+
+void Wire_Echo_Controls(Simulator& Sim, frmEchosounder& W) {
+    W.scrDepth.Change = [&] { scrDepth_Change(Sim, W); };
+    W.txtDepth.Lost_Focus = [&] { txtDepth_LostFocus(Sim, W); };
+    W.cmbOffset.Click = [&W] { cmbOffset_Change(W); };
+    W.cmbOffset.Change = [&W] { cmbOffset_Change(W); };
+    W.cmbOffset.Lost_Focus = [&W] { cmbOffset_LostFocus(W); };
+    W.chkNoise.Click = [&] { Sim.State.Echo_Noise_Enabled[W.Instance] = W.chkNoise.Value(); };
+    W.cmbNoise.Click = [&] {
+        Sim.State.Echo_Noise_Level[W.Instance] = static_cast<std::int16_t>(W.cmbNoise.List_Index());
+    };
+}
+
+void Restore_Echo_Settings(const Simulator& Sim, frmEchosounder& W) {
+    W.cmbOffset.Set_List_Index(Offset_Limit_m);
+    Restore_Choice(W.cmbNoise, Sim.State.Echo_Noise_Level[W.Instance], 0);
+    W.chkNoise.Set_Value(Sim.State.Echo_Noise_Enabled[W.Instance]);
+}
+
+void scrDepth_Change(Simulator& Sim, frmEchosounder& W) { Take_Depth(Sim, W, Bar_Value(W.scrDepth)); }
+
+// The typed depth comes last, so that it stays in effect where the bar cannot follow: below 400 m, where the
+// bar stands at its end, and between two tenths.
+void txtDepth_LostFocus(Simulator& Sim, frmEchosounder& W) {
+    const float Depth_m = std::abs(Number_Shown(W.txtDepth.Text()));
+    W.scrDepth.Set_Value(Bar_Place(W.scrDepth, Depth_m, Bar_Steps));
+    Take_Depth(Sim, W, Depth_m);
+}
+
+void cmbOffset_Change(frmEchosounder& W) { W.Transducer_Offset = Number_Shown(W.cmbOffset.Text()); }
+
+void cmbOffset_LostFocus(frmEchosounder& W) { W.cmbOffset.Set_Text(Joined_Number(W.Transducer_Offset)); }
+
+} // namespace brinewright

@@ -1,0 +1,48 @@
+#include "sensors/frm_echosounder.hpp"
+
+#include "sensors/echo_controls.hpp"
+#include "sensors/echo_ticks.hpp"
+#include "sensors/echo_tips.hpp"
+#include "shell/load_sensor_form.hpp"
+#include "shell/simulator.hpp"
+
+namespace brinewright {
+
+namespace {
+
+void Set_Talker(frmEchosounder& W, const std::string& Talker) {
+    W.DBT_Record.Talker = Talker;
+    W.DPT_Record.Talker = Talker;
+}
+
+void Form_Load(Simulator& Sim, frmEchosounder& W) {
+    std::string& Talker = Sim.State.Echo_Talker[W.Instance];
+    Show_Kept_Depth(Sim, W); // before the wiring: showing the depth must not write it
+    Wire_Routing(Sim, W, Talker, [&W](const std::string& New) { Set_Talker(W, New); });
+    Wire_Echo_Controls(Sim, W);
+    Wire_Sentences<frmEchosounder>(W.Sentences, Echo_Sentences(), Sim, Sim.State, W, W.Instance);
+    W.txtTalker.Set_Text(Talker);
+    Set_Talker(W, Talker);
+    Preset_Echo_Records(W);
+    Rebuild_Port_List(Sim, W);
+    Fill_Echo_Lists(W);
+    Restore_Echo_Settings(Sim, W);
+    Restore_Intervals(W.Sentences);
+    Start_Enabled_Sentences(W.Sentences);
+}
+
+} // namespace
+
+frmEchosounder::frmEchosounder(Desktop& Its_Windows, int Its_Instance)
+    : Sensor_Form(Its_Windows, "frmEchosounder", Its_Instance, form_index::Echosounder_1, "SD") {
+    cmbOffset.Free_Text = true;
+    Set_Tool_Tips(*this);
+}
+
+std::shared_ptr<Sensor_Form> Load_frmEchosounder(Simulator& Sim) {
+    constexpr int Before_First = form_index::Echosounder_1 - 1;
+    return Load_Sensor_Form(Sim, Sim.frmEchosounder_Instance, Sim.State.Open_Form_Index - Before_First,
+                            Form_Load);
+}
+
+} // namespace brinewright

@@ -1,0 +1,106 @@
+#include "sensors/frm_gyro.hpp"
+
+#include "sensors/gyro_controls.hpp"
+#include "sensors/gyro_ticks.hpp"
+#include "sensors/gyro_tips.hpp"
+#include "sensors/sensor_parts.hpp"
+#include "shell/load_sensor_form.hpp"
+#include "shell/simulator.hpp"
+
+namespace brinewright {
+
+namespace {
+
+constexpr double Simulator_Period_ms = 400;
+
+// In Ship mode the window is its sentences alone: the ship sets heading and rate of turn, and with the frames
+// go noise and attitude, which stay as they are.
+void Apply_Mode(const Simulator& Sim, frmGyro& W) {
+    const bool Ship_Mode = Sim.State.Mode == "Ship";
+    W.lblShipControl.Visible = Ship_Mode;
+    if (!Ship_Mode) return;
+    Hide({&W.frmSimulator,
+          &W.frmHDG,
+          &W.scrHDG,
+          &W.txtHDG,
+          &W.frmROT,
+          &W.scrROT,
+          &W.txtROT,
+          &W.lblROTUnit,
+          &W.frmRoll,
+          &W.scrRoll,
+          &W.txtRoll,
+          &W.frmPitch,
+          &W.scrPitch,
+          &W.txtPitch,
+          &W.chkNoise,
+          W.optAccumulatedNoise.Buttons[0].get(),
+          W.optAccumulatedNoise.Buttons[1].get(),
+          &W.lblMaxNoise,
+          &W.frmSimulatorControl,
+          &W.cmdStart,
+          &W.cmdPause});
+    for (const auto& Part : W.lblNoise) Part->Visible = false;
+    for (const auto& Part : W.cmbNoise) Part->Visible = false;
+}
+
+void Set_Talker(frmGyro& W, const std::string& Talker) {
+    W.HDT_Record.Talker = Talker;
+    W.THS_Record.Talker = Talker;
+    W.ROT_Record.Talker = Talker;
+    W.ATT_Record.Talker = Talker;
+    W.PRDID_Record.Talker = Talker;
+}
+
+void Wire_Controls(Simulator& Sim, frmGyro& W) {
+    W.cmdStart.Click = [&] { cmdStart_Click(Sim, W); };
+    W.cmdPause.Click = [&] { cmdPause_Click(Sim, W); };
+    W.timer_Simulator.Tick = [&] { timer_Simulator_Tick(Sim, W); };
+    Wire_Routing(Sim, W, Sim.State.Gyro_Talker[W.Instance],
+                 [&W](const std::string& Talker) { Set_Talker(W, Talker); });
+    Wire_Gyro_Controls(Sim, W);
+    Wire_Sentences<frmGyro>(W.Sentences, Gyro_Sentences(), Sim, Sim.State, W, W.Instance);
+}
+
+void Form_Load(Simulator& Sim, frmGyro& W) {
+    Show_Gyro_Motion(Sim.State, W); // before the wiring: showing heading and turn must not write them
+    Wire_Controls(Sim, W);
+    Apply_Mode(Sim, W);
+    W.txtTalker.Set_Text(Sim.State.Gyro_Talker[W.Instance]);
+    Set_Talker(W, Sim.State.Gyro_Talker[W.Instance]);
+    Rebuild_Port_List(Sim, W);
+    Fill_Gyro_Lists(W);
+    Restore_Gyro_Settings(Sim, W);
+    Restore_Intervals(W.Sentences);
+    Start_Enabled_Sentences(W.Sentences);
+}
+
+} // namespace
+
+frmGyro::frmGyro(Desktop& Its_Windows, int Its_Instance)
+    : Sensor_Form(Its_Windows, "frmGyro", Its_Instance, form_index::Gyro_1, "HE") {
+    Set_Caption("Gyro/Attitude "); // until the opener numbers it
+    lblShipControl.Visible = false;
+    cmdPause.Enabled = false;
+    Set_Tool_Tips(*this);
+}
+
+std::shared_ptr<Sensor_Form> Load_frmGyro(Simulator& Sim) {
+    const int Instance = Sim.State.Open_Form_Index - form_index::Gyro_1 + 1;
+    return Load_Sensor_Form(Sim, Sim.frmGyro_Instance, Instance, Form_Load);
+}
+
+// The caption stays: a pause makes it "Continue".
+void cmdStart_Click(Simulator&, frmGyro& W) {
+    W.cmdPause.Enabled = true;
+    W.timer_Simulator.Set_Interval(Simulator_Period_ms);
+    Start_Sentences(W.Sentences);
+}
+
+void cmdPause_Click(Simulator&, frmGyro& W) {
+    W.cmdStart.Caption = std::string("Continue");
+    W.timer_Simulator.Set_Interval(0);
+    Pause_Sentences(W.Sentences);
+}
+
+} // namespace brinewright

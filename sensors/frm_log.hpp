@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/controls.hpp"
+#include "platform/form.hpp"
+#include "sentences/compose_vbw.hpp"
+#include "sentences/compose_vdr.hpp"
+#include "sentences/compose_vhw.hpp"
+#include "sentences/compose_vlw.hpp"
+#include "shell/sensor_form.hpp"
+
+#include <memory>
+
+namespace brinewright {
+
+struct Simulator;
+
+// The window of one speed log, Log 1 or Log 2. Instance, 1 or 2, is its element of all per-sensor tables; its
+// form index, 5 or 6, is its Tag.
+struct frmLog : Sensor_Form {
+    frmLog(Desktop& Windows, int Its_Instance);
+
+    // What the sentences are composed from. The ticks refresh what changes; all else stays as the controls
+    // left it.
+    brinewright::VHW_Record VHW_Record;
+    brinewright::VBW_Record VBW_Record;
+    brinewright::VDR_Record VDR_Record;
+    brinewright::VLW_Record VLW_Record;
+
+    Label lblShipControl{*this, "lblShipControl", "Log control by Ship"};
+
+    Frame frmSpeed{*this, "frmSpeed", "Speed"};
+    Scroll_Bar scrSpeed{*this, "scrSpeed", 400, 0, 10}; // tenths of a knot, vertical
+    Label lblSpeed{*this, "lblSpeed"};
+    Text_Box txtSpeed{*this, "txtSpeed"};
+    Label lblSpeedUnit{*this, "lblSpeedUnit", "knots"};
+
+    Check_Box chkNoise{*this, "chkNoise", "Random noise On"};
+    Label lblMaxNoise{*this, "lblMaxNoise", "Max noise"};
+    Combo_Box cmbNoise{*this, "cmbNoise"};
+    Check_Box chkInvalid{*this, "chkInvalid", "Flag as invalid"};
+
+    Check_Box chkVHW{*this, "chkVHW", "VHW"};
+    Combo_Box cmbVHWInterval{*this, "cmbVHWInterval"};
+    Timer timer_VHW{*this, "timer_VHW"};
+    Check_Box chkVBW{*this, "chkVBW", "VBW"};
+    Combo_Box cmbVBWInterval{*this, "cmbVBWInterval"};
+    Timer timer_VBW{*this, "timer_VBW"};
+    Check_Box chkVDR{*this, "chkVDR", "VDR"};
+    Combo_Box cmbVDRInterval{*this, "cmbVDRInterval"};
+    Timer timer_VDR{*this, "timer_VDR"};
+    Check_Box chkVLW{*this, "chkVLW", "VLW"};
+    Combo_Box cmbVLWInterval{*this, "cmbVLWInterval"};
+    Timer timer_VLW{*this, "timer_VLW"};
+    Button cmdResetVLW{*this, "cmdResetVLW", "Reset VLW"};
+    Label lblVLW{*this, "lblVLW"}; // two lines
+
+    Label lblCurrentTitle{*this, "lblCurrentTitle", "Current value"};
+    Label lblCurrentSpeed{*this, "lblCurrentSpeed"};
+};
+
+// Makes the window of form index Open_Form_Index, 5 or 6, and runs its opening up to the point where it can
+// be shown. Any other index throws Run_Time_Error "Subscript out of range".
+std::shared_ptr<Sensor_Form> Load_frmLog(Simulator& Sim);
+
+} // namespace brinewright

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace brinewright {
+
+struct frmLog;
+
+// Unit, range and effect of each control, for the eye. Those of the sentences come from their table.
+void Set_Tool_Tips(frmLog& W);
+
+} // namespace brinewright

@@ -1,0 +1,183 @@
+// Opening of a gyro window: lists, settings, modes, staggers, and what START and PAUSE reach.
+
+#include "gyro_log_bench.hpp"
+
+namespace brinewright {
+namespace {
+
+using G = frmGyro;
+using Texts = std::vector<std::string>;
+
+struct Told_Sentence {
+    const char* Type;
+    Check_Box G::*Box;
+    Combo_Box G::*List;
+    Timer G::*Clock;
+    Per_Instance<bool> Message_State::*Enabled;
+    Per_Instance<std::int16_t> Message_State::*Interval;
+};
+using M = Message_State;
+const Told_Sentence Told[] = {
+    {"HDT", &G::chkHDT, &G::cmbHDTInterval, &G::timer_HDT, &M::HDT_Enabled, &M::HDT_Interval},
+    {"THS", &G::chkTHS, &G::cmbTHSInterval, &G::timer_THS, &M::THS_Enabled, &M::THS_Interval},
+    {"ROT", &G::chkROT, &G::cmbROTInterval, &G::timer_ROT, &M::ROT_Enabled, &M::ROT_Interval},
+    {"HDM", &G::chkHDM, &G::cmbHDMInterval, &G::timer_HDM, &M::HDM_Enabled, &M::HDM_Interval},
+    {"ATT", &G::chkATT, &G::cmbATTInterval, &G::timer_ATT, &M::ATT_Enabled, &M::ATT_Interval},
+    {"PRDID", &G::chkPRDID, &G::cmbPRDIDInterval, &G::timer_PRDID, &M::PRDID_Enabled, &M::PRDID_Interval},
+};
+
+TEST(Gyro_Opening, Fills_The_Lists_And_Restores_The_Settings_Of_Its_Instance) {
+    Gyro_Log_Bench Bench;
+    Bench.S.Gyro_Talker[2] = "GY";
+    Bench.S.Gyro_Decimals[2] = 3;
+    Bench.S.HDT_Interval[2] = 14;
+    Bench.S.Gyro_Noise_Enabled[2] = Bench.S.Gyro_Noise_Accumulated[2] = true;
+    Bench.S.Gyro_Noise_Level[2].Elements = {1, 6, 14, 0};
+    const frmGyro& W = Bench.Open_Gyro(2);
+    EXPECT_EQ(W.Tag, "4");
+    EXPECT_EQ(W.txtTalker.Text(), "GY");
+    EXPECT_EQ(W.cmbComPort.Text(), "UDP 60002");
+    EXPECT_EQ(Entries(W.cmbDecimals), (Texts{" 0", " 1", " 2", " 3"}));
+    EXPECT_EQ(W.cmbDecimals.List_Index(), 3);
+    EXPECT_EQ(Entries(W.cmbHDTInterval),
+              (Texts{"0.1 sec", "0.2 sec", "0.4 sec", "0.6 sec", "0.8 sec", "1.0 sec", "2.0 sec", "3.0 sec",
+                     "4.0 sec", "5.0 sec", "6.0 sec", "7.0 sec", "8.0 sec", "9.0 sec", "10.0 sec"}));
+    EXPECT_EQ(W.cmbHDTInterval.Text(), "10.0 sec");
+    EXPECT_EQ(W.cmbPRDIDInterval.Text(), "1.0 sec");
+    EXPECT_EQ(Entries(W.cmbModeIndicator),
+              (Texts{"A=Autonomous", "E=Estimated", "M=Manual", "S=Simulator", "V=Not valid"}));
+    Texts Noise = Entries(W.cmbHDTInterval); // the same numbers, save the shortest time
+    for (std::string& Text : Noise)
+        Text = (Text == "0.1 sec" ? "0.0" : Text.substr(0, Text.size() - 4)) + " \xB0";
+    for (const auto& List : W.cmbNoise) EXPECT_EQ(Entries(*List), Noise);
+    EXPECT_TRUE(W.chkNoise.Value());
+    EXPECT_EQ(W.optAccumulatedNoise.Selected(), 1);
+    EXPECT_EQ(W.Noise_Max.Elements, (std::array<float, 4>{0.2F, 2, 10, 0}));
+    EXPECT_FALSE(W.cmdPause.Enabled);
+    Expect_Tool_Tips(W);
+}
+
+TEST(Gyro_Opening, Choices_That_No_List_Has_Become_The_Defaults) {
+    for (const int Odd : {-1, 15, 32767, -32768}) {
+        Gyro_Log_Bench Bench;
+        const auto Stored = static_cast<std::int16_t>(Odd);
+        for (const Told_Sentence& T : Told) (Bench.S.*T.Interval)[1] = Stored;
+        Bench.S.Gyro_Decimals[1] = Stored;
+        Bench.S.Gyro_Noise_Level[1].Elements.fill(Stored);
+        const frmGyro& W = Bench.Open_Gyro();
+        for (const Told_Sentence& T : Told) {
+            EXPECT_EQ((W.*T.List).Text(), "1.0 sec") << T.Type;
+            EXPECT_EQ((Bench.S.*T.Interval)[1], 5) << T.Type;
+        }
+        EXPECT_EQ(Bench.S.Gyro_Decimals[1], 1);
+        for (const std::int16_t Level : Bench.S.Gyro_Noise_Level[1]) EXPECT_EQ(Level, 0);
+        EXPECT_EQ(Bench.Take_Boxes(), "");
+    }
+}
+
+TEST(Gyro_Opening, Shows_Heading_And_Turn_Without_Writing_Them) {
+    Gyro_Log_Bench Bench;
+    Bench.S.Gyro_HDG[1] = 359.97F;
+    Bench.S.Gyro_ROT[1] = -45.67F;
+    frmGyro& W = Bench.Open_Gyro();
+    EXPECT_EQ(W.scrHDG.Value(), 0);
+    EXPECT_EQ(W.scrROT.Value(), -300);
+    EXPECT_EQ(W.txtROT.Text(), "-45.7");
+    Bench.Type(W.txtROT, "-45.7"); // entered and left as it was
+    EXPECT_EQ(Bench.S.Gyro_HDG[1], 359.97F);
+    EXPECT_EQ(Bench.S.Gyro_ROT[1], -45.67F);
+    EXPECT_EQ(Bench.Take_Boxes(), "");
+}
+
+TEST(Gyro_Opening, Enabled_Sentences_Start_A_Stagger_Apart_And_HDM_Sends_Nothing) {
+    Gyro_Log_Bench Bench;
+    for (const Told_Sentence& T : Told) (Bench.S.*T.Enabled)[1] = true;
+    frmGyro& W = Bench.Open_Gyro();
+    EXPECT_NEAR(static_cast<double>(Bench.Now_us()), 5 * 150e3, 50);
+    Bench.Run_For(3.1);
+    int Place = 0;
+    for (const Told_Sentence& T : Told) {
+        const std::string Head = T.Box == &G::chkATT     ? "$PFEC,HEatt,"
+                                 : T.Box == &G::chkPRDID ? "$PRDID,"
+                                                         : std::string("$HE") + T.Type + ",";
+        EXPECT_EQ(Bench.Count(Head), T.Box == &G::chkHDM ? 0 : 3) << T.Type;
+        EXPECT_EQ((W.*T.Clock).Interval_ms(), 1000) << T.Type;
+        for (const auto& One : Bench.Sent)
+            if (One.Text.starts_with(Head)) {
+                EXPECT_NEAR(static_cast<double>(One.Time_us % 1'000'000), Place * 150e3, 2500) << T.Type;
+                EXPECT_EQ(One.Port, 18);
+            }
+        ++Place;
+    }
+    Bench.Click(W.chkHDM);
+    EXPECT_FALSE(Bench.S.HDM_Enabled[1]);
+    EXPECT_EQ(W.timer_HDM.Interval_ms(), 0);
+}
+
+TEST(Gyro_Opening, START_And_PAUSE_Reach_All_Six_And_The_Simulator) {
+    Gyro_Log_Bench Bench;
+    frmGyro& W = Bench.Open_Gyro();
+    for (const Told_Sentence& T : Told)
+        if (T.Box != &G::chkTHS) Bench.Click(W.*T.Box);
+    EXPECT_EQ(W.timer_Simulator.Interval_ms(), 0);
+    Bench.Click(W.cmdStart);
+    EXPECT_EQ(W.timer_Simulator.Interval_ms(), 400);
+    EXPECT_EQ(*W.cmdStart.Caption, "START");
+    Bench.Click(W.cmdPause);
+    EXPECT_EQ(*W.cmdStart.Caption, "Continue");
+    EXPECT_EQ(W.timer_Simulator.Interval_ms(), 0);
+    for (const Told_Sentence& T : Told) EXPECT_EQ((W.*T.Clock).Interval_ms(), 0) << T.Type;
+    Bench.Run_For(5);
+    EXPECT_TRUE(Bench.Sent.empty());
+    EXPECT_TRUE(Bench.S.HDT_Enabled[1]);
+    Bench.Click(W.cmdStart);
+    for (const Told_Sentence& T : Told)
+        EXPECT_EQ((W.*T.Clock).Interval_ms(), T.Box == &G::chkTHS ? 0 : 1000) << T.Type;
+    EXPECT_TRUE(W.cmdPause.Enabled);
+    Bench.Click(W.chkTHS);
+    Bench.Click(W.cmdPause);
+    Bench.Click(W.cmdStart);
+    EXPECT_EQ(W.timer_THS.Interval_ms(), 1000);
+}
+
+TEST(Gyro_Opening, Ship_Mode_Leaves_The_Sentences_Alone) {
+    Gyro_Log_Bench Bench("Ship");
+    Bench.S.Gyro_Noise_Enabled[1] = true;
+    Bench.S.Gyro_HDG[1] = 77;
+    Bench.S.HDT_Enabled[1] = true;
+    frmGyro& W = Bench.Open_Gyro();
+    EXPECT_TRUE(W.lblShipControl.Visible);
+    EXPECT_EQ(*W.lblShipControl.Caption, "Hdg and ROT control by Ship");
+    std::string Shown;
+    for (const Control* C : W.Controls)
+        if (C->Kind != Control_Kind::Timer && static_cast<const Visible_Control*>(C)->Visible)
+            Shown += C->Path() + " ";
+    EXPECT_EQ(Shown,
+              "frameNMEAMessages txtTalker cmbComPort lblShipControl lblModeIndicator cmbModeIndicator "
+              "lblDecimals cmbDecimals chkHDT cmbHDTInterval chkTHS cmbTHSInterval chkROT "
+              "cmbROTInterval chkHDM cmbHDMInterval chkATT lblATT cmbATTInterval chkPRDID lblPRDID "
+              "cmbPRDIDInterval frmCurrent lblHdgTitle lblCurrentHdg lblRotTitle lblCurrentRot "
+              "lblRollTitle lblCurrentRoll lblPitchTitle lblCurrentPitch ");
+    EXPECT_THROW(Bench.Click(W.cmdStart), User_Refusal);
+    EXPECT_THROW(Bench.Set(W.scrHDG, std::int64_t{5}), User_Refusal);
+    // Nothing makes a noisy heading in this mode, so that HDT stays at the one of a fresh window.
+    Bench.Run_For(1.1);
+    ASSERT_EQ(Bench.Sent.size(), 1U);
+    EXPECT_EQ(Bench.Sent[0].Text, Framed("HEHDT,000.0,T"));
+    Bench.Sent.clear();
+    W.chkNoise.Set_Value(false);
+    Bench.Run_For(1);
+    EXPECT_EQ(Bench.Sent.at(0).Text, Framed("HEHDT,077.0,T"));
+    EXPECT_FALSE(Gyro_Log_Bench().Open_Gyro().lblShipControl.Visible);
+}
+
+TEST(Gyro_Opening, Knows_No_Third_Gyro) {
+    Gyro_Log_Bench Bench;
+    for (const std::int16_t Index : {std::int16_t{2}, std::int16_t{5}}) {
+        Bench.S.Open_Form_Index = Index;
+        EXPECT_THROW(Load_frmGyro(Bench.Sim), Run_Time_Error);
+    }
+}
+
+} // namespace
+} // namespace brinewright

@@ -1,0 +1,237 @@
+// The wind gauge: what it sends, its true wind, units, noise and what it keeps.
+
+#include "echo_wind_bench.hpp"
+
+namespace brinewright {
+namespace {
+
+void Set_Wind(Echo_Wind_Bench& Bench, int k, float Speed, float From_deg) {
+    Bench.Sim.State.Wind_Speed[k] = Speed;
+    Bench.Sim.State.Wind_Direction[k] = From_deg;
+}
+
+TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
+    Echo_Wind_Bench Bench;
+    Simulator_State& S = Bench.Sim.State;
+    for (const int k : {1, 2}) Set_Wind(Bench, k, 10, 0);
+    S.Log_Speed[1] = 5;
+    S.Gyro_HDG[2] = 180;
+    S.Wind_Relative_Ref[1] = S.Wind_Relative_Ref[2] = true;
+    frmWind& First = Bench.Open_Wind(1);
+    frmWind& Second = Bench.Open_Wind(2);
+    EXPECT_EQ(Bench.Tick(First.timer_MWV), Framed("WIMWV,000.0,R,015.0,N,A"));
+    EXPECT_EQ(Bench.Left[0].first, 20);
+    EXPECT_EQ(*First.lblRelativeSpeed.Caption, "15");
+    EXPECT_EQ(*First.lblRelativeDir.Caption, "000");
+    EXPECT_EQ(*First.lblRelativeWind.Caption, "log 1 and  gyro 1");
+    EXPECT_EQ(Bench.Tick(Second.timer_MWV), Framed("WIMWV,180.0,R,010.0,N,A"));
+    EXPECT_EQ(Bench.Left[0].first, 21);
+    EXPECT_EQ(*Second.lblRelativeDir.Caption, "180");
+    EXPECT_EQ(*Second.lblRelativeWind.Caption, "log 2 and gyro 2");
+
+    // The label follows the ship by itself, in both modes.
+    S.Log_Speed[1] = 7;
+    Bench.Run_s(1.5);
+    EXPECT_EQ(*First.lblRelativeSpeed.Caption, "15");
+    Bench.Run_s(1);
+    EXPECT_EQ(*First.lblRelativeSpeed.Caption, "17");
+    S.Log_Speed[1] = -30; // faster astern than the wind blows from ahead
+    EXPECT_EQ(Field(Bench.Tick(First.timer_MWV), 3), 0);
+}
+
+TEST(Wind_Gauge, Sends_True_Wind_Status_And_Talker) {
+    Echo_Wind_Bench Bench;
+    Set_Wind(Bench, 1, 12.34F, 270.5F);
+    Bench.Sim.State.Gyro_HDG[1] = 33;
+    Bench.Sim.State.Log_Speed[1] = 20;
+    frmWind& W = Bench.Open_Wind();
+    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,270.5,T,012.34,N,A"));
+    EXPECT_EQ(*W.lblWindAngle.Caption, "270.5");
+    EXPECT_EQ(*W.lblWindSpeed.Caption, "12.34");
+    Bench.Click(W.chkInvalid);
+    Bench.Type(W.txtTalker, "xx");
+    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("XXMWV,270.5,T,012.34,N,V"));
+    Bench.Click(W.chkInvalid);
+    Bench.Click(*W.optRef.Buttons[0]);
+    EXPECT_TRUE(Bench.Sim.State.Wind_Relative_Ref[1]);
+    EXPECT_NE(Bench.Tick(W.timer_MWV).find(",R,"), std::string::npos);
+    Bench.Click(*W.optRef.Buttons[1]);
+    EXPECT_FALSE(Bench.Sim.State.Wind_Relative_Ref[1]);
+    Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
+    EXPECT_EQ(Bench.Tick(W.timer_MWV), "$XXMWV,270.5,T,012.34,N,A");
+    EXPECT_EQ(Bench.Tick(W.timer_MWD), "$XXMWD,270.5,T,270.5,M,012.34,N,006.35,M");
+}
+
+TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
+    Echo_Wind_Bench Bench;
+    Set_Wind(Bench, 1, 36, 90);
+    Bench.Sim.State.Gyro_HDG[1] = 90;
+    Bench.Sim.State.Log_Speed[1] = 10;
+    Bench.Sim.State.Wind_Relative_Ref[1] = true;
+    frmWind& W = Bench.Open_Wind();
+    EXPECT_EQ(Entries(W.cmbUnits), (Texts{"knots", "m/s", "km/h"}));
+    // 36 knots; 36 m/s are 69.978 knots; 36 km/h are 10 m/s, 19.438 knots. The log adds 10 knots.
+    const struct {
+        const char* Unit;
+        const char* MWD;
+        const char* MWV;
+    } Rows[] = {{"knots", "036.0,N,018.52,M", "046.0,N"},
+                {"m/s", "069.98,N,036.0,M", "041.14,M"},
+                {"km/h", "019.44,N,010.0,M", "054.52,K"}};
+    for (const auto& Row : Rows) {
+        Bench.Type(W.cmbUnits, Row.Unit);
+        EXPECT_EQ(*W.lblUnit[0].Caption, Row.Unit);
+        EXPECT_EQ(*W.lblUnit[1].Caption, Row.Unit);
+        EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed(std::string("WIMWD,090.0,T,090.0,M,") + Row.MWD));
+        EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed(std::string("WIMWV,000.0,R,") + Row.MWV + ",A"));
+        EXPECT_EQ(Bench.Sim.State.Wind_Speed[1], 36);
+    }
+    EXPECT_EQ(*W.lblRelativeSpeed.Caption, "55");
+}
+
+TEST(Wind_Gauge, Magnetic_Direction_Wraps_And_The_Variation_Shows) {
+    Echo_Wind_Bench Bench;
+    Bench.Sim.State.Magnetic_Variation = -2.5F;
+    frmWind& W = Bench.Open_Wind();
+    EXPECT_EQ(*W.lblMagDev.Caption, "-2.5 deg");
+    const struct {
+        float From_deg, Variation_deg;
+        const char* Directions;
+        const char* Shown;
+    } Rows[] = {{359, 2.5F, "359.0,T,001.5,M", " 2.5 deg"},
+                {1, -2.5F, "001.0,T,358.5,M", "-2.5 deg"},
+                {350, 10, "350.0,T,000.0,M", " 10 deg"},
+                {20.25F, 0, "020.25,T,020.25,M", " 0 deg"}};
+    for (const auto& Row : Rows) {
+        Set_Wind(Bench, 1, 0, Row.From_deg);
+        Bench.Sim.State.Magnetic_Variation = Row.Variation_deg;
+        EXPECT_EQ(Bench.Tick(W.timer_MWD),
+                  Framed(std::string("WIMWD,") + Row.Directions + ",000.0,N,000.0,M"));
+        EXPECT_EQ(*W.lblMagDev.Caption, Row.Shown);
+    }
+    EXPECT_EQ(*W.lblShipSetup.Caption, "(Ship Setup)");
+}
+
+TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
+    Echo_Wind_Bench Bench;
+    Simulator_State& S = Bench.Sim.State;
+    S.Wind_Noise_Enabled[2] = true;
+    S.Wind_Noise_Level[2][0] = 10;
+    S.Wind_Noise_Level[2][1] = 4;
+    Set_Wind(Bench, 2, 1, 3);
+    frmWind& W = Bench.Open_Wind(2);
+    EXPECT_EQ(W.cmbNoise[0].Text(), "10");
+    EXPECT_EQ(W.cmbNoise[1].Items().size(), 21U);
+    double Left_deg = 0, Right_deg = 0, Least = 99, Most = 0;
+    for (int I = 0; I < 400; ++I) {
+        const std::string MWV = Bench.Tick(W.timer_MWV);
+        const double Angle_deg = Field(MWV, 1), Speed = Field(MWV, 3);
+        ASSERT_TRUE(Angle_deg >= 0 && Angle_deg <= 360) << MWV;
+        const double Off_deg = std::remainder(Angle_deg - 3, 360);
+        Left_deg = std::min(Left_deg, Off_deg), Right_deg = std::max(Right_deg, Off_deg);
+        Least = std::min(Least, Speed), Most = std::max(Most, Speed);
+    }
+    EXPECT_TRUE(Left_deg >= -10 && Left_deg < -9.5) << Left_deg;
+    EXPECT_TRUE(Right_deg <= 10 && Right_deg > 9.5) << Right_deg;
+    EXPECT_EQ(Least, 0);
+    EXPECT_TRUE(Most <= 5 && Most > 4.8) << Most;
+    EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed("WIMWD,003.0,T,003.0,M,001.0,N,000.51,M"));
+    EXPECT_EQ(S.Wind_Direction[2], 3);
+
+    W.cmbNoise[1].Set_List_Index(20);
+    Bench.Click(W.chkNoise);
+    EXPECT_EQ(S.Wind_Noise_Level[2][1], 20);
+    EXPECT_EQ(S.Wind_Noise_Level[2][0], 10);
+    EXPECT_FALSE(S.Wind_Noise_Enabled[2]);
+    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,003.0,T,001.0,N,A"));
+}
+
+struct Typed_Wind {
+    const char* Text;
+    float Value;
+    const char* Shown;
+    int Bar;
+};
+
+TEST(Wind_Gauge, Bars_And_Boxes_Set_The_True_Wind) {
+    Echo_Wind_Bench Bench;
+    Simulator_State& S = Bench.Sim.State;
+    frmWind& W = Bench.Open_Wind();
+    for (const Typed_Wind& T : {Typed_Wind{"123.4", 123.4F, "123.4", 1234},
+                                {"123,41", 123.4F, "123.4", 1234},
+                                {"360", 0, "000.0", 0},
+                                {"359.96", 0, "000.0", 0},
+                                {"-5", 0, "000.0", 0},
+                                {"359.9", 359.9F, "359.9", 3599},
+                                {"1e300", 0, "000.0", 0},
+                                {"7.5", 7.5F, "007.5", 75},
+                                {"north", 0, "000.0", 0}}) {
+        Bench.Type(W.txtHDG, T.Text);
+        EXPECT_EQ(S.Wind_Direction[1], T.Value) << T.Text;
+        EXPECT_EQ(W.scrHDG.Value(), T.Bar) << T.Text;
+        EXPECT_EQ(W.txtHDG.Text(), T.Shown) << T.Text;
+    }
+    for (const Typed_Wind& T : {Typed_Wind{"12.34", 12.34F, "12.3", 123},
+                                {"-8", 8, "8.0", 80},
+                                {"64", 64, "64.0", 400},
+                                {"calm", 0, "0.0", 0}}) {
+        Bench.Type(W.txtSpeed, T.Text);
+        EXPECT_EQ(S.Wind_Speed[1], T.Value) << T.Text;
+        EXPECT_EQ(W.scrSpeed.Value(), T.Bar) << T.Text;
+        EXPECT_EQ(W.txtSpeed.Text(), T.Shown) << T.Text;
+        EXPECT_EQ(*W.lblSpeed.Caption, T.Shown) << T.Text;
+    }
+    Bench.Sim.Windows.User_Set(W.scrHDG, std::int64_t{-1});
+    EXPECT_EQ(S.Wind_Direction[1], 359.9F);
+    Bench.Sim.Windows.User_Set(W.scrHDG, std::int64_t{3600});
+    EXPECT_EQ(S.Wind_Direction[1], 0);
+    W.scrSpeed.Set_Value(255);
+    EXPECT_EQ(S.Wind_Speed[1], 25.5F);
+    EXPECT_EQ(*W.lblRelativeSpeed.Caption, "26") << "worked out at once";
+    EXPECT_EQ(S.Wind_Speed[2], 0);
+
+    Bench.Type(W.txtSpeed, "1e300");
+    for (const char* Unit : {"knots", "m/s", "km/h"}) {
+        Bench.Type(W.cmbUnits, Unit);
+        for (const int Reference : {0, 1}) {
+            W.optRef.Select(Reference);
+            for (Timer* Clock : {&W.timer_MWV, &W.timer_MWD})
+                EXPECT_TRUE(Has_Numbers_Only(Bench.Tick(*Clock))) << Bench.Left[0].second;
+        }
+    }
+    EXPECT_TRUE(Bench.Take_Boxes().empty());
+}
+
+TEST(Wind_Gauge, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
+    Echo_Wind_Bench Bench;
+    Simulator_State& S = Bench.Sim.State;
+    Set_Wind(Bench, 2, 55.55F, 359.97F);
+    S.Wind_Relative_Ref[2] = true;
+    S.MWV_Enabled[2] = S.MWD_Enabled[2] = true;
+    S.MWV_Interval[2] = 3;
+    S.MWD_Interval[2] = -1;        // no such entry
+    S.Wind_Noise_Level[2][0] = 21; // neither
+    const std::int64_t Before_us = Bench.Now_us();
+    frmWind& W = Bench.Open_Wind(2);
+    EXPECT_GT(Bench.Now_us() - Before_us, 150'000) << "the second sentence starts at once";
+    EXPECT_EQ(W.Tag, "10");
+    EXPECT_EQ(S.Wind_Speed[2], 55.55F) << "showing it has changed it";
+    EXPECT_EQ(S.Wind_Direction[2], 359.97F);
+    EXPECT_EQ(W.scrHDG.Value(), 0);
+    EXPECT_EQ(W.scrSpeed.Value(), 400);
+    EXPECT_EQ(W.optRef.Selected(), 0);
+    EXPECT_EQ(W.cmbNoise[0].Text(), "0");
+    EXPECT_EQ(W.cmbUnits.Text(), "knots");
+    EXPECT_EQ(Entries(W.cmbMWVInterval),
+              (Texts{"0.1 sec", "0.5 sec", " 1 sec", " 2 sec", " 3 sec", " 4 sec", " 5 sec"}));
+    EXPECT_EQ(W.cmbMWVInterval.Text(), " 2 sec");
+    EXPECT_EQ(W.cmbMWDInterval.Text(), "0.1 sec");
+    EXPECT_EQ(Bench.Open_Wind(1).cmbMWVInterval.Text(), " 1 sec");
+    Expect_Tool_Tips(W);
+    Bench.Left.clear();
+    Bench.Run_s(10);
+    EXPECT_EQ(Bench.Left.size(), 105U);
+}
+
+} // namespace
+} // namespace brinewright

@@ -1,0 +1,312 @@
+// The ship window: opening, throttle, rate of turn, heading, noise, labels, freeze and pause.
+
+#include "ship_bench.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace brinewright {
+namespace {
+
+TEST(Frm_Ship, Opening_Shows_The_State_And_Changes_Nothing) {
+    Ship_Bench B([](Simulator_State& S) {
+        S.Nav_SOG = 12.3F;
+        S.Nav_Rudder = 7.25F;
+        S.Nav_HDG = 45.678;
+        S.Nav_COG = 46.25;
+        S.Gyro_Offset[1] = 1.5F;
+        S.Ship_SOG_Noise_Index = 3;
+        S.Ship_ROT_Noise_Index = 10;
+    });
+    const frmShip& W = B.Ship();
+    EXPECT_EQ(B.State().Nav_SOG, 12.3F);
+    EXPECT_EQ(B.State().Nav_Rudder, 7.25F);
+    EXPECT_EQ(B.State().Nav_HDG, 45.678);
+    EXPECT_EQ(W.sldThrottle.Value(), -31);
+    EXPECT_EQ(W.sldRudder.Value(), 72); // half way: to even
+    EXPECT_EQ(Shown(W.lblThrottle), "31 % ahead");
+    EXPECT_EQ(Shown(W.lblSOG), "12.3 knot");
+    EXPECT_EQ(Shown(W.lblRudder), "7.3");
+    EXPECT_EQ(*W.lblRudder.Fore_Colour, Ink::Green);
+    EXPECT_EQ(W.cmbHDG.Text(), "046.3") << "the course, as required";
+    EXPECT_EQ(Shown(W.lblGyro[0]), "047.18 deg");
+    EXPECT_EQ(Shown(W.lblLat[0]), "62\xB0 35.5000' N");
+    EXPECT_EQ(Shown(W.lblLon[0]), "006\xB0 10.0000' E");
+    EXPECT_EQ(W.cmbHDG.Items().size(), 24U);
+    EXPECT_EQ(W.cmbHDG.Items().back().Text, "345");
+    EXPECT_EQ(W.cmbSOGNoise.Text(), "0.3 kt");
+    EXPECT_EQ(W.cmbROTNoise.Text(), "1.0 \xB0");
+    EXPECT_EQ(W.cmbROTNoise.Items().size(), 11U);
+    EXPECT_EQ(W.Path(), "frmShip");
+    EXPECT_EQ(W.Caption, "Ship Simulator");
+    EXPECT_TRUE(*B.Sim.Main->mnuShip.Checked);
+    EXPECT_TRUE(*W.lblJoystick.Visible);
+    EXPECT_FALSE(*W.frameJoystick.Visible || *W.frameArrows.Visible || *W.lblFreeze.Visible ||
+                 *W.lblPause.Visible);
+    for (const Control* C : W.Controls) {
+        if (C->Kind == Control_Kind::Timer) continue;
+        EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
+    }
+}
+
+TEST(Frm_Ship, Starts_At_The_Start_Position_Unless_Told_Otherwise) {
+    for (const bool Last : {false, true}) {
+        Ship_Bench B([&](Simulator_State& S) {
+            S.Start_With_Last_Navdata = Last;
+            S.Start_Lat = -10;
+            S.Start_Lon = 20.5;
+            S.Nav_Lat = 50;
+            S.Nav_SOG = -2.5F;
+            S.LatLon_Format = 1;
+        });
+        EXPECT_EQ(B.State().Nav_Lat, Last ? 50 : -10);
+        EXPECT_EQ(Shown(B.Ship().lblLat[0]), Last ? "50\xB0"
+                                                    "00'00.000\"N"
+                                                  : "10\xB0"
+                                                    "00'00.000\"S");
+        if (Last) {
+            EXPECT_EQ(B.Ship().sldThrottle.Value(), 50);
+            EXPECT_EQ(Shown(B.Ship().lblThrottle), "50 % astern");
+            EXPECT_EQ(Shown(B.Ship().lblSOG), "-2.5 knot");
+        }
+    }
+}
+
+TEST(Frm_Ship, Has_One_Size_And_Keeps_Its_Place) {
+    Ship_Bench B;
+    B.Sim.Windows.Event([&] { B.Ship().Set_Place(100, 200, 9000, 1); });
+    EXPECT_EQ(B.Ship().Width, 7212);
+    EXPECT_EQ(B.Ship().Height, 5700);
+    const std::weak_ptr<frmShip> Gone = B.Sim.Ship;
+    B.Close(B.Ship());
+    EXPECT_TRUE(Gone.expired());
+    EXPECT_FALSE(*B.Sim.Main->mnuShip.Checked);
+    EXPECT_EQ(B.Sim.Ship, nullptr);
+    ASSERT_EQ(B.State().Open_Form_Count, 1);
+    EXPECT_EQ(B.State().Open_Form_List[1].Name, "frmShip");
+    EXPECT_EQ(B.State().Open_Form_List[1].Index, 0);
+    B.State().Nav_SOG = 10;
+    const double Lat = B.State().Nav_Lat;
+    B.Run_s(10);
+    EXPECT_EQ(B.State().Nav_Lat, Lat) << "only an open window moves the ship";
+    B.Click(B.Sim.Main->mnuShip);
+    EXPECT_EQ(B.Ship().Left, 100);
+    EXPECT_EQ(B.Ship().Top, 200);
+    const frmShip* Same = B.Sim.Ship.get();
+    B.Click(B.Sim.Main->mnuShip);
+    EXPECT_EQ(B.Sim.Ship.get(), Same);
+    B.Run_s(10);
+    EXPECT_GT(B.State().Nav_Lat, Lat);
+}
+
+TEST(Frm_Ship, Throttle_And_Rate_Of_Turn_Act_At_Once) {
+    Ship_Bench B;
+    frmShip& W = B.Ship();
+    const struct {
+        int Throttle;
+        float SOG_kn;
+        const char *Percent, *Speed;
+    } Throttles[] = {{-100, 40, "100 % ahead", "40.0 knot"},
+                     {-1, 0.4F, "1 % ahead", "0.4 knot"},
+                     {50, -2.5F, "50 % astern", "-2.5 knot"},
+                     {100, -5, "100 % astern", "-5.0 knot"},
+                     {0, 0, "0 %", "0.0 knot"}};
+    for (const auto& T : Throttles) {
+        B.Place(W.sldThrottle, T.Throttle);
+        EXPECT_EQ(B.State().Nav_SOG, T.SOG_kn) << T.Throttle;
+        EXPECT_EQ(Shown(W.lblThrottle), T.Percent);
+        EXPECT_EQ(Shown(W.lblSOG), T.Speed);
+    }
+    const struct {
+        int Tenths;
+        float Rate;
+        const char* Text;
+        Ink Colour;
+    } Rates[] = {{125, 12.5F, "12.5", Ink::Green},
+                 {-3, -0.3F, "0.3", Ink::Red},
+                 {999, 30, "30.0", Ink::Green},
+                 {0, 0, "0.0", Ink::Black}};
+    for (const auto& R : Rates) {
+        B.Place(W.sldRudder, R.Tenths);
+        EXPECT_EQ(B.State().Nav_Rudder, R.Rate) << R.Tenths;
+        EXPECT_EQ(Shown(W.lblRudder), R.Text);
+        EXPECT_EQ(*W.lblRudder.Fore_Colour, R.Colour);
+    }
+}
+
+TEST(Frm_Ship, All_Stop_Stops_What_The_Sliders_Are_Too_Coarse_For) {
+    Ship_Bench B;
+    frmShip& W = B.Ship();
+    for (const int Place : {0, -30}) {
+        B.Place(W.sldThrottle, Place);
+        B.Place(W.sldRudder, Place);
+        B.State().Nav_SOG = 0.1F;
+        B.State().Nav_Rudder = 0.01F;
+        B.Click(W.cmdZeroRudder);
+        EXPECT_EQ(B.State().Nav_Rudder, 0);
+        EXPECT_EQ(B.State().Nav_SOG, 0.1F);
+        B.State().Nav_Rudder = 0.01F;
+        B.Click(W.cmdZero);
+        EXPECT_EQ(B.State().Nav_SOG, 0);
+        EXPECT_EQ(B.State().Nav_Rudder, 0);
+        EXPECT_EQ(W.sldThrottle.Value(), 0);
+        EXPECT_EQ(W.sldRudder.Value(), 0);
+        EXPECT_EQ(Shown(W.lblSOG), "0.0 knot");
+    }
+}
+
+TEST(Frm_Ship, Heading_List_Takes_What_Is_A_Heading) {
+    Ship_Bench B;
+    const struct {
+        const char* Typed;
+        double Heading_deg;
+        const char* Left;
+    } Rows[] = {{"123.4", 123.4, "123.4"}, {"45", 45, "45"},      {"7,5", 7.5, "7,5"},   {"361", 360, "360"},
+                {"-1", 0, "000"},          {"north", 0, "north"}, {"1e999", 360, "360"}, {"", 0, ""},
+                {"-1e999", 0, "000"},      {"nan", 0, "nan"},     {"345", 345, "345"}};
+    for (const auto& R : Rows) {
+        B.State().Nav_HDG = 1;
+        B.Set(B.Ship().cmbHDG, std::string("200"));
+        B.Set(B.Ship().cmbHDG, std::string(R.Typed));
+        EXPECT_EQ(B.State().Nav_HDG, R.Heading_deg) << R.Typed;
+        EXPECT_EQ(B.Ship().cmbHDG.Text(), R.Left);
+    }
+    B.Set(B.Ship().cmbHDG, std::string("360"));
+    B.Run_s(1);
+    EXPECT_EQ(B.State().Nav_HDG, 0);
+    EXPECT_EQ(B.Ship().cmbHDG.Text(), "000.0");
+}
+
+TEST(Frm_Ship, Labels_After_A_Step) {
+    Ship_Bench B([](Simulator_State& S) {
+        S.Log_Offset[1] = 1;
+        S.Gyro_Offset[2] = -10.25F;
+        S.Lat_Offset = 1852;
+    });
+    frmShip& W = B.Ship();
+    B.Place(W.sldThrottle, -30);
+    B.Set(W.cmbHDG, std::string("5.06"));
+    B.Run_s(1);
+    EXPECT_EQ(Shown(W.lblLat[0]), "62\xB0 35.5033' N");
+    EXPECT_EQ(Shown(W.lblLat[1]), "62\xB0 36.5033' N");
+    EXPECT_EQ(Shown(W.lblLon[1]), "006\xB0 10.0006' E");
+    EXPECT_EQ(Shown(W.lblGyro[0]), "005.06 deg");
+    EXPECT_EQ(Shown(W.lblGyro[1]), "354.81 deg");
+    EXPECT_EQ(Shown(W.lblCOG), "005.06 deg");
+    EXPECT_EQ(W.cmbHDG.Text(), "005.1");
+    EXPECT_EQ(B.State().Nav_HDG, 5.06) << "the label rounds, the ship does not";
+    EXPECT_EQ(Shown(W.lblLog[0]), "13.0 knot");
+    EXPECT_EQ(Shown(W.lblLog[1]), "12.0 knot");
+    EXPECT_EQ(Shown(W.lblSet), "185.1 deg");
+    EXPECT_EQ(Shown(W.lblDrift), "1.0 knot");
+
+    W.GUI_Off = true;
+    B.Run_s(60);
+    EXPECT_EQ(Shown(W.lblLat[0]), "62\xB0 35.5033' N");
+    EXPECT_GT(B.State().GNSS_Lat[1], 62.594);
+}
+
+TEST(Frm_Ship, Noise_Is_Of_The_Sensors_And_Of_The_Way_Sailed_Only) {
+    Ship_Bench B;
+    frmShip& W = B.Ship();
+    B.Place(W.sldThrottle, -30);
+    B.Place(W.sldRudder, -100);
+    B.Set(W.cmbROTNoise, std::string("0.5 \xB0"));
+    B.Set(W.cmbSOGNoise, std::string("1.0 kt"));
+    EXPECT_EQ(B.State().Ship_ROT_Noise_Index, 5);
+    EXPECT_EQ(B.State().Ship_SOG_Noise_Index, 10);
+    std::mt19937_64 Draws(0); // the generator of the standard, whose 10000th draw is fixed by it
+    const auto Draw = [&] { return std::ldexp(static_cast<double>(Draws() >> 11), -53); };
+    for (int Second = 0; Second < 100; ++Second) {
+        B.Run_s(1);
+        const double ROT = -10 - 0.5 + Draw(), SOG_kn = 12 - 1 + 2 * Draw(); // the rate is drawn first
+        EXPECT_NEAR(B.State().Gyro_ROT[2], ROT, 1e-6);
+        EXPECT_NEAR(B.State().GNSS_SOG[1], SOG_kn, 1e-6);
+        EXPECT_EQ(B.State().Log_Speed[1], 12);
+        EXPECT_EQ(B.State().Nav_SOG, 12);
+        EXPECT_EQ(B.State().Nav_Rudder, -10);
+        EXPECT_NEAR(Val_Dot(Shown(W.lblRudder)), -ROT, 0.0051);
+        EXPECT_EQ(*W.lblRudder.Fore_Colour, Ink::Red);
+        EXPECT_NEAR(Val_Dot(Shown(W.lblSOG)), SOG_kn, 0.0051);
+    }
+    EXPECT_EQ(Shown(W.lblSOG).substr(2, 1) + Shown(W.lblSOG).substr(5), ". knot") << "two decimals";
+    B.Set(W.cmbROTNoise, std::int64_t{0});
+    B.Place(W.sldRudder, 50);
+    B.Run_s(1);
+    EXPECT_EQ(Shown(W.lblRudder), "5.0") << "as the slider wrote it";
+}
+
+TEST(Frm_Ship, Noise_Of_A_Setup_File_May_Be_Anything) {
+    for (const float Stored : {-1.0F, 11.0F, 1e30F, -1e30F, std::numeric_limits<float>::quiet_NaN()}) {
+        Ship_Bench B;
+        B.Close(B.Ship());
+        B.State().Ship_SOG_Noise_Index = B.State().Ship_ROT_Noise_Index = Stored;
+        B.Click(B.Sim.Main->mnuShip);
+        EXPECT_EQ(B.Ship().cmbSOGNoise.List_Index(), 0) << Stored;
+        EXPECT_EQ(B.Ship().cmbROTNoise.List_Index(), 0) << Stored;
+        EXPECT_EQ(B.State().Ship_ROT_Noise_Index, 0);
+        EXPECT_EQ(B.Take_Boxes(), Texts{});
+    }
+}
+
+TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
+    Ship_Bench B;
+    frmShip& W = B.Ship();
+    B.Use({18});
+    B.Place(W.sldThrottle, -100);
+    B.Place(W.sldRudder, 300);
+    B.Set(W.cmbSOGNoise, std::int64_t{5});
+    B.Run_s(3);
+    B.Click(W.cmdFreeze);
+    EXPECT_EQ(Shown(W.cmdFreeze), "continue");
+    EXPECT_TRUE(*W.lblFreeze.Visible);
+    const Simulator_State& S = B.State();
+    const double Lat = S.Nav_Lat, Heading_deg = S.Nav_HDG;
+    const float SOG_kn = S.GNSS_SOG[1];
+    const std::string Label = Shown(W.lblSOG), Position = Shown(W.lblLat[0]);
+    B.Run_s(100);
+    EXPECT_EQ(S.Nav_Lat, Lat);
+    EXPECT_EQ(S.Nav_HDG, Heading_deg);
+    EXPECT_EQ(S.GNSS_SOG[1], SOG_kn);
+    EXPECT_EQ(Shown(W.lblSOG), Label);
+    EXPECT_EQ(Shown(W.lblLat[0]), Position);
+    EXPECT_EQ(B.Send("$A", 18), "$A\r\n") << "sentences go on";
+    B.Click(W.cmdFreeze);
+    EXPECT_EQ(Shown(W.cmdFreeze), "FREEZE");
+    EXPECT_FALSE(*W.lblFreeze.Visible);
+
+    B.Click(W.cmdPause);
+    EXPECT_EQ(Shown(W.cmdPause), "continue");
+    EXPECT_TRUE(*W.lblPause.Visible);
+    const std::size_t Sent = B.Left.size();
+    B.Send("$B", 18);
+    EXPECT_EQ(B.Left.size(), Sent);
+    B.Run_s(1);
+    EXPECT_NE(S.Nav_Lat, Lat) << "the ship goes on";
+    B.Click(W.cmdPause);
+    EXPECT_EQ(Shown(W.cmdPause), "TX PAUSE");
+    EXPECT_FALSE(*W.lblPause.Visible);
+    B.Send("$C", 18);
+    EXPECT_EQ(B.Left.size(), Sent + 1);
+}
+
+TEST(Frm_Ship, A_Freeze_Of_The_Last_Session_Is_Kept) {
+    Ship_Bench B([](Simulator_State& S) {
+        S.Freeze_Active = true;
+        S.Nav_SOG = 20;
+    });
+    EXPECT_EQ(Shown(B.Ship().cmdFreeze), "continue");
+    EXPECT_TRUE(*B.Ship().lblFreeze.Visible);
+    const double Lat = B.State().Nav_Lat;
+    B.Run_s(10);
+    EXPECT_EQ(B.State().Nav_Lat, Lat);
+    B.Click(B.Ship().cmdFreeze);
+    B.Run_s(1);
+    EXPECT_GT(B.State().Nav_Lat, Lat);
+}
+
+} // namespace
+} // namespace brinewright
