@@ -15,8 +15,7 @@ void Set_By_User(const Automation_Target& Target, const Address& Where, const Js
 void Type_By_User(const Automation_Target& Target, const Address& Where, const std::string& Text);
 void Focus_By_User(const Automation_Target& Target, const Address& Where);
 void Leave_By_User(const Automation_Target& Target);
-void Key_By_User(const Automation_Target& Target, Form& Window, int Key_Code,
-                 Key_Modifiers Held);
+void Key_By_User(const Automation_Target& Target, Form& Window, int Key_Code, Key_Modifiers Held);
 void Close_By_User(const Automation_Target& Target, Form& Window);
 // Box or dialog Id; File_Path only counts for a dialog, where an empty one says that none was chosen.
 void Answer_By_User(const Automation_Target& Target, std::int64_t Id, const std::string& File_Path);

@@ -46,7 +46,8 @@ void Paint_Figures(QPainter& Painter, const QRectF& Place, const Slider_Scale_Re
         const double Middle = From + Room / 2;
         Painter.drawText(Lies ? QRectF(Place.left() + Middle - 40, Place.top() + Behind - 2, 80, 16)
                               : QRectF(Place.left() + Behind, Place.top() + Middle - 8, 80, 16),
-                         Lies ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter, Figure.Text);
+                         static_cast<int>(Lies ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter),
+                         Figure.Text);
     }
 }
 
@@ -65,9 +66,11 @@ void Paint_Slider_Scale(QPainter& Painter, const QRectF& Place, const Slider_Sca
     double Step = Shown.Step;
     while (Step * (Length - Thumb_Length) < Least_Step) Step *= 2;
     constexpr double Slack = 1e-9;
-    for (double Share = Shown.Origin - std::floor(Shown.Origin / Step + Slack) * Step; Share <= 1 + Slack;
-         Share += Step)
-        Draw_Tick(Painter, Place, Shown.Direction, Thumb_Middle(Share, Length), Tick_Length);
+    const int Before = static_cast<int>(Shown.Origin / Step + Slack); // ticks on either side of the origin
+    const int Behind = static_cast<int>((1 - Shown.Origin) / Step + Slack);
+    for (int I = -Before; I <= Behind; ++I)
+        Draw_Tick(Painter, Place, Shown.Direction, Thumb_Middle(Shown.Origin + I * Step, Length),
+                  Tick_Length);
     Paint_Figures(Painter, Place, Shown, Length, Kind);
 }
 

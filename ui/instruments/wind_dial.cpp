@@ -109,7 +109,7 @@ void Paint_Legend(QPainter& Painter, const Dial& D, const QRectF& Place, const W
                                Token Ink) {
             Painter.setPen(D.In(Ink));
             Painter.drawText(QRectF(Place.center().x() + Left, Y, Width, Legend_Height / 2),
-                             Side | Qt::AlignVCenter, Text);
+                             static_cast<int>(Side | Qt::AlignVCenter), Text);
         };
         Write(-76, 60, Qt::AlignLeft, QString::fromLatin1(Line.Name), Token::Dim_Text);
         Write(-16, 40, Qt::AlignRight, Angle_Text(Line.Angle_deg, 0), Token::Readout);
