@@ -117,7 +117,8 @@ Json Boxes_Json(const Desktop& Windows) {
                        {"kind", "message"},
                        {"title", To_UTF8(Box.Title)},
                        {"text", To_UTF8(Box.Text)},
-                       {"icon", Icon_Names.at(static_cast<std::size_t>(Box.Icon))}});
+                       {"icon", Icon_Names.at(static_cast<std::size_t>(Box.Icon))},
+                       {"buttons", Box.Buttons == Box_Buttons::OK ? Json{"OK"} : Json{"OK", "Cancel"}}});
     for (const File_Dialog& Dialog : Windows.File_Dialogs)
         All.push_back({{"id", Dialog.Id},
                        {"kind", Dialog.Save ? "save file" : "open file"},

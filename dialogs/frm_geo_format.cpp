@@ -2,6 +2,7 @@
 
 #include "ownship/format_position.hpp"
 #include "ownship/latin1.hpp"
+#include "shell/open_once.hpp"
 #include "shell/simulator.hpp"
 
 namespace brinewright {
@@ -37,7 +38,6 @@ void frmGeoFormat_Load(Simulator& Sim, frmGeoFormat& F) {
     F.cmdCancel.Tool_Tip = std::string("Leaves the format as it was");
     F.cmdOk.Click = [&Sim, &F] { cmdOk_Click(Sim, F); };
     F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
-    F.On_Unload = [&Sim] { Sim.GeoFormat.reset(); };
     // A setup may hold any number; whatever is not 0 shows positions in degrees, minutes and seconds.
     F.optFormat.Select(Sim.State.LatLon_Format == 0 ? 0 : 1);
 }
@@ -56,14 +56,7 @@ frmGeoFormat::frmGeoFormat(Desktop& Its_Windows)
 }
 
 void mnuSetupLatLonFormat_Click(Simulator& Sim) {
-    if (Sim.GeoFormat) {
-        Sim.Windows.Activate(*Sim.GeoFormat);
-        return;
-    }
-    auto Window = std::make_shared<frmGeoFormat>(Sim.Windows);
-    frmGeoFormat_Load(Sim, *Window);
-    Sim.GeoFormat = Window;
-    Sim.Windows.Show(std::move(Window));
+    Open_Once(Sim, Sim.GeoFormat, frmGeoFormat_Load);
 }
 
 } // namespace brinewright

@@ -1,6 +1,7 @@
 #include "links/frm_iec61162.hpp"
 
 #include "shell/frm_main.hpp"
+#include "shell/open_once.hpp"
 #include "shell/simulator.hpp"
 
 #include <array>
@@ -74,7 +75,6 @@ void frmIEC61162_Load(Simulator& Sim, frmIEC61162& F) {
     }
     F.cmdOK.Click = [&Sim, &F] { cmdOK_Click(Sim, F); };
     F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
-    F.On_Unload = [&Sim] { Sim.IEC61162.reset(); };
 }
 
 } // namespace
@@ -86,15 +86,6 @@ frmIEC61162::frmIEC61162(Desktop& Its_Windows) : Form(Its_Windows, "frmIEC61162"
                                                           static_cast<int>(chkIEC61162.size())));
 }
 
-void mnuOptionIEC450_Click(Simulator& Sim) {
-    if (Sim.IEC61162) {
-        Sim.Windows.Activate(*Sim.IEC61162);
-        return;
-    }
-    auto Window = std::make_shared<frmIEC61162>(Sim.Windows);
-    frmIEC61162_Load(Sim, *Window);
-    Sim.IEC61162 = Window;
-    Sim.Windows.Show(std::move(Window));
-}
+void mnuOptionIEC450_Click(Simulator& Sim) { Open_Once(Sim, Sim.IEC61162, frmIEC61162_Load); }
 
 } // namespace brinewright

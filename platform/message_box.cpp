@@ -5,8 +5,8 @@
 
 namespace brinewright {
 
-void Message_Boxes::Show(std::string Text, std::string Title, Box_Icon Icon) {
-    Standing.push_back({++Last_Id, std::move(Text), std::move(Title), Icon});
+void Message_Boxes::Show(std::string Text, std::string Title, Box_Icon Icon, Box_Buttons Buttons) {
+    Standing.push_back({++Last_Id, std::move(Text), std::move(Title), Icon, Buttons});
     // A copy, because the listener may answer at once and so remove the element.
     const Message_Box Shown = Standing.back();
     if (On_Show) On_Show(Shown);

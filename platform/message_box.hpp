@@ -8,15 +8,17 @@
 namespace brinewright {
 
 enum class Box_Icon { None, Information, Warning, Stop };
+enum class Box_Buttons { OK, OK_Cancel }; // both take the box away, and nothing depends on which
 
 struct Message_Box {
     std::int64_t Id = 0; // counts from 1, to answer it by
     std::string Text;
     std::string Title;
     Box_Icon Icon = Box_Icon::None;
+    Box_Buttons Buttons = Box_Buttons::OK;
 };
 
-// The message boxes that stand, oldest first. A box has one button, OK. The handler that shows one goes on at
+// The message boxes that stand, oldest first. The handler that shows one goes on at
 // once: nothing that follows a box depends on its answer, and the timers keep ticking behind it. Send_NMEA
 // sends nothing while one stands.
 struct Message_Boxes {
@@ -25,7 +27,8 @@ struct Message_Boxes {
     std::function<void(const Message_Box&)> On_Show; // told of each new box; may answer it at once
     std::function<void(std::int64_t Id)> On_Answer;  // told when a box went away
 
-    void Show(std::string Text, std::string Title = {}, Box_Icon Icon = Box_Icon::None);
+    void Show(std::string Text, std::string Title = {}, Box_Icon Icon = Box_Icon::None,
+              Box_Buttons Buttons = Box_Buttons::OK);
     // Takes box Id away; false when no such box stands.
     bool Answer(std::int64_t Id);
 };

@@ -112,11 +112,13 @@ void Socket_UDP::Take_Datagram() {
     std::array<char, Largest_Datagram_Bytes> Buffer;
     const ssize_t Count = ::recv(Socket.Get(), Buffer.data(), Buffer.size(), MSG_DONTWAIT);
     if (Count < 0) return;
-    // A datagram that finds no room is told of all the same: there is something to read. An empty one is told
-    // and not kept, since Receive says the same of it as of none: a reader of all that waits would stop
-    // there.
-    if (Count > 0 && Received.size() < Kept_Datagrams)
+    // Where nobody reads the newest ones are kept: who begins to read wants to know how things stand now. An
+    // empty one is told and not kept, since Receive says the same of it as of none: a reader of all that
+    // waits would stop there.
+    if (Count > 0) {
+        if (Received.size() == Kept_Datagrams) Received.pop_front();
         Received.emplace_back(Buffer.data(), static_cast<std::size_t>(Count));
+    }
     if (const auto Tell = On_Data_Arrival) Tell();
 }
 

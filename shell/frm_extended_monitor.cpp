@@ -4,6 +4,7 @@
 #include "shell/frm_main.hpp"
 #include "shell/frm_monitor.hpp"
 #include "shell/number_text.hpp"
+#include "shell/open_once.hpp"
 #include "shell/simulator.hpp"
 
 #include <algorithm>
@@ -78,19 +79,7 @@ frmExtendedMonitor::frmExtendedMonitor(Desktop& Its_Windows)
 }
 
 void mnuExtendedMonitor_Click(Simulator& Sim) {
-    if (Sim.Extended_Monitor) {
-        Sim.Windows.Activate(*Sim.Extended_Monitor);
-        return;
-    }
-    auto Window = std::make_shared<frmExtendedMonitor>(Sim.Windows);
-    frmExtendedMonitor_Load(Sim, *Window);
-    Window->On_Unload = [&Sim] {
-        Sim.Main->mnuExtendedMonitor.Checked = false;
-        Sim.Extended_Monitor.reset();
-    };
-    Sim.Extended_Monitor = Window;
-    Sim.Main->mnuExtendedMonitor.Checked = true;
-    Sim.Windows.Show(std::move(Window));
+    Open_Once(Sim, Sim.Extended_Monitor, frmExtendedMonitor_Load, &Sim.Main->mnuExtendedMonitor);
 }
 
 void Extended_Monitor_Tx(Simulator& Sim, const std::string& Text) {

@@ -222,8 +222,11 @@ void mnuMode_Click(Simulator& Sim, int Index) {
     Sim.State.Mode = Index == 1 ? "Ship" : "Sensor";
     Show_Mode(Sim);
     // Windows that close keep their place in the list of open windows, and take it from there when they open
-    // again. They stand again afterwards, so the list ends as it was: it has room for 20.
-    const std::int16_t Kept_Places = Sim.State.Open_Form_Count;
+    // again. They stand again afterwards, so the list ends as it was: it has room for 20 only, and what it
+    // holds from before would stand in front of where they are now.
+    const auto Kept_List = Sim.State.Open_Form_List;
+    const std::int16_t Kept_Count = Sim.State.Open_Form_Count;
+    Sim.State.Open_Form_Count = 0;
     if (Index == 1)
         mnuShip_Click(Sim);
     else if (Sim.Ship)
@@ -233,7 +236,8 @@ void mnuMode_Click(Simulator& Sim, int Index) {
         if (Form* Window = Sensor_Window(Sim, Form_Index)) Close_In_Event(Sim, *Window);
         mnuOpenForm_Click(Sim, Form_Index);
     });
-    Sim.State.Open_Form_Count = Kept_Places;
+    Sim.State.Open_Form_List = Kept_List;
+    Sim.State.Open_Form_Count = Kept_Count;
 }
 
 } // namespace brinewright

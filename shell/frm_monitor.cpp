@@ -2,6 +2,7 @@
 
 #include "links/port_list.hpp"
 #include "shell/frm_main.hpp"
+#include "shell/open_once.hpp"
 #include "shell/simulator.hpp"
 
 namespace brinewright {
@@ -43,21 +44,7 @@ frmMonitor::frmMonitor(Desktop& Its_Windows)
     Set_Place(600, 600, 9000, 6000);
 }
 
-void mnuMonitor_Click(Simulator& Sim) {
-    if (Sim.Monitor) {
-        Sim.Windows.Activate(*Sim.Monitor);
-        return;
-    }
-    auto Window = std::make_shared<frmMonitor>(Sim.Windows);
-    frmMonitor_Load(Sim, *Window);
-    Window->On_Unload = [&Sim] {
-        Sim.Main->mnuMonitor.Checked = false;
-        Sim.Monitor.reset();
-    };
-    Sim.Monitor = Window;
-    Sim.Main->mnuMonitor.Checked = true;
-    Sim.Windows.Show(std::move(Window));
-}
+void mnuMonitor_Click(Simulator& Sim) { Open_Once(Sim, Sim.Monitor, frmMonitor_Load, &Sim.Main->mnuMonitor); }
 
 std::string Shown_Text(const Simulator& Sim, const std::string& Text) {
     std::string Shown = Text;

@@ -6,6 +6,7 @@
 #include "sentences/take_apart.hpp"
 #include "sentences/wire_text.hpp"
 #include "shell/frm_main.hpp"
+#include "shell/open_once.hpp"
 #include "shell/record_format.hpp"
 #include "shell/simulator.hpp"
 
@@ -202,8 +203,6 @@ void Wire(Simulator& Sim, frmTraffic& F) {
         // With nobody listening a sentence costs nothing more than before.
         std::erase_if(Sim.On_Sent,
                       [](const auto& Ear) { return Ear.template target<Traffic_Ear>() != nullptr; });
-        Sim.Main->mnuTraffic.Checked = false;
-        Sim.Traffic.reset();
     };
 }
 
@@ -243,12 +242,6 @@ void Rebuild_Port_List(Simulator& Sim, frmTraffic& F) {
         if (Link_In_Use(Sim, Port)) Add_Port(Sim, F, Port);
 }
 
-void mnuTraffic_Click(Simulator& Sim) {
-    if (Sim.Traffic) return Sim.Windows.Activate(*Sim.Traffic);
-    Sim.Traffic = std::make_shared<frmTraffic>(Sim.Windows);
-    frmTraffic_Load(Sim, *Sim.Traffic);
-    Sim.Main->mnuTraffic.Checked = true;
-    Sim.Windows.Show(Sim.Traffic);
-}
+void mnuTraffic_Click(Simulator& Sim) { Open_Once(Sim, Sim.Traffic, frmTraffic_Load, &Sim.Main->mnuTraffic); }
 
 } // namespace brinewright

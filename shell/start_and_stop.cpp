@@ -116,7 +116,7 @@ void MDIForm_Load(Simulator& Sim) {
     Show_Mode(Sim);
     if (S.Mode == "Ship") Sim.Windows.Event([&] { mnuShip_Click(Sim); }); // before the sensors that it drives
     Open_Saved_Windows(Sim);
-    Joystick_Present(Sim, First_Joystick);
+    if (Sim.Ship) Start_Joystick(Sim, *Sim.Ship); // once more: it may have come while the windows opened
     Main.mnuSetupStartOption.Checked = S.Start_With_Last_Navdata;
     Main.mnuOptionIEC450.Checked = S.IEC450_Enabled;
     if (S.Control_Input_Enabled) Start_Control_Input(Sim);

@@ -238,10 +238,12 @@ void Desktop_View::Follow_Boxes() {
     const Message_Box& Front = Standing.front();
     constexpr QMessageBox::Icon Icons[] = {QMessageBox::NoIcon, QMessageBox::Information,
                                            QMessageBox::Warning, QMessageBox::Critical};
+    const QMessageBox::StandardButtons Cancel =
+        Front.Buttons == Box_Buttons::OK_Cancel ? QMessageBox::Cancel : QMessageBox::NoButton;
     Box_Id = Front.Id;
     Box = new QMessageBox(Icons[static_cast<int>(Front.Icon)],
                           Front.Title.empty() ? QStringLiteral("Brinewright") : To_Screen(Front.Title),
-                          To_Screen(Front.Text), QMessageBox::Ok, this);
+                          To_Screen(Front.Text), QMessageBox::Ok | Cancel, this);
     Box->setTextFormat(Qt::PlainText);
     connect(Box, &QMessageBox::finished, this, [this, Id = Box_Id] {
         Sim.Windows.Event([&] { Sim.Windows.Boxes.Answer(Id); });

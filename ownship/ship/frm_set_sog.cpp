@@ -4,6 +4,7 @@
 #include "ownship/ship/ship_controls.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/control_text.hpp"
+#include "shell/open_once.hpp"
 #include "shell/simulator.hpp"
 
 namespace brinewright {
@@ -12,14 +13,14 @@ namespace {
 
 // In twentieths of a point; the place is below cmdSetSOG, from the corner of the ship window.
 constexpr float Form_Height = 2430, Form_Width = 3195;
-constexpr float Place_Left = 3600, Place_Top = 3000;
+constexpr float Place_Left = 10600, Place_Top = 7140; // below the button, from the ship window
 
 constexpr const char* SOG_Pattern = "0.00";
 constexpr const char* COG_Pattern = "000.00";
 
 void Refuse_SOG(Simulator& Sim, const char* Way, float Most_kn) {
     Sim.Windows.Boxes.Show(std::string("SOG ") + Way + " can't be more than Max " + Format_Dot(Most_kn, "0"),
-                           "Invalid SOG");
+                           "Invalid SOG", Box_Icon::None, Box_Buttons::OK_Cancel);
 }
 
 void txtSOG_LostFocus(Simulator& Sim, frmSetSOG& F) {
@@ -63,7 +64,6 @@ void frmSetSOG_Load(Simulator& Sim, frmSetSOG& F) {
     F.txtCOG.Lost_Focus = [&] { txtCOG_LostFocus(F); };
     F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };
     F.cmdCancel.Click = [&] { Sim.Windows.Unload(F); };
-    F.On_Unload = [&Sim] { Sim.SetSOG.reset(); };
 }
 
 } // namespace
@@ -86,11 +86,6 @@ frmSetSOG::frmSetSOG(Desktop& Its_Windows) : Form(Its_Windows, "frmSetSOG", 0, F
     for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
 }
 
-void cmdSetSOG_Click(Simulator& Sim) {
-    if (Sim.SetSOG) return Sim.Windows.Activate(*Sim.SetSOG);
-    Sim.SetSOG = std::make_shared<frmSetSOG>(Sim.Windows);
-    frmSetSOG_Load(Sim, *Sim.SetSOG);
-    Sim.Windows.Show(Sim.SetSOG);
-}
+void cmdSetSOG_Click(Simulator& Sim) { Open_Once(Sim, Sim.SetSOG, frmSetSOG_Load); }
 
 } // namespace brinewright

@@ -26,8 +26,8 @@ constexpr std::int16_t Form_Index = 0;
 constexpr float Form_Height = 5700, Form_Width = 7212; // twentieths of a point
 constexpr double Step_ms = 1000;
 constexpr int Heading_Step_deg = 15, Last_Heading_deg = 345;
-constexpr int Last_Noise_tenths = 10;
-constexpr float Tenths = 10;
+constexpr int Last_Noise_Choice = 10;
+constexpr int Noise_Steps = 10; // of a knot or of a degree
 
 constexpr const char* Joystick_Texts[] = {"Button 1 - All stop",    "Button 2 - Rudder 0",
                                           "Button 3 - Full port",   "Button 4 - Full starboard",
@@ -43,7 +43,7 @@ void Keep_Size(frmShip& W) {
 
 // A stored index that the list does not have, as a setup file may hold, is no noise.
 int Noise_Choice(float Stored_Index) {
-    return Stored_Index >= 0 && Stored_Index <= Last_Noise_tenths
+    return Stored_Index >= 0 && Stored_Index <= Last_Noise_Choice
                ? static_cast<int>(std::nearbyint(Stored_Index))
                : 0;
 }
@@ -53,8 +53,8 @@ void Fill_Lists(const Simulator_State& S, frmShip& W) {
     for (int Heading_deg = 0; Heading_deg <= Last_Heading_deg; Heading_deg += Heading_Step_deg)
         W.cmbHDG.Add_Item(std::to_string(Heading_deg));
     Show_Heading(W, S.Nav_COG); // the course and not the heading, as required
-    for (int I = 0; I <= Last_Noise_tenths; ++I) {
-        const std::string Number = Format_Dot(static_cast<float>(I) / Tenths, "0.0");
+    for (int I = 0; I <= Last_Noise_Choice; ++I) {
+        const std::string Number = Format_Dot(static_cast<float>(I) / Noise_Steps, "0.0");
         W.cmbSOGNoise.Add_Item(Number + " kt");
         W.cmbROTNoise.Add_Item(Number + " " + Degree_Sign);
     }
@@ -62,18 +62,25 @@ void Fill_Lists(const Simulator_State& S, frmShip& W) {
     W.cmbROTNoise.Set_List_Index(Noise_Choice(S.Ship_ROT_Noise_Index));
 }
 
-// The sliders hold whole steps, the state need not: opening the window must not round the speed and the rate
-// of turn at which the ship goes. So they are set before their handlers are there, and the labels show the
-// state.
+// The sliders are set with their handlers at work, as required: the ship takes the whole percent and the
+// tenth of a degree per minute that they show, within the limits. A slider that stands at 0 already does not
+// move, so the labels are written here too.
 void Show_State(const Simulator_State& S, frmShip& W) {
-    W.sldThrottle.Set_Value(Throttle_Place(S, W));
-    W.sldRudder.Set_Value(Bar_Place(W.sldRudder, S.Nav_Rudder, static_cast<int>(Tenths)));
     Show_Throttle(W);
     Show_SOG(W, S.Nav_SOG, "0.0");
     Show_ROT(W, S.Nav_Rudder, "0.0");
     W.lblLat[0].Caption = Position_Text(S.LatLon_Format, S.Nav_Lat, "LAT");
     W.lblLon[0].Caption = Position_Text(S.LatLon_Format, S.Nav_Lon, "LON");
     W.lblGyro[0].Caption = Format_Dot(Add_Degrees(S.Nav_HDG, S.Gyro_Offset[1]), "000.0#") + " deg";
+    W.sldThrottle.Set_Value(Throttle_Place(S, W));
+    W.sldRudder.Set_Value(Bar_Place(W.sldRudder, S.Nav_Rudder, Rudder_Steps));
+}
+
+// The sensors open before the first step, and in a frozen ship there is none: they are not to report a ship
+// at 0 N 0 E meanwhile. What they have from a frozen ship already stays.
+void Feed_Before_First_Step(Simulator_State& S) {
+    const bool Fed = S.GNSS_Lat[1] == S.Nav_Lat && S.GNSS_Lon[1] == S.Nav_Lon;
+    if (!S.Freeze_Active || !Fed) Feed_Sensors(S, S.Nav_SOG, S.Nav_Rudder);
 }
 
 void frmShip_Load(Simulator& Sim, frmShip& W) {
@@ -83,16 +90,16 @@ void frmShip_Load(Simulator& Sim, frmShip& W) {
         S.Nav_Lat = S.Start_Lat;
         S.Nav_Lon = S.Start_Lon;
     }
+    Normalise_Navdata(S);
     Show_Rudder_Range(S, W);
-    Show_State(S, W);
     Wire_Ship_Controls(Sim, W);
     Wire_Ship_Keyboard(Sim, W);
     Fill_Lists(S, W);
-    Wire_Joystick(Sim, W);
+    Show_State(S, W);
+    W.timerJoystick.Tick = [&] { timerJoystick_Tick(Sim, W); };
+    Start_Joystick(Sim, W);
     Show_Freeze_And_Pause(S, W);
-    // The sensors open before the first step, and in a frozen ship there is none: they are not to report a
-    // ship at 0 N 0 E meanwhile.
-    Feed_Sensors(S, S.Nav_SOG, S.Nav_Rudder);
+    Feed_Before_First_Step(S);
     W.Timer1.Tick = [&] { Timer1_Tick(Sim, W); };
     W.Timer1.Set_Interval(Step_ms);
 }

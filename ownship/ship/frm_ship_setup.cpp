@@ -6,6 +6,7 @@
 #include "ownship/ship/ship_tips.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/control_text.hpp"
+#include "shell/open_once.hpp"
 #include "shell/simulator.hpp"
 
 #include <algorithm>
@@ -212,7 +213,6 @@ void frmShipSetup_Load(Simulator& Sim, frmShipSetup& F) {
     F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };
     F.cmdApply.Click = [&] { cmdApply_Click(Sim, F); };
     F.cmdCancel.Click = [&] { Sim.Windows.Unload(F); };
-    F.On_Unload = [&Sim] { Sim.ShipSetup.reset(); };
 }
 
 } // namespace
@@ -222,11 +222,6 @@ frmShipSetup::frmShipSetup(Desktop& Its_Windows) : Form(Its_Windows, "frmShipSet
     Set_Tool_Tips(*this);
 }
 
-void mnuSetupShip_Click(Simulator& Sim) {
-    if (Sim.ShipSetup) return Sim.Windows.Activate(*Sim.ShipSetup);
-    Sim.ShipSetup = std::make_shared<frmShipSetup>(Sim.Windows);
-    frmShipSetup_Load(Sim, *Sim.ShipSetup);
-    Sim.Windows.Show(Sim.ShipSetup);
-}
+void mnuSetupShip_Click(Simulator& Sim) { Open_Once(Sim, Sim.ShipSetup, frmShipSetup_Load); }
 
 } // namespace brinewright

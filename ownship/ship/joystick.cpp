@@ -54,17 +54,17 @@ void Joystick_Read(Simulator& Sim) {
 
 // With a game controller there is no freezing and no pausing, so neither may be left over: no button would
 // end it.
-void Wire_Joystick(Simulator& Sim, frmShip& W) {
-    W.timerJoystick.Tick = [&] { timerJoystick_Tick(Sim, W); };
+void Start_Joystick(Simulator& Sim, frmShip& W) {
     const bool Present = Joystick_Present(Sim, First_Joystick);
     W.frameJoystick.Visible = Present;
     W.lblJoystick.Visible = !Present;
     W.cmdFreeze.Visible = !Present;
     W.cmdPause.Visible = !Present;
+    W.timerJoystick.Set_Interval(Present ? Polling_ms : 0);
     if (!Present) return;
-    W.timerJoystick.Set_Interval(Polling_ms);
     Sim.State.Freeze_Active = false;
     Sim.State.Pause_Active = false;
+    Show_Freeze_And_Pause(Sim.State, W);
 }
 
 void timerJoystick_Tick(Simulator& Sim, frmShip& W) {

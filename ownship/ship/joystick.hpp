@@ -17,7 +17,9 @@ bool Joystick_Present(Simulator& Sim, std::int32_t Device_Id);
 // Axes and buttons into Sim.Joystick. One that has vanished is at rest with no button down.
 void Joystick_Read(Simulator& Sim);
 
-void Wire_Joystick(Simulator& Sim, frmShip& W);
+// Looks for it, and lets it steer from now on if there is one: it ends freeze and pause, whose buttons give
+// way.
+void Start_Joystick(Simulator& Sim, frmShip& W);
 void timerJoystick_Tick(Simulator& Sim, frmShip& W);
 
 } // namespace brinewright

@@ -17,8 +17,6 @@ namespace brinewright {
 namespace {
 
 constexpr int Throttle_Steps = 100; // percent
-constexpr int Rudder_Steps = 10;    // of a degree per minute
-constexpr float Rudder_Unit = 10;
 
 // A setup file may hold anything; the slider gets an end that it can have, and one that is not negative, so
 // that port stays on the left.
@@ -128,7 +126,7 @@ void sldThrottle_Change(Simulator& Sim, frmShip& W) {
 }
 
 void sldRudder_Change(Simulator& Sim, frmShip& W) {
-    Sim.State.Nav_Rudder = static_cast<float>(W.sldRudder.Value()) / Rudder_Unit;
+    Sim.State.Nav_Rudder = static_cast<float>(W.sldRudder.Value()) / Rudder_Steps;
     Show_ROT(W, Sim.State.Nav_Rudder, "0.0");
 }
 

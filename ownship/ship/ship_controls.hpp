@@ -8,6 +8,8 @@ struct frmShip;
 struct Simulator;
 struct Simulator_State;
 
+inline constexpr int Rudder_Steps = 10; // of the rudder slider, to a degree per minute
+
 // Throttle, rate of turn, heading, noise, freeze and pause of the ship window.
 
 void Wire_Ship_Controls(Simulator& Sim, frmShip& W);

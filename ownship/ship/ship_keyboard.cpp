@@ -57,6 +57,7 @@ void Show_Keyboard_Mode(frmShip& W, bool On) {
     W.cmdArrows.Enabled = !On;
     W.lblArrows.Visible = On;
     W.frameArrows.Visible = On;
+    W.frameJoystick.Visible = !On && W.timerJoystick.Interval_ms() > 0; // they share a place
     W.cmdSetSOG.Visible = !On;
 }
 

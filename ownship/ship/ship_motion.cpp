@@ -40,14 +40,18 @@ void Step_Along_Course(Simulator_State& S, float SOG_kn) {
 
 } // namespace
 
+void Normalise_Navdata(Simulator_State& S) {
+    S.Nav_Lat = Within_Poles(S.Nav_Lat);
+    S.Nav_Lon = Within_Circle(S.Nav_Lon);
+    S.Nav_HDG = Add_Degrees(S.Nav_HDG, 0);
+    S.Nav_COG = Add_Degrees(S.Nav_COG, 0);
+}
+
 void Move_Ship(Simulator_State& S, float SOG_kn, float ROT) {
     const double Turn_deg = static_cast<double>(ROT) / Steps_Per_Minute;
     const bool Astern = SOG_kn < 0;
     S.Nav_HDG = Add_Degrees(S.Nav_HDG, Astern ? -Turn_deg : Turn_deg);
     S.Nav_COG = Astern ? Add_Degrees(S.Nav_HDG, 180) : S.Nav_HDG;
-    // A setup file may have put it anywhere.
-    S.Nav_Lat = Within_Poles(S.Nav_Lat);
-    S.Nav_Lon = Within_Circle(S.Nav_Lon);
     Step_Along_Course(S, SOG_kn);
     S.Nav_Lon = Within_Circle(S.Nav_Lon);
 }

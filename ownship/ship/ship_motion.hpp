@@ -7,6 +7,10 @@ struct Simulator_State;
 // The ship as it moves in one second: a kinematic model without inertia. Speed is what is set, the heading
 // turns at the rate that is set, and the ship follows the rhumb line of its course.
 
+// A setup file or the start position may have put the ship anywhere: latitude within the poles, longitude
+// within -180 to 180, heading and course 0 to under 360.
+void Normalise_Navdata(Simulator_State& S);
+
 // Turns and moves the ship by one second at SOG_kn knots (negative: astern) and ROT degrees per minute (to
 // starboard positive): Nav_HDG, Nav_COG, Nav_Lat, Nav_Lon. Going astern it swings the other way and its
 // course is the reverse of its heading. A step that would pass a pole leaves it where it is. The longitude

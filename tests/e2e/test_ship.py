@@ -126,7 +126,10 @@ class Steering(TestCase):
         for _ in range(3):
             send(with_checksum("GPVTG,045.0,T,046.0,M,5.0,N,009.3,K,A"))
         program.told("is only relevant in Ship mode. UDP input ignored! ")
-        remote.get("state.Mode")
+        remote.click("frmMain.mnuMode(1)")
+        send(b"$IIROT,4.5,A")  # what was left unread comes before it
+        remote.wait(lambda a: a.get("frmShip.sldRudder") == 45, "a command after the change of mode")
+        self.assertEqual(remote.get("state.Nav_SOG"), 5)
         self.assertEqual(len(program.boxes()), told + 1)
         self.assertEqual(program.stop(), 0, program.stderr.text())
 

@@ -137,11 +137,13 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     EXPECT_EQ(Sim.State.Open_Form_Count, 0); // they stand again
     EXPECT_TRUE(Sim.Monitor);
 
-    // With the list full the failure is told, and the windows are there all the same.
+    // The list of kept windows is left as it is, also when it is full.
     Sim.State.Open_Form_Count = 20;
-    Hold_Boxes = true;
+    Sim.State.Open_Form_List[20].Name = "the last";
     Click(Main().mnuMode_Sensor);
-    EXPECT_EQ(Take_Boxes(), Texts{"Subscript out of range"});
+    EXPECT_EQ(Take_Boxes(), Texts{});
+    EXPECT_EQ(Sim.State.Open_Form_Count, 20);
+    EXPECT_EQ(Sim.State.Open_Form_List[20].Name, "the last");
     EXPECT_EQ(Sim.State.Mode, "Sensor");
     for (const int I : {1, 2}) {
         ASSERT_TRUE(Sim.frmPosition_Instance[I]);

@@ -11,7 +11,7 @@
 namespace brinewright {
 namespace {
 
-TEST(Frm_Ship, Opening_Shows_The_State_And_Changes_Nothing) {
+TEST(Frm_Ship, Opening_Shows_The_State_And_Takes_What_The_Sliders_Hold) {
     Ship_Bench B([](Simulator_State& S) {
         S.Nav_SOG = 12.3F;
         S.Nav_Rudder = 7.25F;
@@ -22,14 +22,14 @@ TEST(Frm_Ship, Opening_Shows_The_State_And_Changes_Nothing) {
         S.Ship_ROT_Noise_Index = 10;
     });
     const frmShip& W = B.Ship();
-    EXPECT_EQ(B.State().Nav_SOG, 12.3F);
-    EXPECT_EQ(B.State().Nav_Rudder, 7.25F);
+    EXPECT_EQ(B.State().Nav_SOG, 12.4F); // 31 % of 40
+    EXPECT_EQ(B.State().Nav_Rudder, 7.2F);
     EXPECT_EQ(B.State().Nav_HDG, 45.678);
     EXPECT_EQ(W.sldThrottle.Value(), -31);
     EXPECT_EQ(W.sldRudder.Value(), 72); // half way: to even
     EXPECT_EQ(Shown(W.lblThrottle), "31 % ahead");
-    EXPECT_EQ(Shown(W.lblSOG), "12.3 knot");
-    EXPECT_EQ(Shown(W.lblRudder), "7.3");
+    EXPECT_EQ(Shown(W.lblSOG), "12.4 knot");
+    EXPECT_EQ(Shown(W.lblRudder), "7.2");
     EXPECT_EQ(*W.lblRudder.Fore_Colour, Ink::Green);
     EXPECT_EQ(W.cmbHDG.Text(), "046.3") << "the course, as required";
     EXPECT_EQ(Shown(W.lblGyro[0]), "047.18 deg");
@@ -49,6 +49,17 @@ TEST(Frm_Ship, Opening_Shows_The_State_And_Changes_Nothing) {
     for (const Control* C : W.Controls) {
         if (C->Kind == Control_Kind::Timer) continue;
         EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
+    }
+}
+
+TEST(Frm_Ship, Opening_Brings_Speed_And_Rate_Of_Turn_Within_Their_Limits) {
+    for (const float Sign : {1.0F, -1.0F}) {
+        Ship_Bench B([&](Simulator_State& S) {
+            S.Nav_SOG = 45 * Sign;
+            S.Nav_Rudder = 31 * Sign;
+        });
+        EXPECT_EQ(B.State().Nav_SOG, Sign > 0 ? 40 : -5);
+        EXPECT_EQ(B.State().Nav_Rudder, 30 * Sign);
     }
 }
 

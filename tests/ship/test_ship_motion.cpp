@@ -168,6 +168,29 @@ TEST(Ship_Motion, The_Date_Line_Is_Crossed_Both_Ways_And_The_Pole_Is_Not) {
 }
 
 // A setup file may hold numbers that no ship has.
+TEST(Ship_Motion, A_Frozen_Ship_Feeds_Its_Sensors_Once) {
+    Ship_Bench B([](Simulator_State& S) {
+        S.Freeze_Active = true;
+        S.Nav_SOG = 20;
+        S.Nav_COG = -90;
+        S.Nav_Lat = 95;
+        S.Nav_Lon = -540;
+    });
+    EXPECT_EQ(B.State().GNSS_COG[1], 270);
+    EXPECT_EQ(B.State().GNSS_Lat[1], 90);
+    EXPECT_EQ(std::abs(B.State().GNSS_Lon[1]), 180);
+    EXPECT_EQ(B.State().Log_Speed[2], 20);
+    // While it is frozen no value of a sensor changes, whatever is done to the window.
+    B.Place(B.Ship().sldThrottle, -10);
+    B.Close(B.Ship());
+    B.Click(B.Sim.Main->mnuShip);
+    B.Run_s(3);
+    EXPECT_EQ(B.State().Log_Speed[2], 20);
+    B.Click(B.Ship().cmdFreeze);
+    B.Run_s(1.5);
+    EXPECT_EQ(B.State().Log_Speed[2], 4);
+}
+
 TEST(Ship_Motion, Numbers_Beyond_All_Ships_Stay_Finite) {
     constexpr float Huge = std::numeric_limits<float>::max();
     for (const float Wild : {Huge, -Huge, 1e30F, -1e30F}) {
@@ -182,6 +205,7 @@ TEST(Ship_Motion, Numbers_Beyond_All_Ships_Stay_Finite) {
         EXPECT_LE(*B.Ship().sldRudder.Min, 0);
         EXPECT_EQ(*B.Ship().sldRudder.Max, -*B.Ship().sldRudder.Min);
         EXPECT_EQ(B.Ship().cmbSOGNoise.List_Index(), 0);
+        Expect_Sane(B.State(), std::to_string(Wild) + " before the first step");
         B.Run_s(5);
         Expect_Sane(B.State(), std::to_string(Wild));
         for (const int Throttle : {-100, 100, 0}) {

@@ -135,6 +135,31 @@ TEST(Ship_Joystick, Takes_The_Place_Of_Freeze_And_Pause) {
     EXPECT_FALSE(Joystick_Present(T.B.Sim, 1)) << "the first device is the only one";
 }
 
+TEST(Ship_Joystick, One_That_Comes_While_The_Windows_Open_Steers_Too) {
+    // Absent when the ship window looks for it, there when the start is over.
+    struct Late_Joystick final : Joystick {
+        int Looks = 0;
+        std::optional<Joystick_Reading> Read() override {
+            if (Looks++ == 0) return {};
+            return Joystick_Reading{Looks > 2 ? 65535 : 32768, 32768, 0};
+        }
+    };
+    Ship_Bench B({}, new Late_Joystick);
+    EXPECT_TRUE(*B.Ship().frameJoystick.Visible);
+    B.Run_s(0.25);
+    EXPECT_EQ(B.Ship().sldRudder.Value(), 20);
+}
+
+TEST(Ship_Joystick, Its_Help_And_That_Of_The_Keyboard_Share_A_Place) {
+    Ship_Bench B({}, new Played_Joystick);
+    B.Click(B.Ship().cmdArrows);
+    EXPECT_TRUE(*B.Ship().frameArrows.Visible);
+    EXPECT_FALSE(*B.Ship().frameJoystick.Visible);
+    B.Click(B.Ship().cmdZero);
+    EXPECT_FALSE(*B.Ship().frameArrows.Visible);
+    EXPECT_TRUE(*B.Ship().frameJoystick.Visible);
+}
+
 TEST(Ship_Joystick, Steps_Ten_Times_A_Second_While_It_Is_Held) {
     Stick_Bench T;
     frmShip& W = T.B.Ship();
