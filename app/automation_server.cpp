@@ -4,6 +4,7 @@ namespace brinewright {
 
 Automation_Server::Automation_Server(const std::string& Socket_Path, Simulator& Sim, Automation_Hooks Hooks)
     : Its_Simulator(Sim), Its_Hooks(std::move(Hooks)), Socket(Socket_Path) {
+    Socket.Set_Accepting(false);
     Socket.On_Open = [this](std::int64_t Id) {
         auto Session = std::make_unique<Automation_Session>(Target_Of(Its_Simulator), Its_Hooks);
         Session->Push = [this, Id](const std::string& Line) { Socket.Send_Line(Id, Line); };

@@ -14,6 +14,8 @@ class Automation_Server {
   public:
     Automation_Server(const std::string& Socket_Path, Simulator& Sim,
                       Automation_Hooks Hooks); // throws Run_Time_Error
+    // Who connects before waits: while the windows of the setup open there is nothing to talk about.
+    void Begin() { Socket.Set_Accepting(true); }
 
   private:
     Simulator& Its_Simulator;

@@ -125,8 +125,9 @@ class Attachments {
     Attachments(const Attachments&) = delete;
     Attachments& operator=(const Attachments&) = delete;
 
-    // Times of the script count from here, when the windows of the setup are open.
-    void Start_Script(Simulator& Sim) {
+    // The windows of the setup are open: automation is answered, and the times of the script count from here.
+    void Begin(Simulator& Sim) {
+        if (Automation) Automation->Begin();
         if (Script_Lines.empty()) return;
         Script = std::make_unique<Script_Player>(Target_Of(Sim), Hooks, std::move(Script_Lines));
         Script->On_Error = [](int Line_Number, const std::string& Response) {
@@ -172,7 +173,7 @@ int Run_In_Virtual_Time(const Program_Options& Chosen, const Front_End& Front) {
     Attachments Beside(Sim, Chosen, Hooks);
     Sim.Windows.Event([&] { MDIForm_Load(Sim); });
     if (Front.Ready) Front.Ready(Sim);
-    Beside.Start_Script(Sim);
+    Beside.Begin(Sim);
     if (!Chosen.Automation_Socket.empty() || Front.Shows_Boxes) {
         std::cerr << Summary(Sim) << "Virtual time stands; automation lets it pass." << std::endl;
         Termination_Signals Signals([&Sim] { End_Program(Sim); });
@@ -202,7 +203,7 @@ int Run_In_Real_Time(const Program_Options& Chosen, const Front_End& Front) {
     Wake_Up Alarm(Sim.Timers);
     Sim.Windows.Event([&] { MDIForm_Load(Sim); });
     if (Front.Ready) Front.Ready(Sim);
-    Beside.Start_Script(Sim);
+    Beside.Begin(Sim);
     std::cerr << Summary(Sim) << "Running. End with Ctrl-C." << std::endl;
     if (!Sim.Ended) QCoreApplication::exec();
     Print_Left_Boxes(Sim, Front);

@@ -16,6 +16,7 @@ class Acceptor {
     Acceptor(Unique_Fd Listening_Socket, std::function<void(Unique_Fd)> On_Accept);
 
     int Descriptor() const { return Socket.Get(); }
+    void Set_Accepting(bool On) { Watch->setEnabled(On); } // who comes meanwhile waits
 
   private:
     void Accept_One();

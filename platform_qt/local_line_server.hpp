@@ -33,6 +33,8 @@ class Local_Line_Server {
     std::function<void(std::int64_t Id)> On_Overlong;
     std::function<void(std::int64_t Id)> On_Close; // once for each On_Open, whoever closed
 
+    void Set_Accepting(bool On) { Listening->Set_Accepting(On); } // who comes meanwhile waits
+
     // Appends the line feed. False: no such client, or it was just cut for letting too much wait.
     bool Send_Line(std::int64_t Id, std::string_view Text);
     void Close(std::int64_t Id); // after what waits has been sent

@@ -1,10 +1,5 @@
 #pragma once
 
-#include "sentences/number_pattern.hpp"
-#include "shell/sentence_family.hpp"
-
-#include <string>
-
 namespace brinewright {
 
 // What the windows of the echo sounder and the wind gauge share.
@@ -14,12 +9,5 @@ inline constexpr const char* Depth_Wind_Intervals[] = {"0.1 sec", "0.5 sec", " 1
                                                        " 3 sec",  " 4 sec",  " 5 sec"};
 
 inline constexpr int Last_Noise_Choice = 20; // of the lists of the largest noise: whole numbers from 0
-
-// A number as texts of these windows join it: the shortest decimal text, with a leading blank unless it is
-// negative.
-inline std::string Joined_Number(float Number) {
-    const float No_Minus_Zero = Number == 0 ? 0.0F : Number;
-    return (No_Minus_Zero < 0 ? "" : " ") + Format_Dot(No_Minus_Zero, "");
-}
 
 } // namespace brinewright

@@ -8,7 +8,6 @@
 #include "shell/simulator.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace brinewright {
 
@@ -16,10 +15,7 @@ namespace {
 
 constexpr int Offset_Limit_m = 20;
 
-void Show_Depth(frmEchosounder& W) {
-    W.lblDepth.Caption = Format_Dot(W.Depth_Value, "0.0");
-    W.txtDepth.Set_Text(W.lblDepth.Caption);
-}
+void Show_Depth(frmEchosounder& W) { Show_Size(W.lblDepth, W.txtDepth, W.Depth_Value); }
 
 // Echo sounder 1 alone hands its depth to the state, although both start from it.
 void Take_Depth(Simulator& Sim, frmEchosounder& W, float Depth_m) {
@@ -62,16 +58,12 @@ void Restore_Echo_Settings(const Simulator& Sim, frmEchosounder& W) {
 
 void scrDepth_Change(Simulator& Sim, frmEchosounder& W) { Take_Depth(Sim, W, Bar_Value(W.scrDepth)); }
 
-// The typed depth comes last, so that it stays in effect where the bar cannot follow: below 400 m, where the
-// bar stands at its end, and between two tenths.
 void txtDepth_LostFocus(Simulator& Sim, frmEchosounder& W) {
-    const float Depth_m = std::abs(Number_Shown(W.txtDepth.Text()));
-    W.scrDepth.Set_Value(Bar_Place(W.scrDepth, Depth_m, Bar_Steps));
-    Take_Depth(Sim, W, Depth_m);
+    Take_Depth(Sim, W, Typed_Size(W.scrDepth, W.txtDepth));
 }
 
 void cmbOffset_Change(frmEchosounder& W) { W.Transducer_Offset = Number_Shown(W.cmbOffset.Text()); }
 
-void cmbOffset_LostFocus(frmEchosounder& W) { W.cmbOffset.Set_Text(Joined_Number(W.Transducer_Offset)); }
+void cmbOffset_LostFocus(frmEchosounder& W) { W.cmbOffset.Set_Text(Decimal_Text(W.Transducer_Offset)); }
 
 } // namespace brinewright

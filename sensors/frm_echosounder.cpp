@@ -40,9 +40,8 @@ frmEchosounder::frmEchosounder(Desktop& Its_Windows, int Its_Instance)
 }
 
 std::shared_ptr<Sensor_Form> Load_frmEchosounder(Simulator& Sim) {
-    constexpr int Before_First = form_index::Echosounder_1 - 1;
-    return Load_Sensor_Form(Sim, Sim.frmEchosounder_Instance, Sim.State.Open_Form_Index - Before_First,
-                            Form_Load);
+    const int Instance = Sim.State.Open_Form_Index - form_index::Echosounder_1 + 1;
+    return Load_Sensor_Form(Sim, Sim.frmEchosounder_Instance, Instance, Form_Load);
 }
 
 } // namespace brinewright

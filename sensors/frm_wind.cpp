@@ -1,6 +1,7 @@
 #include "sensors/frm_wind.hpp"
 
 #include "sensors/relative_wind.hpp"
+#include "sensors/sensor_parts.hpp"
 #include "sensors/wind_controls.hpp"
 #include "sensors/wind_ticks.hpp"
 #include "sensors/wind_tips.hpp"
@@ -48,21 +49,22 @@ frmWind::frmWind(Desktop& Its_Windows, int Its_Instance)
 }
 
 std::shared_ptr<Sensor_Form> Load_frmWind(Simulator& Sim) {
-    constexpr int Before_First = form_index::Wind_1 - 1;
-    return Load_Sensor_Form(Sim, Sim.frmWind_Instance, Sim.State.Open_Form_Index - Before_First, Form_Load);
+    const int Instance = Sim.State.Open_Form_Index - form_index::Wind_1 + 1;
+    return Load_Sensor_Form(Sim, Sim.frmWind_Instance, Instance, Form_Load);
 }
 
 void CalculateRelativeWind(Simulator& Sim, frmWind& W, int k) {
     const Simulator_State& S = Sim.State;
     const Wind_Unit& Unit = Unit_Of_Letter(W.MWV_Record.Speed_Unit);
-    const Relative_Wind Felt = Work_Out_Relative_Wind({.Wind_Speed_kn = S.Wind_Speed[k] * Unit.Knots_Per_Unit,
-                                                       .Wind_Direction_deg = S.Wind_Direction[k],
-                                                       .Heading_deg = S.Gyro_HDG[k],
-                                                       .Log_Speed_kn = S.Log_Speed[k],
-                                                       .Lat_deg = S.Nav_Lat,
-                                                       .Lon_deg = S.Nav_Lon,
-                                                       .Course_deg = S.Nav_COG,
-                                                       .Ground_Speed_kn = S.Nav_SOG});
+    const Relative_Wind Felt =
+        Work_Out_Relative_Wind({.Wind_Speed_kn = S.Wind_Speed[k] * Unit.Knots_Per_Unit,
+                                .Wind_Direction_deg = Normalise_Direction(S.Wind_Direction[k]),
+                                .Heading_deg = S.Gyro_HDG[k],
+                                .Log_Speed_kn = S.Log_Speed[k],
+                                .Lat_deg = S.Nav_Lat,
+                                .Lon_deg = S.Nav_Lon,
+                                .Course_deg = S.Nav_COG,
+                                .Ground_Speed_kn = S.Nav_SOG});
     W.Relative_Speed = Record_Number(Felt.Speed_kn * Unit.Units_Per_Knot);
     W.Relative_Dir = Felt.Direction_deg;
     W.lblRelativeSpeed.Caption = Format_Dot(W.Relative_Speed, "0");

@@ -8,7 +8,6 @@
 #include "shell/simulator.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace brinewright {
 
@@ -17,10 +16,11 @@ namespace {
 constexpr int Noise_Tenths[] = {0, 2, 4, 6, 8, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100};
 constexpr const char* Noise_Of[] = {"Heading", "Rate Of Turn", "Roll ", "Pitch"};
 constexpr const char* THS_Modes[] = {"A=Autonomous", "E=Estimated", "M=Manual", "S=Simulator", "V=Not valid"};
+// Of what is typed: a heading that noise of one circle at most has moved is back with one wrap.
+constexpr float Noise_Limit = 360;
 constexpr int Most_Decimals = 3;
 constexpr int Default_Decimals = 1;
 
-// A box beside a bar, and what the box shows when it is left alone.
 struct Bar_Box {
     Scroll_Bar frmGyro::*Bar;
     Text_Box frmGyro::*Box;
@@ -28,9 +28,7 @@ struct Bar_Box {
     std::string (*Shown)(const Simulator_State&, const frmGyro&);
 };
 
-std::string Shown_HDG(const Simulator_State&, const frmGyro& W) {
-    return Format_Dot(Bar_Value(W.scrHDG), "000.0");
-}
+std::string Shown_HDG(const Simulator_State&, const frmGyro& W) { return Direction_Shown(W.scrHDG); }
 std::string Shown_ROT(const Simulator_State& S, const frmGyro& W) {
     return Format_Dot(S.Gyro_ROT[W.Instance], "0.0");
 }
@@ -48,18 +46,8 @@ constexpr Bar_Box Pitch{&frmGyro::scrPitch, &frmGyro::txtPitch,
 
 void Show(const Simulator_State& S, frmGyro& W, const Bar_Box& B) { (W.*B.Box).Set_Text(B.Shown(S, W)); }
 
-// Leaving the box moves the bar, whose handler does the rest. A box that nobody has changed moves nothing:
-// the ship can leave a rate of turn behind that the bar does not reach.
-void Leave_Box(Simulator& Sim, frmGyro& W, const Bar_Box& B) {
-    Scroll_Bar& Bar = W.*B.Bar;
-    const std::string& Typed = (W.*B.Box).Text();
-    if (Typed == B.Shown(Sim.State, W)) return;
-    const double Tenths = std::nearbyint(Val_Dot(Typed) * Bar_Steps);
-    if (Tenths < std::min<int>(Bar.Min, Bar.Max) || Tenths > std::max<int>(Bar.Min, Bar.Max))
-        Sim.Windows.Boxes.Show(B.Refusal, W.Caption, Box_Icon::Warning);
-    else
-        Bar.Set_Value(static_cast<int>(Tenths));
-    Show(Sim.State, W, B);
+void Leave(Simulator& Sim, frmGyro& W, const Bar_Box& B) {
+    Leave_Box(Sim, W, {W.*B.Bar, W.*B.Box, B.Refusal, B.Shown(Sim.State, W)});
 }
 
 } // namespace
@@ -69,11 +57,11 @@ void Wire_Gyro_Controls(Simulator& Sim, frmGyro& W) {
     W.scrROT.Change = [&] { scrROT_Change(Sim, W); };
     W.scrRoll.Change = [&] { scrRoll_Change(W); };
     W.scrPitch.Change = [&] { scrPitch_Change(W); };
-    W.txtHDG.Lost_Focus = [&] { Leave_Box(Sim, W, Heading); };
-    W.txtROT.Lost_Focus = [&] { Leave_Box(Sim, W, Turn); };
-    W.txtRoll.Lost_Focus = [&] { Leave_Box(Sim, W, Roll); };
-    W.txtPitch.Lost_Focus = [&] { Leave_Box(Sim, W, Pitch); };
-    W.chkNoise.Click = [&] { chkNoise_Click(Sim, W); };
+    W.txtHDG.Lost_Focus = [&] { Leave(Sim, W, Heading); };
+    W.txtROT.Lost_Focus = [&] { Leave(Sim, W, Turn); };
+    W.txtRoll.Lost_Focus = [&] { Leave(Sim, W, Roll); };
+    W.txtPitch.Lost_Focus = [&] { Leave(Sim, W, Pitch); };
+    W.chkNoise.Click = [&] { Sim.State.Gyro_Noise_Enabled[W.Instance] = W.chkNoise.Value(); };
     W.optAccumulatedNoise.Click = [&](int Index) {
         Sim.State.Gyro_Noise_Accumulated[W.Instance] = Index == 1;
     };
@@ -109,7 +97,6 @@ void Restore_Gyro_Settings(Simulator& Sim, frmGyro& W) {
     for (const auto& List : W.cmbNoise) Restore_Choice(*List, S.Gyro_Noise_Level[I][List->Index], 0);
     W.optAccumulatedNoise.Select(S.Gyro_Noise_Accumulated[I] ? 1 : 0);
     W.chkNoise.Set_Value(S.Gyro_Noise_Enabled[I]);
-    chkNoise_Click(Sim, W); // an unchecked box has not clicked: its controls are disabled from the start
     W.cmbModeIndicator.Set_List_Index(0);
     Restore_Choice(W.cmbDecimals, S.Gyro_Decimals[I], Default_Decimals);
 }
@@ -138,14 +125,9 @@ void scrPitch_Change(frmGyro& W) {
     W.txtPitch.Set_Text(Format_Dot(W.Pitch_Value, "0.0"));
 }
 
-void chkNoise_Click(Simulator& Sim, frmGyro& W) {
-    const bool On = W.chkNoise.Value();
-    Sim.State.Gyro_Noise_Enabled[W.Instance] = On;
-    W.optAccumulatedNoise.Set_Enabled(On);
-    for (const auto& List : W.cmbNoise) List->Enabled = On;
+void cmbNoise_Change(frmGyro& W, int Index) {
+    W.Noise_Max[Index] = std::clamp(Number_Shown(W.cmbNoise[Index].Text()), -Noise_Limit, Noise_Limit);
 }
-
-void cmbNoise_Change(frmGyro& W, int Index) { W.Noise_Max[Index] = Number_Shown(W.cmbNoise[Index].Text()); }
 
 // A number that was typed is not kept over a restart: only places in the list are.
 void cmbNoise_Click(Simulator& Sim, frmGyro& W, int Index) {

@@ -23,7 +23,6 @@ void scrHDG_Change(Simulator& Sim, frmGyro& W);
 void scrROT_Change(Simulator& Sim, frmGyro& W);
 void scrRoll_Change(frmGyro& W);
 void scrPitch_Change(frmGyro& W);
-void chkNoise_Click(Simulator& Sim, frmGyro& W);
 void cmbNoise_Change(frmGyro& W, int Index);
 void cmbNoise_Click(Simulator& Sim, frmGyro& W, int Index);
 void cmbModeIndicator_Click(frmGyro& W);

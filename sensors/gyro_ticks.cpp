@@ -129,7 +129,7 @@ void timer_Simulator_Tick(Simulator& Sim, frmGyro& W) {
     if (W.chkNoise.Value() && W.optAccumulatedNoise.Selected() == 1) {
         Heading = W.Noisy_HDG;
         // The bar's handler rounds Noisy_HDG to a tenth; Heading and Nav_HDG keep the value as it was made.
-        W.scrHDG.Set_Value(Bar_Place(W.scrHDG, W.Noisy_HDG, Bar_Steps));
+        Move_Bar(W.scrHDG, Bar_Place(W.scrHDG, W.Noisy_HDG, Bar_Steps));
     }
 }
 

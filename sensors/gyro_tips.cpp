@@ -58,7 +58,7 @@ void Set_Tool_Tips(frmGyro& W) {
                                           "Largest error of the roll, 0.0 to 10.0 degrees",
                                           "Largest error of the pitch, 0.0 to 10.0 degrees"};
     for (const auto& List : W.cmbNoise) {
-        List->Tool_Tip = Noise_Tips[List->Index] + std::string("; another number can be typed");
+        List->Tool_Tip = Noise_Tips[List->Index] + std::string("; others, -360 to 360, can be typed");
         W.lblNoise[List->Index].Tool_Tip = std::string(Noise_Tips[List->Index]);
     }
 }

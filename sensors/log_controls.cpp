@@ -6,7 +6,6 @@
 #include "shell/simulator.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace brinewright {
 
@@ -17,17 +16,16 @@ constexpr const char* Noise_Levels[] = {"0.0", "0.1", "0.2", "0.3", "0.4", "0.5"
                                         " 1",  " 2",  " 3",  " 4",  " 5",  " 6",  " 7",  " 8",  " 9",  " 10"};
 
 void Show_Speed(const Simulator_State& S, frmLog& W) {
-    W.lblSpeed.Caption = Format_Dot(S.Log_Speed[W.Instance], "0.0");
-    W.txtSpeed.Set_Text(W.lblSpeed.Caption);
+    Show_Size(W.lblSpeed, W.txtSpeed, S.Log_Speed[W.Instance]);
 }
 
 // The state holds the knots themselves and not a place in the list. A level that the list does not have, as a
-// setup file may hold, becomes the first.
+// setup file may hold, stays in effect with nothing chosen.
 int Place_Of_Level(const Combo_Box& List, float Level_kn) {
     const auto Has_Level = [&](const Combo_Box::Item& I) { return Number_Shown(I.Text) == Level_kn; };
     const auto& Items = List.Items();
     const auto Found = std::find_if(Items.begin(), Items.end(), Has_Level);
-    return Found == Items.end() ? 0 : static_cast<int>(Found - Items.begin());
+    return Found == Items.end() ? -1 : static_cast<int>(Found - Items.begin());
 }
 
 void Store_VLW_Period(Simulator& Sim, frmLog& W) {
@@ -39,7 +37,7 @@ void Store_VLW_Period(Simulator& Sim, frmLog& W) {
 void Wire_Log_Controls(Simulator& Sim, frmLog& W) {
     W.scrSpeed.Change = [&] { scrSpeed_Change(Sim, W); };
     W.txtSpeed.Lost_Focus = [&] { txtSpeed_LostFocus(Sim, W); };
-    W.chkNoise.Click = [&] { chkNoise_Click(Sim, W); };
+    W.chkNoise.Click = [&] { Sim.State.Log_Noise_Enabled[W.Instance] = W.chkNoise.Value(); };
     W.cmbNoise.Click = [&] { cmbNoise_Click(Sim, W); };
     W.chkInvalid.Click = [&] { chkInvalid_Click(W); };
     W.cmdResetVLW.Click = [&] { cmdResetVLW_Click(Sim, W); };
@@ -56,7 +54,6 @@ void Restore_Log_Settings(Simulator& Sim, frmLog& W) {
     const Simulator_State& S = Sim.State;
     W.cmbNoise.Set_List_Index(Place_Of_Level(W.cmbNoise, S.Log_Noise_Level[W.Instance]));
     W.chkNoise.Set_Value(S.Log_Noise_Enabled[W.Instance]);
-    chkNoise_Click(Sim, W); // an unchecked box has not clicked: its list is disabled from the start
 }
 
 void scrSpeed_Change(Simulator& Sim, frmLog& W) {
@@ -64,18 +61,10 @@ void scrSpeed_Change(Simulator& Sim, frmLog& W) {
     Show_Speed(Sim.State, W);
 }
 
-// The bar goes first and the typed value last, so that it stays in effect where the bar cannot follow: above
-// 40 knots, where the bar stands at its end, and between two tenths. This order is required.
 void txtSpeed_LostFocus(Simulator& Sim, frmLog& W) {
-    const double Speed_kn = std::abs(Val_Dot(W.txtSpeed.Text()));
-    W.scrSpeed.Set_Value(Bar_Place(W.scrSpeed, Speed_kn, Bar_Steps));
-    Sim.State.Log_Speed[W.Instance] = Record_Number(Speed_kn);
+    const float Speed_kn = Typed_Size(W.scrSpeed, W.txtSpeed);
+    Sim.State.Log_Speed[W.Instance] = Speed_kn;
     Show_Speed(Sim.State, W);
-}
-
-void chkNoise_Click(Simulator& Sim, frmLog& W) {
-    Sim.State.Log_Noise_Enabled[W.Instance] = W.chkNoise.Value();
-    W.cmbNoise.Enabled = W.chkNoise.Value();
 }
 
 void cmbNoise_Click(Simulator& Sim, frmLog& W) {

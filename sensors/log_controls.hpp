@@ -20,7 +20,6 @@ void Restore_Log_Settings(Simulator& Sim, frmLog& W);
 
 void scrSpeed_Change(Simulator& Sim, frmLog& W);
 void txtSpeed_LostFocus(Simulator& Sim, frmLog& W);
-void chkNoise_Click(Simulator& Sim, frmLog& W);
 void cmbNoise_Click(Simulator& Sim, frmLog& W);
 void chkInvalid_Click(frmLog& W);
 

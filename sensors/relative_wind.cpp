@@ -66,7 +66,7 @@ Relative_Wind Work_Out_Relative_Wind(const Wind_And_Ship& Now) {
     const float From_deg = Felt_Direction_deg(Now, Downwind_deg);
     const float Off_Bow_deg =
         From_deg < Heading_deg ? 360 - (Heading_deg - From_deg) : std::abs(Heading_deg - From_deg);
-    return {Speed_kn, Sum_Direction(Off_Bow_deg, 0)};
+    return {Speed_kn, Normalise_Direction(Off_Bow_deg)};
 }
 
 } // namespace brinewright

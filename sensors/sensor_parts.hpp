@@ -3,6 +3,7 @@
 #include "platform/controls.hpp"
 
 #include <initializer_list>
+#include <string>
 
 namespace brinewright {
 
@@ -20,11 +21,41 @@ double Signed_Draw(Simulator& Sim);
 // handler anew, and returns true, whereupon the handler is to return.
 bool Wrap_Direction_Bar(Scroll_Bar& Bar);
 
-// Where such a bar shows an angle of 0 to 360 degrees: nearest tenth, 0 to 3599.
+// Where such a bar shows an angle, whatever circle it is in: nearest tenth, 0 to 3599.
 int Direction_Place(const Scroll_Bar& Bar, double Angle_deg);
 
 // A bar's value in its unit.
 float Bar_Value(const Scroll_Bar& Bar);
+
+// What the box beside such a bar shows: what the bar shows.
+std::string Direction_Shown(const Scroll_Bar& Bar);
+
+// Brings a bar to a place within its range and runs its handler, also when it stands there already.
+void Move_Bar(Scroll_Bar& Bar, int Place);
+
+// A box in which a value is typed that its bar has to reach.
+struct Box_Of_Bar {
+    Scroll_Bar& Bar;
+    Text_Box& Box;
+    const char* Refusal; // what is told when the bar does not reach it
+    std::string Shown;   // what the box shows while nobody types
+};
+
+// The box is left: brings the bar to the nearest tenth, which runs its handler, or refuses what is typed;
+// then the value before stays and shows again. A value that stands beyond the bar, as the ship can leave it
+// behind, may be passed by: it is refused only when it is typed.
+void Leave_Box(Simulator& Sim, const Form& W, const Box_Of_Bar& B);
+
+// The size of the number typed in a box that may go beyond its bar, which is brought as near as it gets.
+// Since the bar's handler runs in here, the caller takes the typed value last, so that it stays in effect
+// where the bar cannot follow: beyond its end, and between two tenths. This order is required.
+float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box);
+
+// A speed or depth beside its bar: the label shows it and the box copies the label.
+void Show_Size(Label& Shown, Text_Box& Box, float Value);
+
+// The same direction in 0 to under 360 degrees.
+float Normalise_Direction(double Angle_deg);
 
 // A plus B in 0 to under 360 degrees, also where the step to 32 bits would round up to a full circle.
 float Sum_Direction(double A_deg, double B_deg);

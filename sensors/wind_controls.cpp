@@ -7,8 +7,6 @@
 #include "shell/control_text.hpp"
 #include "shell/simulator.hpp"
 
-#include <cmath>
-
 namespace brinewright {
 
 namespace {
@@ -16,19 +14,10 @@ namespace {
 constexpr int Relative_Index = 0; // of optRef
 constexpr int True_Index = 1;
 
-void Show_Direction(const Simulator_State& S, frmWind& W) {
-    W.txtHDG.Set_Text(Format_Dot(S.Wind_Direction[W.Instance], "000.0"));
-}
+void Show_Direction(frmWind& W) { W.txtHDG.Set_Text(Direction_Shown(W.scrHDG)); }
 
 void Show_Speed(const Simulator_State& S, frmWind& W) {
-    W.lblSpeed.Caption = Format_Dot(S.Wind_Speed[W.Instance], "0.0");
-    W.txtSpeed.Set_Text(W.lblSpeed.Caption);
-}
-
-void Take_Direction(Simulator& Sim, frmWind& W, float Direction_deg) {
-    Sim.State.Wind_Direction[W.Instance] = Direction_deg;
-    Show_Direction(Sim.State, W);
-    CalculateRelativeWind(Sim, W, W.Instance);
+    Show_Size(W.lblSpeed, W.txtSpeed, S.Wind_Speed[W.Instance]);
 }
 
 void Take_Speed(Simulator& Sim, frmWind& W, float Speed) {
@@ -48,7 +37,7 @@ void Fill_Wind_Lists(frmWind& W) {
 void Show_True_Wind(const Simulator_State& State, frmWind& W) {
     W.scrHDG.Set_Value(Direction_Place(W.scrHDG, State.Wind_Direction[W.Instance]));
     W.scrSpeed.Set_Value(Bar_Place(W.scrSpeed, State.Wind_Speed[W.Instance], Bar_Steps));
-    Show_Direction(State, W);
+    Show_Direction(W);
     Show_Speed(State, W);
 }
 
@@ -78,24 +67,21 @@ void Restore_Wind_Settings(const Simulator_State& State, frmWind& W) {
 
 void scrHDG_Change(Simulator& Sim, frmWind& W) {
     if (Wrap_Direction_Bar(W.scrHDG)) return;
-    Take_Direction(Sim, W, Bar_Value(W.scrHDG));
+    Sim.State.Wind_Direction[W.Instance] = Bar_Value(W.scrHDG);
+    Show_Direction(W);
+    CalculateRelativeWind(Sim, W, W.Instance);
 }
 
-// A typed direction is taken to the tenth, as the bar shows it. One outside the circle is north.
 void txtHDG_LostFocus(Simulator& Sim, frmWind& W) {
-    const float Typed_deg = Number_Shown(W.txtHDG.Text());
-    W.scrHDG.Set_Value(Direction_Place(W.scrHDG, Typed_deg > 0 && Typed_deg < 360 ? Typed_deg : 0));
-    Take_Direction(Sim, W, Bar_Value(W.scrHDG)); // a bar that stands there already has told nothing
+    Leave_Box(Sim, W,
+              {W.scrHDG, W.txtHDG, "Wind direction must be 0.0 to 360.0 degrees. Try again!",
+               Direction_Shown(W.scrHDG)});
 }
 
 void scrSpeed_Change(Simulator& Sim, frmWind& W) { Take_Speed(Sim, W, Bar_Value(W.scrSpeed)); }
 
-// The typed speed comes last, so that it stays in effect where the bar cannot follow: above 40, where the bar
-// stands at its end, and between two tenths.
 void txtSpeed_LostFocus(Simulator& Sim, frmWind& W) {
-    const float Speed = std::abs(Number_Shown(W.txtSpeed.Text()));
-    W.scrSpeed.Set_Value(Bar_Place(W.scrSpeed, Speed, Bar_Steps));
-    Take_Speed(Sim, W, Speed);
+    Take_Speed(Sim, W, Typed_Size(W.scrSpeed, W.txtSpeed));
 }
 
 // The numbers of the true wind stay as they are and count in the new unit from now on.

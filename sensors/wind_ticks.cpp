@@ -5,6 +5,7 @@
 #include "sensors/sensor_parts.hpp"
 #include "sensors/wind_units.hpp"
 #include "shell/control_text.hpp"
+#include "shell/number_text.hpp"
 #include "shell/simulator.hpp"
 
 #include <algorithm>
@@ -30,14 +31,14 @@ constexpr Sentence_Row<G> Rows[] = {
 
 // Within the circle, although a setup file may hold any number.
 float True_Direction_deg(const Simulator& Sim, const frmWind& W) {
-    return Sum_Direction(Sim.State.Wind_Direction[W.Instance], 0);
+    return Normalise_Direction(Sim.State.Wind_Direction[W.Instance]);
 }
 
 void Add_Noise(Simulator& Sim, const frmWind& W, MWV_Record& R) {
     const double Angle_Noise_deg = Signed_Draw(Sim) * Number_Shown(W.cmbNoise[0].Text());
     const double Speed_Noise = Signed_Draw(Sim) * Number_Shown(W.cmbNoise[1].Text());
     R.Angle = Sum_Direction(R.Angle, Angle_Noise_deg);
-    R.Speed = Record_Number(R.Speed + Speed_Noise);
+    R.Speed = Record_Number(std::max(0.0, R.Speed + Speed_Noise));
 }
 
 } // namespace
@@ -45,7 +46,7 @@ void Add_Noise(Simulator& Sim, const frmWind& W, MWV_Record& R) {
 std::span<const Sentence_Row<frmWind>> Wind_Sentences() { return Rows; }
 
 void Show_Variation(const Simulator& Sim, frmWind& W) {
-    W.lblMagDev.Caption = Joined_Number(Sim.State.Magnetic_Variation) + " deg";
+    W.lblMagDev.Caption = Decimal_Text(Sim.State.Magnetic_Variation) + " deg";
 }
 
 void timer_MWV_Tick(Simulator& Sim, frmWind& W) {
@@ -60,7 +61,6 @@ void timer_MWV_Tick(Simulator& Sim, frmWind& W) {
         R.Speed = Sim.State.Wind_Speed[k];
     }
     if (W.chkNoise.Value()) Add_Noise(Sim, W, R);
-    R.Speed = std::max(R.Speed, 0.0F); // no reader takes a wind of less than nothing
     W.lblWindAngle.Caption = Format_Dot(R.Angle, "000.0#");
     W.lblWindSpeed.Caption = Format_Dot(R.Speed, "0.0#");
     Send_Sentence(Sim, Compose_MWV(R, No_Checksum(Sim)), W.Form_Index);

@@ -15,8 +15,9 @@ void Set_Wind_Tips(frmWind& W) {
         const char* Text;
     } Tips[] = {
         {W.frmTrueWindDir, "Where the true wind comes from, degrees true"},
-        {W.scrHDG, "Where the true wind comes from, 0.0 to 359.9 degrees true in steps of 0.1"},
-        {W.txtHDG, "Where the true wind comes from, 0.0 to 359.9 degrees true"},
+        {W.scrHDG, "Where the true wind comes from, 0.0 to 359.9 degrees true in steps of 0.1; both ends "
+                   "lead past north"},
+        {W.txtHDG, "Where the true wind comes from, 0.0 to 360.0 degrees true"},
         {W.lblHDGUnit, "Unit of the direction"},
         {W.frmTrueWindSpd, "Speed of the true wind, in the chosen unit"},
         {W.scrSpeed, "Speed of the true wind, 0.0 to 40.0 of its unit in steps of 0.1"},

@@ -38,9 +38,7 @@ struct GNS_Record {
 //  9  antenna above mean sea level, metres
 // 10  geoidal separation, metres
 // 11  age of the differential corrections, seconds
-// 12  differential reference station, 0 to 1023. Unpadded, which is required: station 100 is "0100" in GGA
-// and
-//     "100" here.
+// 12  differential reference station, 0 to 1023. Unpadded, which is required: "100" here is "0100" in GGA.
 // 13  navigational status
 //
 // Decimals_Position: of the minutes of the position, 3 to 6; with any other number fields 2 to 5 are left

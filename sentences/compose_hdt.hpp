@@ -16,8 +16,8 @@ struct HDT_Record {
 //        |     |
 // $--HDT,xxx.x,T*hh
 //
-// 1  heading, degrees true, 000.0 to 359.9. A value that rounds up to 360.0 is printed so: nothing wraps
-// here. 2  T
+// 1  heading, degrees true, 000.0 to 359.9; nothing wraps a value that rounds up to 360.0
+// 2  T
 //
 // Decimals: of the heading, 0 to 3; any other value means 1.
 std::string Compose_HDT(const HDT_Record& Record, std::int16_t Decimals, bool No_Checksum);

@@ -18,9 +18,8 @@ struct MWD_Record {
 //        |      | |      | |      | |      |
 // $--MWD,xxx.xx,T,xxx.xx,M,xxx.xx,N,xxx.xx,M*hh
 //
-// 1  direction that the wind comes from, degrees true, 000.0 to 359.99; every number has three integer
-// digits,
-//    one decimal at least, two at most
+// 1  direction that the wind comes from, degrees true, 000.0 to 359.99; three integer digits, one decimal at
+//    least, two at most, as every number here
 // 2  T
 // 3  the same, degrees magnetic
 // 4  M

@@ -1,24 +1,27 @@
 // The echo sounder: its depth, its offset, its noise and what it sends.
 
-#include "echo_wind_bench.hpp"
+#include "sensor_bench.hpp"
 
 namespace brinewright {
 namespace {
 
 TEST(Echosounder, Sends_Feet_Metres_And_No_Fathoms) {
-    Echo_Wind_Bench Bench;
+    Sensor_Bench Bench;
     frmEchosounder& W = Bench.Open_Echo();
     Bench.Type(W.txtDepth, "10");
     EXPECT_EQ(Bench.Tick(W.timer_DBT), Framed("SDDBT,32.81,f,10.0,M,,F"));
-    EXPECT_EQ(Bench.Left[0].first, 18);
+    EXPECT_EQ(Bench.Sent[0].Port, 22);
     EXPECT_EQ(Bench.Tick(W.timer_DPT), Framed("SDDPT,10.0,0.0,400.0"));
     EXPECT_EQ(*W.lblCurrentDepth.Caption, "10.0");
+    Bench.Type(W.txtDepth, "400"); // 3.28083 feet to the metre: another last digit would show here
+    EXPECT_EQ(Bench.Tick(W.timer_DBT), Framed("SDDBT,1312.33,f,400.0,M,,F"));
+    Bench.Type(W.txtDepth, "10");
 
     Bench.Type(W.txtTalker, "yx");
     Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
     EXPECT_EQ(Bench.Tick(W.timer_DBT), "$YXDBT,32.81,f,10.0,M,,F");
-    EXPECT_EQ(Bench.Sim.State.Echo_Talker[1], "YX");
-    Bench.Sim.State.IEC450_Enabled = Bench.Sim.State.Use_n_Tag = true;
+    EXPECT_EQ(Bench.S.Echo_Talker[1], "YX");
+    Bench.S.IEC450_Enabled = Bench.S.Use_n_Tag = true;
     EXPECT_EQ(Bench.Tick(W.timer_DPT), "\\" + Framed("n:1").substr(1) + "\\$YXDPT,10.0,0.0,400.0");
 }
 
@@ -30,7 +33,7 @@ struct Typed_Depth {
 };
 
 TEST(Echosounder, Typed_Depths_Outlive_The_Bar_And_Stay_Numbers) {
-    Echo_Wind_Bench Bench;
+    Sensor_Bench Bench;
     frmEchosounder& W = Bench.Open_Echo();
     for (const Typed_Depth& T : {Typed_Depth{"12.34", 12.34F, "12.3", 123},
                                  {"-7,5", 7.5F, "7.5", 75},
@@ -39,43 +42,44 @@ TEST(Echosounder, Typed_Depths_Outlive_The_Bar_And_Stay_Numbers) {
                                  {"400", 400, "400.0", 4000}}) {
         Bench.Type(W.txtDepth, T.Text);
         EXPECT_EQ(W.Depth_Value, T.Depth_m) << T.Text;
-        EXPECT_EQ(Bench.Sim.State.Echo_Depth, T.Depth_m) << T.Text;
+        EXPECT_EQ(Bench.S.Echo_Depth, T.Depth_m) << T.Text;
         EXPECT_EQ(W.scrDepth.Value(), T.Bar) << T.Text;
         EXPECT_EQ(*W.lblDepth.Caption, T.Shown) << T.Text;
         EXPECT_EQ(W.txtDepth.Text(), T.Shown) << T.Text;
     }
     Bench.Type(W.txtDepth, "1e300");
-    for (Timer* Clock : {&W.timer_DBT, &W.timer_DPT})
-        EXPECT_TRUE(Has_Numbers_Only(Bench.Tick(*Clock))) << Bench.Left[0].second;
+    for (Timer* Clock : {&W.timer_DBT, &W.timer_DPT}) Bench.Tick(*Clock);
+    for (const float Number : {W.DBT_Record.Depth_Metres, W.DBT_Record.Depth_Feet, W.DPT_Record.Depth})
+        EXPECT_TRUE(std::isfinite(Number));
     W.scrDepth.Set_Value(81);
-    EXPECT_EQ(Bench.Sim.State.Echo_Depth, 8.1F);
+    EXPECT_EQ(Bench.S.Echo_Depth, 8.1F);
     EXPECT_EQ(W.txtDepth.Text(), "8.1");
     EXPECT_TRUE(Bench.Take_Boxes().empty());
 }
 
 TEST(Echosounder, Both_Start_From_The_Kept_Depth_And_Only_The_First_Writes_It) {
-    Echo_Wind_Bench Bench;
-    Bench.Sim.State.Echo_Depth = 512.25F;
+    Sensor_Bench Bench;
+    Bench.S.Echo_Depth = 512.25F;
     frmEchosounder& First = Bench.Open_Echo(1);
     frmEchosounder& Second = Bench.Open_Echo(2);
-    EXPECT_EQ(Bench.Sim.State.Echo_Depth, 512.25F) << "showing it has changed it";
+    EXPECT_EQ(Bench.S.Echo_Depth, 512.25F) << "showing it has changed it";
     EXPECT_EQ(First.scrDepth.Value(), 4000);
     EXPECT_EQ(Second.Depth_Value, 512.25F);
     Second.scrDepth.Set_Value(70);
     EXPECT_EQ(Second.Depth_Value, 7);
-    EXPECT_EQ(Bench.Sim.State.Echo_Depth, 512.25F);
+    EXPECT_EQ(Bench.S.Echo_Depth, 512.25F);
     First.scrDepth.Set_Value(90);
-    EXPECT_EQ(Bench.Sim.State.Echo_Depth, 9);
+    EXPECT_EQ(Bench.S.Echo_Depth, 9);
     EXPECT_EQ(Bench.Tick(Second.timer_DPT), Framed("SDDPT,7.0,0.0,400.0"));
-    EXPECT_EQ(Bench.Left[0].first, 19);
+    EXPECT_EQ(Bench.Sent[0].Port, 23);
 
     Bench.Close(First);
-    Bench.Sim.State.Echo_Depth = -3;
+    Bench.S.Echo_Depth = -3;
     EXPECT_EQ(Bench.Tick(Bench.Open_Echo(1).timer_DPT), Framed("SDDPT,0.0,0.0,400.0"));
 }
 
 TEST(Echosounder, Offset_Is_Read_As_It_Is_Typed_And_Written_Back_On_Leaving) {
-    Echo_Wind_Bench Bench;
+    Sensor_Bench Bench;
     frmEchosounder& W = Bench.Open_Echo();
     EXPECT_EQ(W.cmbOffset.Items().size(), 41U);
     EXPECT_EQ(W.cmbOffset.Items()[0].Text, "-20");
@@ -100,9 +104,9 @@ TEST(Echosounder, Offset_Is_Read_As_It_Is_Typed_And_Written_Back_On_Leaving) {
 }
 
 TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
-    Echo_Wind_Bench Bench;
-    Bench.Sim.State.Echo_Noise_Enabled[2] = true;
-    Bench.Sim.State.Echo_Noise_Level[2] = 8;
+    Sensor_Bench Bench;
+    Bench.S.Echo_Noise_Enabled[2] = true;
+    Bench.S.Echo_Noise_Level[2] = 8;
     frmEchosounder& W = Bench.Open_Echo(2);
     EXPECT_TRUE(W.chkNoise.Value());
     EXPECT_EQ(W.cmbNoise.Text(), "8");
@@ -112,9 +116,8 @@ TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
         Least = 1e9, Most = -1e9;
         int Different = 0;
         for (int I = 0; I < Times; ++I) {
-            const double DBT_m = Field(Bench.Tick(W.timer_DBT), 3);
-            EXPECT_NEAR(Field(Bench.Left[0].second, 1), DBT_m * 3.28083, 0.022);
-            const double DPT_m = Field(Bench.Tick(W.timer_DPT), 1);
+            for (Timer* Clock : {&W.timer_DBT, &W.timer_DPT}) Bench.Tick(*Clock);
+            const double DBT_m = W.DBT_Record.Depth_Metres, DPT_m = W.DPT_Record.Depth;
             Least = std::min({Least, DBT_m, DPT_m}), Most = std::max({Most, DBT_m, DPT_m});
             Different += std::abs(DBT_m - DPT_m) > 0.1 ? 1 : 0;
         }
@@ -130,15 +133,15 @@ TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
 
     Bench.Click(W.chkNoise);
     W.cmbNoise.Set_List_Index(20);
-    EXPECT_FALSE(Bench.Sim.State.Echo_Noise_Enabled[2]);
-    EXPECT_EQ(Bench.Sim.State.Echo_Noise_Level[2], 20);
+    EXPECT_FALSE(Bench.S.Echo_Noise_Enabled[2]);
+    EXPECT_EQ(Bench.S.Echo_Noise_Level[2], 20);
     EXPECT_EQ(W.Depth_Value, 1);
     EXPECT_EQ(Bench.Tick(W.timer_DPT), Framed("SDDPT,1.0,0.0,400.0"));
 }
 
 TEST(Echosounder, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
-    Echo_Wind_Bench Bench;
-    Simulator_State& S = Bench.Sim.State;
+    Sensor_Bench Bench;
+    Simulator_State& S = Bench.S;
     S.DBT_Enabled[1] = S.DPT_Enabled[1] = true;
     S.DBT_Interval[1] = 1;
     S.DPT_Interval[1] = 77;     // no such entry
@@ -153,11 +156,12 @@ TEST(Echosounder, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     EXPECT_EQ(W.cmbDPTInterval.Text(), " 1 sec");
     EXPECT_EQ(W.cmbNoise.Text(), "0");
     EXPECT_EQ(W.cmbNoise.Items().size(), 21U);
-    EXPECT_EQ(*W.lblEchosounder.Caption, "ECHOSOUNDER");
-    Expect_Tool_Tips(W);
-    Bench.Left.clear();
+    Expect_Texts(W, {"lblEchosounder=ECHOSOUNDER", "frmDepth=Depth", "lblDepthUnit=meter",
+                     "lblTransducer=Transducer", "lblOffset=offset", "chkNoise=Random noise On",
+                     "lblMaxNoise=Max noise", "frmCurrentValue=Current value", "chkDBT=DBT", "chkDPT=DPT"});
+    Bench.Sent.clear();
     Bench.Run_s(10);
-    EXPECT_EQ(Bench.Left.size(), 30U);
+    EXPECT_EQ(Bench.Sent.size(), 30U);
     S.Mode = "Sensor"; // the modes differ in nothing here
     EXPECT_EQ(Bench.Open_Echo(2).cmbDBTInterval.Text(), " 1 sec");
 }

@@ -1,17 +1,17 @@
 // Heading, turn and attitude of a gyro in Sensor mode: bars and boxes, the simulator's steps, noise, and what
 // the sentences make of it.
 
-#include "gyro_log_bench.hpp"
+#include "sensor_bench.hpp"
 
 namespace brinewright {
 namespace {
 
-void Step(Gyro_Log_Bench& Bench, frmGyro& W) {
+void Step(Sensor_Bench& Bench, frmGyro& W) {
     Bench.Sim.Windows.Event([&] { W.timer_Simulator.Tick(); });
 }
 
 // Chooses noise and switches it on.
-frmGyro& With_Noise(Gyro_Log_Bench& Bench, frmGyro& W, bool Accumulated, const char* Heading,
+frmGyro& With_Noise(Sensor_Bench& Bench, frmGyro& W, bool Accumulated, const char* Heading,
                     const char* Turn = "0.0", const char* Roll = "0.0", const char* Pitch = "0.0") {
     Bench.Click(W.chkNoise);
     Bench.Click(*W.optAccumulatedNoise.Buttons[Accumulated ? 1 : 0]);
@@ -22,7 +22,7 @@ frmGyro& With_Noise(Gyro_Log_Bench& Bench, frmGyro& W, bool Accumulated, const c
 }
 
 TEST(Gyro_Sentences, Report_What_Is_Set) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     frmGyro& W = Bench.Open_Gyro(2);
     Bench.S.Gyro_HDG[2] = 7.25F;
     Bench.S.Gyro_ROT[2] = -5.5F;
@@ -57,7 +57,7 @@ TEST(Gyro_Sentences, Report_What_Is_Set) {
 }
 
 TEST(Gyro_Bars, The_Heading_Bar_Wraps_And_Noise_Keeps_It_From_The_Heading) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     frmGyro& W = Bench.Open_Gyro();
     Bench.Set(W.scrHDG, std::int64_t{-1});
     EXPECT_EQ(W.scrHDG.Value(), 3599);
@@ -77,10 +77,17 @@ TEST(Gyro_Bars, The_Heading_Bar_Wraps_And_Noise_Keeps_It_From_The_Heading) {
     Step(Bench, W);
     EXPECT_EQ(Bench.Tick(W.timer_HDT), Framed("HEHDT,000.0,T"));
     EXPECT_EQ(Bench.S.Gyro_HDG[2], 0);
+
+    Bench.Set(W.scrHDG, std::int64_t{1000});
+    Bench.Click(W.chkNoise);
+    EXPECT_EQ(Bench.S.Gyro_HDG[1], 0);
+    EXPECT_EQ(W.txtHDG.Text(), "100.0");
+    Bench.Type(W.txtHDG, "100"); // where the bar stands already
+    EXPECT_EQ(Bench.S.Gyro_HDG[1], 100);
 }
 
 TEST(Gyro_Bars, Typed_Values_Move_Their_Bar_Or_Are_Refused_With_A_Box) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     frmGyro& W = Bench.Open_Gyro();
     const struct {
         Text_Box& Box;
@@ -116,30 +123,33 @@ TEST(Gyro_Bars, Typed_Values_Move_Their_Bar_Or_Are_Refused_With_A_Box) {
 }
 
 TEST(Gyro_Simulator, Without_Noise_Only_The_Ships_Heading_Shows_One_Step_Of_The_Turn) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     frmGyro& W = Bench.Open_Gyro();
     Bench.S.Gyro_HDG[1] = 359.8F;
     Bench.S.Gyro_ROT[1] = 30;
     Bench.Click(W.cmdStart);
-    Bench.Run_For(0.39);
+    Bench.Run_s(0.39);
     EXPECT_EQ(Bench.S.Nav_HDG, 0);
-    Bench.Run_For(4);
+    Bench.Run_s(4);
     // 30 degrees a minute by 60: 0.5 degrees in the 0.4 s of a step. A clock's way would be 0.2.
     EXPECT_NEAR(Bench.S.Nav_HDG, 0.3, 1e-4);
     EXPECT_EQ(Bench.S.Gyro_HDG[1], 359.8F);
     EXPECT_EQ(Bench.Tick(W.timer_HDT), Framed("HEHDT,359.8,T"));
-    Bench.S.Gyro_ROT[1] = -30;
-    Bench.S.Gyro_HDG[1] = 0.2F;
-    Step(Bench, W);
-    EXPECT_NEAR(Bench.S.Nav_HDG, 359.7, 1e-4);
-    Bench.S.Gyro_ROT[1] = 0;
-    Bench.S.Gyro_HDG[1] = -5; // one that nothing moves is reported as it is
-    Step(Bench, W);
-    EXPECT_EQ(Bench.S.Nav_HDG, -5);
+    // The last, which nothing moves, is reported as it is.
+    const struct {
+        float Heading, Turn;
+        double Stepped;
+    } Rows[] = {{0.2F, -30, 359.7}, {359.5F, 30, 0}, {359.5F, 29.7F, 359.995}, {-5, 0, -5}};
+    for (const auto& Row : Rows) {
+        Bench.S.Gyro_HDG[1] = Row.Heading;
+        Bench.S.Gyro_ROT[1] = Row.Turn;
+        Step(Bench, W);
+        EXPECT_NEAR(Bench.S.Nav_HDG, Row.Stepped, 1e-4) << Row.Heading;
+    }
 }
 
 TEST(Gyro_Simulator, Only_Gyro_1_Steers_And_Only_In_Sensor_Mode) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     Bench.S.Gyro_HDG.Elements = {10, 20};
     frmGyro& Second = Bench.Open_Gyro(2);
     Step(Bench, Second);
@@ -157,7 +167,7 @@ TEST(Gyro_Simulator, Only_Gyro_1_Steers_And_Only_In_Sensor_Mode) {
 // The numbers of this and the other tests of noise were computed apart, from the first draws of seed 0:
 // 0.159793 0.992145 0.039569 0.597495 0.542285 0.057160 0.631528 0.423571.
 TEST(Gyro_Simulator, Accumulated_Noise_Moves_Heading_Bar_And_Ship) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     Bench.S.Gyro_HDG[1] = 359.2F;
     Bench.S.Gyro_ROT[1] = 30;
     frmGyro& W = With_Noise(Bench, Bench.Open_Gyro(), true, "0.8");
@@ -173,11 +183,8 @@ TEST(Gyro_Simulator, Accumulated_Noise_Moves_Heading_Bar_And_Ship) {
         EXPECT_NEAR(Bench.S.Gyro_HDG[1], Told.Heading, 3e-4);
         EXPECT_EQ(Bench.S.Nav_HDG, Bench.S.Gyro_HDG[1]) << "not rounded by the bar";
         EXPECT_EQ(W.scrHDG.Value(), Told.Bar);
-        if (&Told != &Steps[0]) { // the bar stood at 3592 already
-            EXPECT_EQ(W.Noisy_HDG, static_cast<float>(Told.Bar) / 10) << "rounded by the bar";
-        } else {
-            EXPECT_EQ(W.Noisy_HDG, Bench.S.Gyro_HDG[1]);
-        }
+        // Also in the first step, after which the bar stands where it stood.
+        EXPECT_EQ(W.Noisy_HDG, static_cast<float>(Told.Bar) / 10) << "rounded by the bar";
     }
     Bench.Set(W.cmbDecimals, std::int64_t{3});
     EXPECT_EQ(Bench.Tick(W.timer_HDT).substr(0, 12), "$HEHDT,002.3");
@@ -194,7 +201,7 @@ TEST(Gyro_Simulator, Accumulated_Noise_Moves_Heading_Bar_And_Ship) {
 }
 
 TEST(Gyro_Simulator, Noise_That_Is_Not_Accumulated_Leaves_The_Heading_Alone) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     Bench.S.Gyro_HDG[1] = 0.3F;
     Bench.S.Gyro_ROT[1] = -12;
     frmGyro& W = With_Noise(Bench, Bench.Open_Gyro(), false, "2.0");
@@ -209,7 +216,7 @@ TEST(Gyro_Simulator, Noise_That_Is_Not_Accumulated_Leaves_The_Heading_Alone) {
 }
 
 TEST(Gyro_Noise, Turn_And_Attitude_Draw_In_Each_Sentence) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     frmGyro& W = With_Noise(Bench, Bench.Open_Gyro(), true, "0.0", "4.0", "6.0", "0.8");
     Bench.S.Gyro_ROT[1] = 12.5F;
     Bench.Type(W.txtRoll, "-3.2");
@@ -224,21 +231,28 @@ TEST(Gyro_Noise, Turn_And_Attitude_Draw_In_Each_Sentence) {
 }
 
 TEST(Gyro_Noise, The_Lists_Take_A_Typed_Number_That_Is_Not_Kept) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     frmGyro& W = Bench.Open_Gyro();
-    EXPECT_FALSE(W.cmbNoise[1].Enabled);
-    EXPECT_FALSE(W.optAccumulatedNoise.Buttons[0]->Enabled);
-    Bench.Click(W.chkNoise);
-    Bench.Set(W.cmbNoise[1], std::int64_t{8});
+    for (int I = 0; I < 2; ++I) Bench.Click(W.chkNoise);
+    Bench.Set(W.cmbNoise[1], std::int64_t{8}); // noise can be chosen while it is off
+    Bench.Click(*W.optAccumulatedNoise.Buttons[1]);
+    EXPECT_TRUE(Bench.S.Gyro_Noise_Accumulated[1]);
     EXPECT_EQ(W.Noise_Max[1], 4);
+    Bench.Click(W.chkNoise);
     Bench.Set(W.cmbNoise[1], std::string("2,5 x"));
     EXPECT_EQ(W.Noise_Max[1], 2.5F);
     EXPECT_EQ(Bench.S.Gyro_Noise_Level[1][1], 8);
     Bench.Set(W.cmbNoise[1], std::string("much"));
     EXPECT_EQ(W.Noise_Max[1], 0);
-    // However much is typed, numbers stay numbers.
+    // However much is typed, the heading stays in its circle and numbers stay numbers.
+    Bench.Set(W.cmbNoise[0], std::string("-1e300"));
+    EXPECT_EQ(W.Noise_Max[0], -360);
     for (const auto& List : W.cmbNoise) Bench.Set(*List, std::string("1e300"));
-    Bench.Click(*W.optAccumulatedNoise.Buttons[1]);
+    EXPECT_EQ(W.Noise_Max[3], 360);
+    for (int I = 0; I < 500; ++I) {
+        Step(Bench, W);
+        ASSERT_TRUE(Bench.S.Gyro_HDG[1] >= 0 && Bench.S.Gyro_HDG[1] < 360) << Bench.S.Gyro_HDG[1];
+    }
     Bench.S.Gyro_ROT[1] = 3e38F;
     for (int I = 0; I < 50; ++I) {
         Step(Bench, W);
@@ -247,7 +261,7 @@ TEST(Gyro_Noise, The_Lists_Take_A_Typed_Number_That_Is_Not_Kept) {
         for (const float Number : {Bench.S.Gyro_HDG[1], W.ROT_Record.Rate, W.ATT_Record.Roll})
             ASSERT_TRUE(std::isfinite(Number));
     }
-    EXPECT_EQ(Bench.Take_Boxes(), "");
+    EXPECT_TRUE(Bench.Take_Boxes().empty());
     Bench.Close(W);
     EXPECT_EQ(Bench.Open_Gyro().cmbNoise[1].List_Index(), 8);
 }

@@ -1,12 +1,11 @@
 // Opening of a gyro window: lists, settings, modes, staggers, and what START and PAUSE reach.
 
-#include "gyro_log_bench.hpp"
+#include "sensor_bench.hpp"
 
 namespace brinewright {
 namespace {
 
 using G = frmGyro;
-using Texts = std::vector<std::string>;
 
 struct Told_Sentence {
     const char* Type;
@@ -27,7 +26,7 @@ const Told_Sentence Told[] = {
 };
 
 TEST(Gyro_Opening, Fills_The_Lists_And_Restores_The_Settings_Of_Its_Instance) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     Bench.S.Gyro_Talker[2] = "GY";
     Bench.S.Gyro_Decimals[2] = 3;
     Bench.S.HDT_Interval[2] = 14;
@@ -54,12 +53,18 @@ TEST(Gyro_Opening, Fills_The_Lists_And_Restores_The_Settings_Of_Its_Instance) {
     EXPECT_EQ(W.optAccumulatedNoise.Selected(), 1);
     EXPECT_EQ(W.Noise_Max.Elements, (std::array<float, 4>{0.2F, 2, 10, 0}));
     EXPECT_FALSE(W.cmdPause.Enabled);
-    Expect_Tool_Tips(W);
+    Expect_Texts(W, {"frmHDG=Heading", "frmROT=Rate Of Turn", "lblROTUnit=deg/min", "frmRoll=Roll ",
+                     "frmPitch=Pitch", "chkNoise=Random noise On", "optAccumulatedNoise(0)=Not Accumulated",
+                     "optAccumulatedNoise(1)=Accumulated (Only Hdg)", "lblMaxNoise=Max noise",
+                     "cmdStart=START", "cmdPause=PAUSE", "lblModeIndicator=THS Mode Indicator",
+                     "lblDecimals=No of decimals", "lblATT=Furuno propr.", "lblPRDID=RD Instr propr.",
+                     "frmCurrent=Current values", "lblShipControl=Hdg and ROT control by Ship"});
+    for (const Told_Sentence& T : Told) EXPECT_EQ(*(W.*T.Box).Caption, T.Type);
 }
 
 TEST(Gyro_Opening, Choices_That_No_List_Has_Become_The_Defaults) {
     for (const int Odd : {-1, 15, 32767, -32768}) {
-        Gyro_Log_Bench Bench;
+        Sensor_Bench Bench;
         const auto Stored = static_cast<std::int16_t>(Odd);
         for (const Told_Sentence& T : Told) (Bench.S.*T.Interval)[1] = Stored;
         Bench.S.Gyro_Decimals[1] = Stored;
@@ -71,12 +76,12 @@ TEST(Gyro_Opening, Choices_That_No_List_Has_Become_The_Defaults) {
         }
         EXPECT_EQ(Bench.S.Gyro_Decimals[1], 1);
         for (const std::int16_t Level : Bench.S.Gyro_Noise_Level[1]) EXPECT_EQ(Level, 0);
-        EXPECT_EQ(Bench.Take_Boxes(), "");
+        EXPECT_TRUE(Bench.Take_Boxes().empty());
     }
 }
 
 TEST(Gyro_Opening, Shows_Heading_And_Turn_Without_Writing_Them) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     Bench.S.Gyro_HDG[1] = 359.97F;
     Bench.S.Gyro_ROT[1] = -45.67F;
     frmGyro& W = Bench.Open_Gyro();
@@ -86,15 +91,15 @@ TEST(Gyro_Opening, Shows_Heading_And_Turn_Without_Writing_Them) {
     Bench.Type(W.txtROT, "-45.7"); // entered and left as it was
     EXPECT_EQ(Bench.S.Gyro_HDG[1], 359.97F);
     EXPECT_EQ(Bench.S.Gyro_ROT[1], -45.67F);
-    EXPECT_EQ(Bench.Take_Boxes(), "");
+    EXPECT_TRUE(Bench.Take_Boxes().empty());
 }
 
 TEST(Gyro_Opening, Enabled_Sentences_Start_A_Stagger_Apart_And_HDM_Sends_Nothing) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     for (const Told_Sentence& T : Told) (Bench.S.*T.Enabled)[1] = true;
     frmGyro& W = Bench.Open_Gyro();
     EXPECT_NEAR(static_cast<double>(Bench.Now_us()), 5 * 150e3, 50);
-    Bench.Run_For(3.1);
+    Bench.Run_s(3.1);
     int Place = 0;
     for (const Told_Sentence& T : Told) {
         const std::string Head = T.Box == &G::chkATT     ? "$PFEC,HEatt,"
@@ -115,7 +120,7 @@ TEST(Gyro_Opening, Enabled_Sentences_Start_A_Stagger_Apart_And_HDM_Sends_Nothing
 }
 
 TEST(Gyro_Opening, START_And_PAUSE_Reach_All_Six_And_The_Simulator) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     frmGyro& W = Bench.Open_Gyro();
     for (const Told_Sentence& T : Told)
         if (T.Box != &G::chkTHS) Bench.Click(W.*T.Box);
@@ -127,7 +132,7 @@ TEST(Gyro_Opening, START_And_PAUSE_Reach_All_Six_And_The_Simulator) {
     EXPECT_EQ(*W.cmdStart.Caption, "Continue");
     EXPECT_EQ(W.timer_Simulator.Interval_ms(), 0);
     for (const Told_Sentence& T : Told) EXPECT_EQ((W.*T.Clock).Interval_ms(), 0) << T.Type;
-    Bench.Run_For(5);
+    Bench.Run_s(5);
     EXPECT_TRUE(Bench.Sent.empty());
     EXPECT_TRUE(Bench.S.HDT_Enabled[1]);
     Bench.Click(W.cmdStart);
@@ -141,13 +146,12 @@ TEST(Gyro_Opening, START_And_PAUSE_Reach_All_Six_And_The_Simulator) {
 }
 
 TEST(Gyro_Opening, Ship_Mode_Leaves_The_Sentences_Alone) {
-    Gyro_Log_Bench Bench("Ship");
+    Sensor_Bench Bench("Ship");
     Bench.S.Gyro_Noise_Enabled[1] = true;
     Bench.S.Gyro_HDG[1] = 77;
     Bench.S.HDT_Enabled[1] = true;
     frmGyro& W = Bench.Open_Gyro();
     EXPECT_TRUE(W.lblShipControl.Visible);
-    EXPECT_EQ(*W.lblShipControl.Caption, "Hdg and ROT control by Ship");
     std::string Shown;
     for (const Control* C : W.Controls)
         if (C->Kind != Control_Kind::Timer && static_cast<const Visible_Control*>(C)->Visible)
@@ -158,21 +162,21 @@ TEST(Gyro_Opening, Ship_Mode_Leaves_The_Sentences_Alone) {
               "cmbROTInterval chkHDM cmbHDMInterval chkATT lblATT cmbATTInterval chkPRDID lblPRDID "
               "cmbPRDIDInterval frmCurrent lblHdgTitle lblCurrentHdg lblRotTitle lblCurrentRot "
               "lblRollTitle lblCurrentRoll lblPitchTitle lblCurrentPitch ");
-    EXPECT_THROW(Bench.Click(W.cmdStart), User_Refusal);
-    EXPECT_THROW(Bench.Set(W.scrHDG, std::int64_t{5}), User_Refusal);
+    EXPECT_THROW(Bench.Sim.Windows.User_Click(W.cmdStart), User_Refusal);
+    EXPECT_THROW(Bench.Sim.Windows.User_Set(W.scrHDG, std::int64_t{5}), User_Refusal);
     // Nothing makes a noisy heading in this mode, so that HDT stays at the one of a fresh window.
-    Bench.Run_For(1.1);
+    Bench.Run_s(1.1);
     ASSERT_EQ(Bench.Sent.size(), 1U);
     EXPECT_EQ(Bench.Sent[0].Text, Framed("HEHDT,000.0,T"));
     Bench.Sent.clear();
     W.chkNoise.Set_Value(false);
-    Bench.Run_For(1);
+    Bench.Run_s(1);
     EXPECT_EQ(Bench.Sent.at(0).Text, Framed("HEHDT,077.0,T"));
-    EXPECT_FALSE(Gyro_Log_Bench().Open_Gyro().lblShipControl.Visible);
+    EXPECT_FALSE(Sensor_Bench().Open_Gyro().lblShipControl.Visible);
 }
 
 TEST(Gyro_Opening, Knows_No_Third_Gyro) {
-    Gyro_Log_Bench Bench;
+    Sensor_Bench Bench;
     for (const std::int16_t Index : {std::int16_t{2}, std::int16_t{5}}) {
         Bench.S.Open_Form_Index = Index;
         EXPECT_THROW(Load_frmGyro(Bench.Sim), Run_Time_Error);

@@ -1,18 +1,18 @@
 // The wind gauge: what it sends, its true wind, units, noise and what it keeps.
 
-#include "echo_wind_bench.hpp"
+#include "sensor_bench.hpp"
 
 namespace brinewright {
 namespace {
 
-void Set_Wind(Echo_Wind_Bench& Bench, int k, float Speed, float From_deg) {
-    Bench.Sim.State.Wind_Speed[k] = Speed;
-    Bench.Sim.State.Wind_Direction[k] = From_deg;
+void Set_Wind(Sensor_Bench& Bench, int k, float Speed, float From_deg) {
+    Bench.S.Wind_Speed[k] = Speed;
+    Bench.S.Wind_Direction[k] = From_deg;
 }
 
 TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
-    Echo_Wind_Bench Bench;
-    Simulator_State& S = Bench.Sim.State;
+    Sensor_Bench Bench;
+    Simulator_State& S = Bench.S;
     for (const int k : {1, 2}) Set_Wind(Bench, k, 10, 0);
     S.Log_Speed[1] = 5;
     S.Gyro_HDG[2] = 180;
@@ -20,12 +20,12 @@ TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
     frmWind& First = Bench.Open_Wind(1);
     frmWind& Second = Bench.Open_Wind(2);
     EXPECT_EQ(Bench.Tick(First.timer_MWV), Framed("WIMWV,000.0,R,015.0,N,A"));
-    EXPECT_EQ(Bench.Left[0].first, 20);
+    EXPECT_EQ(Bench.Sent[0].Port, 24);
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "15");
     EXPECT_EQ(*First.lblRelativeDir.Caption, "000");
     EXPECT_EQ(*First.lblRelativeWind.Caption, "log 1 and  gyro 1");
     EXPECT_EQ(Bench.Tick(Second.timer_MWV), Framed("WIMWV,180.0,R,010.0,N,A"));
-    EXPECT_EQ(Bench.Left[0].first, 21);
+    EXPECT_EQ(Bench.Sent[0].Port, 25);
     EXPECT_EQ(*Second.lblRelativeDir.Caption, "180");
     EXPECT_EQ(*Second.lblRelativeWind.Caption, "log 2 and gyro 2");
 
@@ -36,14 +36,16 @@ TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
     Bench.Run_s(1);
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "17");
     S.Log_Speed[1] = -30; // faster astern than the wind blows from ahead
-    EXPECT_EQ(Field(Bench.Tick(First.timer_MWV), 3), 0);
+    EXPECT_EQ(Bench.Tick(First.timer_MWV), Framed("WIMWV,000.0,R,-020.0,N,A"));
+    EXPECT_EQ(*First.lblRelativeSpeed.Caption, "-20");
+    EXPECT_EQ(*First.lblWindSpeed.Caption, "-20.0");
 }
 
 TEST(Wind_Gauge, Sends_True_Wind_Status_And_Talker) {
-    Echo_Wind_Bench Bench;
+    Sensor_Bench Bench;
     Set_Wind(Bench, 1, 12.34F, 270.5F);
-    Bench.Sim.State.Gyro_HDG[1] = 33;
-    Bench.Sim.State.Log_Speed[1] = 20;
+    Bench.S.Gyro_HDG[1] = 33;
+    Bench.S.Log_Speed[1] = 20;
     frmWind& W = Bench.Open_Wind();
     EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,270.5,T,012.34,N,A"));
     EXPECT_EQ(*W.lblWindAngle.Caption, "270.5");
@@ -53,45 +55,46 @@ TEST(Wind_Gauge, Sends_True_Wind_Status_And_Talker) {
     EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("XXMWV,270.5,T,012.34,N,V"));
     Bench.Click(W.chkInvalid);
     Bench.Click(*W.optRef.Buttons[0]);
-    EXPECT_TRUE(Bench.Sim.State.Wind_Relative_Ref[1]);
+    EXPECT_TRUE(Bench.S.Wind_Relative_Ref[1]);
     EXPECT_NE(Bench.Tick(W.timer_MWV).find(",R,"), std::string::npos);
     Bench.Click(*W.optRef.Buttons[1]);
-    EXPECT_FALSE(Bench.Sim.State.Wind_Relative_Ref[1]);
+    EXPECT_FALSE(Bench.S.Wind_Relative_Ref[1]);
     Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
     EXPECT_EQ(Bench.Tick(W.timer_MWV), "$XXMWV,270.5,T,012.34,N,A");
     EXPECT_EQ(Bench.Tick(W.timer_MWD), "$XXMWD,270.5,T,270.5,M,012.34,N,006.35,M");
 }
 
 TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
-    Echo_Wind_Bench Bench;
-    Set_Wind(Bench, 1, 36, 90);
-    Bench.Sim.State.Gyro_HDG[1] = 90;
-    Bench.Sim.State.Log_Speed[1] = 10;
-    Bench.Sim.State.Wind_Relative_Ref[1] = true;
+    Sensor_Bench Bench;
+    Set_Wind(Bench, 1, 3600, 90); // enough for every digit of the factors to show
+    Bench.S.Gyro_HDG[1] = 90;
+    Bench.S.Log_Speed[1] = 10;
+    Bench.S.Wind_Relative_Ref[1] = true;
     frmWind& W = Bench.Open_Wind();
     EXPECT_EQ(Entries(W.cmbUnits), (Texts{"knots", "m/s", "km/h"}));
-    // 36 knots; 36 m/s are 69.978 knots; 36 km/h are 10 m/s, 19.438 knots. The log adds 10 knots.
+    // 3600 m/s are 6997.840 knots; 3600 km/h are 1000 m/s, 1943.844 knots. The log adds 10 knots.
     const struct {
         const char* Unit;
         const char* MWD;
         const char* MWV;
-    } Rows[] = {{"knots", "036.0,N,018.52,M", "046.0,N"},
-                {"m/s", "069.98,N,036.0,M", "041.14,M"},
-                {"km/h", "019.44,N,010.0,M", "054.52,K"}};
+        const char* Shown;
+    } Rows[] = {{"knots", "3600.0,N,1852.0,M", "3610.0,N", "3610"},
+                {"m/s", "6997.84,N,3600.0,M", "3605.14,M", "3605"},
+                {"km/h", "1943.84,N,1000.0,M", "3618.52,K", "3619"}};
     for (const auto& Row : Rows) {
         Bench.Type(W.cmbUnits, Row.Unit);
         EXPECT_EQ(*W.lblUnit[0].Caption, Row.Unit);
         EXPECT_EQ(*W.lblUnit[1].Caption, Row.Unit);
+        EXPECT_EQ(*W.lblRelativeSpeed.Caption, Row.Shown) << "worked out at once";
         EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed(std::string("WIMWD,090.0,T,090.0,M,") + Row.MWD));
         EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed(std::string("WIMWV,000.0,R,") + Row.MWV + ",A"));
-        EXPECT_EQ(Bench.Sim.State.Wind_Speed[1], 36);
+        EXPECT_EQ(Bench.S.Wind_Speed[1], 3600);
     }
-    EXPECT_EQ(*W.lblRelativeSpeed.Caption, "55");
 }
 
 TEST(Wind_Gauge, Magnetic_Direction_Wraps_And_The_Variation_Shows) {
-    Echo_Wind_Bench Bench;
-    Bench.Sim.State.Magnetic_Variation = -2.5F;
+    Sensor_Bench Bench;
+    Bench.S.Magnetic_Variation = -2.5F;
     frmWind& W = Bench.Open_Wind();
     EXPECT_EQ(*W.lblMagDev.Caption, "-2.5 deg");
     const struct {
@@ -104,17 +107,16 @@ TEST(Wind_Gauge, Magnetic_Direction_Wraps_And_The_Variation_Shows) {
                 {20.25F, 0, "020.25,T,020.25,M", " 0 deg"}};
     for (const auto& Row : Rows) {
         Set_Wind(Bench, 1, 0, Row.From_deg);
-        Bench.Sim.State.Magnetic_Variation = Row.Variation_deg;
+        Bench.S.Magnetic_Variation = Row.Variation_deg;
         EXPECT_EQ(Bench.Tick(W.timer_MWD),
                   Framed(std::string("WIMWD,") + Row.Directions + ",000.0,N,000.0,M"));
         EXPECT_EQ(*W.lblMagDev.Caption, Row.Shown);
     }
-    EXPECT_EQ(*W.lblShipSetup.Caption, "(Ship Setup)");
 }
 
 TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
-    Echo_Wind_Bench Bench;
-    Simulator_State& S = Bench.Sim.State;
+    Sensor_Bench Bench;
+    Simulator_State& S = Bench.S;
     S.Wind_Noise_Enabled[2] = true;
     S.Wind_Noise_Level[2][0] = 10;
     S.Wind_Noise_Level[2][1] = 4;
@@ -122,11 +124,13 @@ TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
     frmWind& W = Bench.Open_Wind(2);
     EXPECT_EQ(W.cmbNoise[0].Text(), "10");
     EXPECT_EQ(W.cmbNoise[1].Items().size(), 21U);
+    // One draw for the angle and another for the speed: 0.159793 and 0.992145 are the first of seed 0.
+    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,356.2,T,004.94,N,A"));
     double Left_deg = 0, Right_deg = 0, Least = 99, Most = 0;
     for (int I = 0; I < 400; ++I) {
-        const std::string MWV = Bench.Tick(W.timer_MWV);
-        const double Angle_deg = Field(MWV, 1), Speed = Field(MWV, 3);
-        ASSERT_TRUE(Angle_deg >= 0 && Angle_deg <= 360) << MWV;
+        Bench.Tick(W.timer_MWV);
+        const double Angle_deg = W.MWV_Record.Angle, Speed = W.MWV_Record.Speed;
+        ASSERT_TRUE(Angle_deg >= 0 && Angle_deg < 360) << Angle_deg;
         const double Off_deg = std::remainder(Angle_deg - 3, 360);
         Left_deg = std::min(Left_deg, Off_deg), Right_deg = std::max(Right_deg, Off_deg);
         Least = std::min(Least, Speed), Most = std::max(Most, Speed);
@@ -151,22 +155,29 @@ struct Typed_Wind {
     float Value;
     const char* Shown;
     int Bar;
+    bool Refused = false;
 };
 
 TEST(Wind_Gauge, Bars_And_Boxes_Set_The_True_Wind) {
-    Echo_Wind_Bench Bench;
-    Simulator_State& S = Bench.Sim.State;
+    Sensor_Bench Bench;
+    Simulator_State& S = Bench.S;
+    S.Wind_Direction[1] = 359.97F; // its bar stands at 0
     frmWind& W = Bench.Open_Wind();
-    for (const Typed_Wind& T : {Typed_Wind{"123.4", 123.4F, "123.4", 1234},
+    for (const Typed_Wind& T : {Typed_Wind{"0", 0, "000.0", 0},
+                                {"123.4", 123.4F, "123.4", 1234},
                                 {"123,41", 123.4F, "123.4", 1234},
                                 {"360", 0, "000.0", 0},
-                                {"359.96", 0, "000.0", 0},
-                                {"-5", 0, "000.0", 0},
                                 {"359.9", 359.9F, "359.9", 3599},
-                                {"1e300", 0, "000.0", 0},
+                                {"-5", 359.9F, "359.9", 3599, true},
+                                {"400", 359.9F, "359.9", 3599, true},
+                                {"1e30", 359.9F, "359.9", 3599, true},
+                                {"359.96", 0, "000.0", 0},
                                 {"7.5", 7.5F, "007.5", 75},
                                 {"north", 0, "000.0", 0}}) {
         Bench.Type(W.txtHDG, T.Text);
+        EXPECT_EQ(Bench.Take_Boxes(),
+                  T.Refused ? Texts{"Wind direction must be 0.0 to 360.0 degrees. Try again!"} : Texts{})
+            << T.Text;
         EXPECT_EQ(S.Wind_Direction[1], T.Value) << T.Text;
         EXPECT_EQ(W.scrHDG.Value(), T.Bar) << T.Text;
         EXPECT_EQ(W.txtHDG.Text(), T.Shown) << T.Text;
@@ -181,30 +192,63 @@ TEST(Wind_Gauge, Bars_And_Boxes_Set_The_True_Wind) {
         EXPECT_EQ(W.txtSpeed.Text(), T.Shown) << T.Text;
         EXPECT_EQ(*W.lblSpeed.Caption, T.Shown) << T.Text;
     }
-    Bench.Sim.Windows.User_Set(W.scrHDG, std::int64_t{-1});
+    Bench.Set(W.scrHDG, std::int64_t{-1});
     EXPECT_EQ(S.Wind_Direction[1], 359.9F);
-    Bench.Sim.Windows.User_Set(W.scrHDG, std::int64_t{3600});
+    Bench.Set(W.scrHDG, std::int64_t{3600});
     EXPECT_EQ(S.Wind_Direction[1], 0);
     W.scrSpeed.Set_Value(255);
     EXPECT_EQ(S.Wind_Speed[1], 25.5F);
     EXPECT_EQ(*W.lblRelativeSpeed.Caption, "26") << "worked out at once";
+    Bench.Set(W.scrHDG, std::int64_t{900});
+    EXPECT_EQ(*W.lblRelativeDir.Caption, "090") << "worked out at once";
     EXPECT_EQ(S.Wind_Speed[2], 0);
 
+    S.Gyro_HDG[1] = 90; // a wind from right ahead
+    S.Log_Speed[1] = 3e38F;
     Bench.Type(W.txtSpeed, "1e300");
     for (const char* Unit : {"knots", "m/s", "km/h"}) {
         Bench.Type(W.cmbUnits, Unit);
         for (const int Reference : {0, 1}) {
             W.optRef.Select(Reference);
-            for (Timer* Clock : {&W.timer_MWV, &W.timer_MWD})
-                EXPECT_TRUE(Has_Numbers_Only(Bench.Tick(*Clock))) << Bench.Left[0].second;
+            for (Timer* Clock : {&W.timer_MWV, &W.timer_MWD}) Bench.Tick(*Clock);
+            for (const float Number : {W.MWV_Record.Angle, W.MWV_Record.Speed, W.MWD_Record.Speed_Knots,
+                                       W.MWD_Record.Speed_Ms, W.MWD_Record.Dir_Magnetic})
+                EXPECT_TRUE(std::isfinite(Number)) << Unit;
         }
     }
     EXPECT_TRUE(Bench.Take_Boxes().empty());
 }
 
+TEST(Wind_Gauge, Directions_Outside_The_Circle_Are_Shown_And_Sent_Within_It) {
+    const struct {
+        float Kept_deg;
+        const char* Sent;
+        const char* Shown;
+        int Bar;
+    } Rows[] = {{360, "000.0", "000.0", 0},
+                {400.5F, "040.5", "040.5", 405},
+                {-5.25F, "354.75", "354.8", 3548},
+                {-1e30F, "240.0", "240.0", 2400}};
+    for (const auto& Row : Rows) {
+        Sensor_Bench Bench;
+        Set_Wind(Bench, 1, 10, Row.Kept_deg);
+        frmWind& W = Bench.Open_Wind();
+        EXPECT_EQ(W.scrHDG.Value(), Row.Bar) << Row.Kept_deg;
+        EXPECT_EQ(W.txtHDG.Text(), Row.Shown) << Row.Kept_deg;
+        const std::string Sent = Row.Sent;
+        EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV," + Sent + ",T,010.0,N,A"));
+        EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed("WIMWD," + Sent + ",T," + Sent + ",M,010.0,N,005.14,M"));
+        Bench.S.Log_Speed[1] = 5;
+        Bench.S.Gyro_HDG[1] = W.MWD_Record.Dir_True; // right ahead
+        Bench.Click(*W.optRef.Buttons[0]);
+        EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,000.0,R,015.0,N,A"));
+        EXPECT_EQ(Bench.S.Wind_Direction[1], Row.Kept_deg);
+    }
+}
+
 TEST(Wind_Gauge, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
-    Echo_Wind_Bench Bench;
-    Simulator_State& S = Bench.Sim.State;
+    Sensor_Bench Bench;
+    Simulator_State& S = Bench.S;
     Set_Wind(Bench, 2, 55.55F, 359.97F);
     S.Wind_Relative_Ref[2] = true;
     S.MWV_Enabled[2] = S.MWD_Enabled[2] = true;
@@ -227,10 +271,14 @@ TEST(Wind_Gauge, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     EXPECT_EQ(W.cmbMWVInterval.Text(), " 2 sec");
     EXPECT_EQ(W.cmbMWDInterval.Text(), "0.1 sec");
     EXPECT_EQ(Bench.Open_Wind(1).cmbMWVInterval.Text(), " 1 sec");
-    Expect_Tool_Tips(W);
-    Bench.Left.clear();
+    Expect_Texts(W,
+                 {"frmTrueWindDir=True Wind Dir", "frmTrueWindSpd=True Wind Spd", "lblSpeedUnit=Speed Unit",
+                  "chkNoise=Random noise On", "lblMaxNoise(0)=Max noise", "lblMaxNoise(1)=Max noise",
+                  "chkInvalid=Flag as invalid", "optRef(0)=Relative", "optRef(1)=True",
+                  "frmCurrentValue=Current value", "chkMWV=MWV", "chkMWD=MWD", "lblShipSetup=(Ship Setup)"});
+    Bench.Sent.clear();
     Bench.Run_s(10);
-    EXPECT_EQ(Bench.Left.size(), 105U);
+    EXPECT_EQ(Bench.Sent.size(), 105U);
 }
 
 } // namespace

@@ -173,7 +173,7 @@ TEST(Ship_Window, Latches_And_Speed_Show_By_Colour_And_Text) {
         EXPECT_FALSE(Lamp->isVisible());
         EXPECT_NE(Key->property("state").toString(), QStringLiteral("warn"));
     }
-    EXPECT_EQ(D.Shown_As<QLabel>(W.lblSOG).text(), QStringLiteral("12.5 knot"));
+    EXPECT_EQ(D.Shown_As<QLabel>(W.lblSOG).text(), QStringLiteral("12.4 knot"));
     QTest::mouseClick(D.Widget_Of(W.cmdZero), Qt::LeftButton);
     D.Settle();
     EXPECT_EQ(D.Shown_As<QLabel>(W.lblSOG).text(), QStringLiteral("0.0 knot"));

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "sensors/frm_echosounder.hpp"
+#include "sensors/frm_gyro.hpp"
+#include "sensors/frm_log.hpp"
+#include "sensors/frm_wind.hpp"
+#include "tests/support/virtual_simulator.hpp"
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace brinewright {
+
+// A simulator in virtual time with the sensors 3 to 10 on UDP links 0 to 7, from midnight on, where the
+// 32-bit time of day is finest. Draws start from seed 0.
+struct Sensor_Bench : Virtual_Simulator {
+    struct Sentence {
+        std::int64_t Time_us = 0;
+        std::string Text; // without line end
+        int Port = 0;
+    };
+
+    explicit Sensor_Bench(const std::string& Mode = "Sensor") : Virtual_Simulator(0) {
+        Load_Default_Data(S);
+        S.Mode = Mode;
+        for (int Link = 0; Link < 8; ++Link)
+            S.Sensor_Table[form_index::Gyro_1 + Link].Port = static_cast<std::int16_t>(18 + Link);
+        Use({18, 19, 20, 21, 22, 23, 24, 25});
+        Sim.On_Sent.push_back([this](std::string_view Text, int Port) {
+            EXPECT_TRUE(Text.ends_with("\r\n")) << Text;
+            Sent.push_back({Now_us(), std::string(Text.substr(0, Text.size() - 2)), Port});
+        });
+    }
+
+    frmGyro& Open_Gyro(int Instance = 1) {
+        return Open(form_index::Gyro_1, Instance, Load_frmGyro, Sim.frmGyro_Instance);
+    }
+    frmLog& Open_Log(int Instance = 1) {
+        return Open(form_index::Log_1, Instance, Load_frmLog, Sim.frmLog_Instance);
+    }
+    frmEchosounder& Open_Echo(int Instance = 1) {
+        return Open(form_index::Echosounder_1, Instance, Load_frmEchosounder, Sim.frmEchosounder_Instance);
+    }
+    frmWind& Open_Wind(int Instance = 1) {
+        return Open(form_index::Wind_1, Instance, Load_frmWind, Sim.frmWind_Instance);
+    }
+    template <class Window>
+    Window& Open(int First, int Instance, std::shared_ptr<Sensor_Form> (*Load)(Simulator&),
+                 Per_Instance<std::shared_ptr<Window>>& Places) {
+        S.Open_Form_Index = static_cast<std::int16_t>(First + Instance - 1);
+        Sim.Windows.Event([&] { Sim.Windows.Show(Load(Sim)); });
+        return *Places[Instance];
+    }
+
+    void Set(Control& Target, const Control_Value& Value) {
+        Sim.Windows.Event([&] { Sim.Windows.User_Set(Target, Value); });
+    }
+    // Types or chooses and leaves the control, as a user does.
+    void Type(Control& Target, const std::string& Text) {
+        Sim.Windows.Event([&] {
+            Sim.Windows.User_Set(Target, Text);
+            Sim.Windows.Set_Focus(nullptr);
+        });
+    }
+
+    // One tick of a sentence, as it goes out.
+    std::string Tick(Timer& Clock) {
+        Sent.clear();
+        Sim.Windows.Event([&] { Clock.Tick(); });
+        return Sent.size() == 1 ? Sent[0].Text : std::to_string(Sent.size()) + " sentences";
+    }
+    int Count(const std::string& Part) const {
+        int Found = 0;
+        for (const Sentence& One : Sent) Found += One.Text.find(Part) != std::string::npos;
+        return Found;
+    }
+
+    Simulator_State& S{Sim.State};
+    std::vector<Sentence> Sent;
+};
+
+// Body with "$" in front and its checksum behind, summed here on its own.
+inline std::string Framed(const std::string& Body) {
+    unsigned Sum = 0;
+    for (const char C : Body) Sum ^= static_cast<unsigned char>(C);
+    constexpr const char* Digits = "0123456789ABCDEF";
+    return "$" + Body + "*" + Digits[Sum / 16] + Digits[Sum % 16];
+}
+
+// Every control that a user sees says its unit and range, or what it does; those of the list, "path=caption",
+// also bear their captions.
+inline void Expect_Texts(const Form& W, std::initializer_list<std::string> Captions) {
+    for (const Control* C : W.Controls)
+        if (C->Kind != Control_Kind::Timer) {
+            EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
+        }
+    for (const std::string& Row : Captions) {
+        const std::string Path = Row.substr(0, Row.find('='));
+        const auto* const Found = static_cast<const Visible_Control*>(W.Find(Path));
+        ASSERT_TRUE(Found) << Path;
+        EXPECT_EQ(Path + '=' + *Found->Caption, Row);
+    }
+}
+
+inline Texts Entries(const Combo_Box& List) {
+    Texts Told;
+    for (const Combo_Box::Item& Entry : List.Items()) Told.push_back(Entry.Text);
+    return Told;
+}
+
+} // namespace brinewright
