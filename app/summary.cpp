@@ -22,7 +22,10 @@ std::string Link_Text(const Simulator& Sim, int Port) {
     const Simulator_State& S = Sim.State;
     if (Port == port_number::None) return "nowhere (no link is chosen)";
     if (!Link_In_Use(Sim, Port)) return "nowhere (its link is not in use)";
-    if (Port <= port_number::Last_Serial) return "COM " + std::to_string(Port);
+    if (Port <= port_number::Last_Serial) {
+        const auto& Link = Sim.Links.MSComm[Port];
+        return "COM " + std::to_string(Port) + (Link && Link->Is_Open() ? "" : ", which could not be opened");
+    }
     if (Port == port_number::TCP) {
         if (!Sim.Links.Listener || !Sim.Links.Listener->Is_Listening())
             return "TCP port " + std::to_string(S.TCP_Port) + ", which could not be opened";

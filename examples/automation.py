@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Operate a running simulator: open GNSS 1, set it up, let it run, look at the result.
 
-    brinewright-headless --virtual --automation /tmp/b.sock &
+    brinewright-headless --setup examples/sensor.ini --no-save --virtual --automation /tmp/b.sock &
     examples/automation.py /tmp/b.sock
 """
 
@@ -60,6 +60,7 @@ class Simulator:
 CLOSED = -32001
 
 simulator = Simulator(sys.argv[1])
+simulator.click("frmMain.mnuMode(2)")  # Sensor mode, if it is not yet
 try:
     simulator.get("frmPosition[1]")
 except Refused as error:

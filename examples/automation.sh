@@ -1,6 +1,6 @@
 #!/bin/sh
 # Operates a running simulator from the shell:
-#     brinewright-headless --virtual --automation /tmp/b.sock &
+#     brinewright-headless --setup examples/sensor.ini --no-save --virtual --automation /tmp/b.sock &
 #     examples/automation.sh /tmp/b.sock
 # BRINEWRIGHT_CTL names the client when it is not on the PATH.
 set -eu
@@ -8,6 +8,7 @@ set -eu
 socket=$1
 ctl() { "${BRINEWRIGHT_CTL:-brinewright-ctl}" --socket "$socket" "$@"; }
 
+ctl click 'frmMain.mnuMode(2)' # Sensor mode, if it is not yet
 ctl get 'frmPosition[1].Caption' 2>/dev/null || ctl click 'frmMain.mnuOpenForm(1)'
 
 # It may move already; a start position is set at rest.

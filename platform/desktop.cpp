@@ -18,7 +18,7 @@ void Desktop::Show(std::shared_ptr<Form> Window, bool With_Focus) {
 
 void Desktop::Activate(Form& Window) {
     Active_Form = &Window;
-    Window.Revision = ++Revision;
+    Window.Revision = Window.Last_Active = ++Revision;
     if (Window.On_Got_Focus) Window.On_Got_Focus();
 }
 
@@ -44,7 +44,13 @@ void Desktop::Unload(Form& Window) {
         Unloaded.push_back(std::move(*Place));
         Forms.erase(Place);
     }
-    if (Active_Form == &Window) Active_Form = Forms.empty() ? nullptr : Forms.back().get();
+    if (Active_Form == &Window) {
+        // The one that was active before it; the revision grows with every choice.
+        const auto Before = std::max_element(Forms.begin(), Forms.end(), [](const auto& A, const auto& B) {
+            return A->Last_Active < B->Last_Active;
+        });
+        Active_Form = Before == Forms.end() ? nullptr : Before->get();
+    }
     ++Revision;
     if (Failure) std::rethrow_exception(Failure);
 }

@@ -49,7 +49,8 @@ struct Form : std::enable_shared_from_this<Form> {
     Window_State State = Window_State::Normal;
     bool Key_Preview = false; // the form sees the keys before its controls do
     bool Loaded = false;
-    std::uint64_t Revision = 0; // grows when the form itself or one of its controls changes
+    std::uint64_t Last_Active = 0; // grows from window to window as they are chosen
+    std::uint64_t Revision = 0;    // grows when the form itself or one of its controls changes
 
     std::vector<Control*> Controls; // in the order in which they are made
     std::function<void()> On_Unload;

@@ -17,9 +17,9 @@ namespace brinewright {
 //
 // The value is rounded to the last place of the picture, halves away from zero, starting from the shortest
 // decimal text that stands for it: the 32-bit float 123.45 is 123.45 here, not 123.4499969. A negative value
-// has "-" in front of the padded digits, also when it rounds to zero (-0.04 in "0.0" gives -0.0). More integer
-// digits than the picture holds are all printed. The point is always ".", nothing depends on the locale, and
-// the text of a number never has an exponent.
+// has "-" in front of the padded digits, also when it rounds to zero (-0.04 in "0.0" gives -0.0). More
+// integer digits than the picture holds are all printed. The point is always ".", nothing depends on the
+// locale, and the text of a number never has an exponent.
 struct Number_Pattern {
     int Integer_Digits = 0; // printed at least in front of the point
     int Fixed_Decimals = 0; // printed at least behind it

@@ -238,6 +238,7 @@ void mnuMode_Click(Simulator& Sim, int Index) {
     });
     Sim.State.Open_Form_List = Kept_List;
     Sim.State.Open_Form_Count = Kept_Count;
+    if (Sim.Ship) Sim.Windows.Activate(*Sim.Ship); // what the mode is about
 }
 
 } // namespace brinewright

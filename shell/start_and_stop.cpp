@@ -11,6 +11,7 @@
 #include "shell/simulator.hpp"
 #include "shell/talker_defaults.hpp"
 
+#include <algorithm>
 #include <array>
 
 namespace brinewright {
@@ -82,9 +83,12 @@ void Open_Saved_Windows(Simulator& Sim) {
 }
 
 void MDIForm_Unload(Simulator& Sim) {
-    // Child windows go first, each adding itself to the list of open windows. One that fails to (the list is
-    // full) is told in a box, and the end goes on.
-    const auto Open_Now = Sim.Windows.Forms;
+    // Child windows go first, each adding itself to the list of open windows: in the order in which they lie
+    // upon each other, so that they lie so again. One that fails to (the list is full) is told in a box, and
+    // the end goes on.
+    auto Open_Now = Sim.Windows.Forms;
+    std::stable_sort(Open_Now.begin(), Open_Now.end(),
+                     [](const auto& A, const auto& B) { return A->Last_Active < B->Last_Active; });
     for (const auto& Window : Open_Now)
         if (Window != Sim.Main) Sim.Windows.Event([&] { Sim.Windows.Unload(*Window); });
     // Whatever fails from here on, the program ends.

@@ -4,6 +4,7 @@
 #include "ui/form_window.hpp"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QMdiSubWindow>
@@ -241,15 +242,21 @@ void Desktop_View::Follow_Boxes() {
     const QMessageBox::StandardButtons Cancel =
         Front.Buttons == Box_Buttons::OK_Cancel ? QMessageBox::Cancel : QMessageBox::NoButton;
     Box_Id = Front.Id;
+    // Over the dialog that the user is in, so that the keyboard goes back there.
+    QWidget* const User_Is_In = QApplication::activeWindow();
+    const bool In_Dialog = qobject_cast<QDialog*>(User_Is_In) && !qobject_cast<QMessageBox*>(User_Is_In);
+    QWidget* const Below = In_Dialog ? User_Is_In : this;
     Box = new QMessageBox(Icons[static_cast<int>(Front.Icon)],
                           Front.Title.empty() ? QStringLiteral("Brinewright") : To_Screen(Front.Title),
-                          To_Screen(Front.Text), QMessageBox::Ok | Cancel, this);
+                          To_Screen(Front.Text), QMessageBox::Ok | Cancel, Below);
     Box->setTextFormat(Qt::PlainText);
     connect(Box, &QMessageBox::finished, this, [this, Id = Box_Id] {
         Sim.Windows.Event([&] { Sim.Windows.Boxes.Answer(Id); });
         Follow();
     });
+    Box->setDefaultButton(QMessageBox::Ok);
     Box->open();
+    Box->activateWindow();
 }
 
 // One question at a time, the oldest. One that automation has answered goes away.
@@ -301,10 +308,13 @@ void Desktop_View::Place_From_Model() {
     // instead.
     constexpr QSize Least(640, 480);
     if (Wanted != Wanted.expandedTo(Least)) Wanted = QSize(1340, 740);
-    Wanted = Wanted.boundedTo(Screen.size());
+    // Not known before the window is up: about what a window manager puts around it.
+    constexpr QSize Decoration(10, 40);
+    const QSize Room = (Screen.size() - Decoration).expandedTo(Least);
+    Wanted = Wanted.boundedTo(Room);
     // A kept place on a display that is gone comes back into view.
-    Corner.setX(std::clamp(Corner.x(), Screen.left(), Screen.right() + 1 - Wanted.width()));
-    Corner.setY(std::clamp(Corner.y(), Screen.top(), Screen.bottom() + 1 - Wanted.height()));
+    Corner.setX(std::clamp(Corner.x(), Screen.left(), Screen.left() + Room.width() - Wanted.width()));
+    Corner.setY(std::clamp(Corner.y(), Screen.top(), Screen.top() + Room.height() - Wanted.height()));
     resize(Wanted);
     move(Corner);
 }

@@ -62,7 +62,7 @@ class Desktop_View : public QMainWindow {
     std::map<const Form*, std::unique_ptr<Form_Window>> Shown;
     std::map<const Menu_Item*, QAction*> Actions;
     std::map<int, QLabel*> Panels;
-    QMessageBox* Box = nullptr;
+    QPointer<QMessageBox> Box; // goes with the dialog that it stands over
     std::int64_t Box_Id = 0;
     QPointer<QFileDialog> Asking;
     std::int64_t Asked_Id = 0;

@@ -305,8 +305,9 @@ bool Form_View::Preview_Key(const QKeyEvent& Pressed) {
     const auto F = Source.lock();
     if (!F->Key_Preview) return false;
     static constexpr std::pair<Qt::Key, int> Codes[] = {
-        {Qt::Key_Left, key::Left}, {Qt::Key_Up, key::Up},          {Qt::Key_Right, key::Right},
-        {Qt::Key_Down, key::Down}, {Qt::Key_PageUp, key::Page_Up}, {Qt::Key_PageDown, key::Page_Down}};
+        {Qt::Key_Left, key::Left},    {Qt::Key_Up, key::Up},          {Qt::Key_Right, key::Right},
+        {Qt::Key_Down, key::Down},    {Qt::Key_PageUp, key::Page_Up}, {Qt::Key_PageDown, key::Page_Down},
+        {Qt::Key_Escape, key::Escape}};
     const auto* Row = std::find_if(std::begin(Codes), std::end(Codes),
                                    [&](const auto& R) { return R.first == Pressed.key(); });
     if (Row == std::end(Codes)) return false;

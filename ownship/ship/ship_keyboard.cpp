@@ -68,7 +68,11 @@ void Wire_Ship_Keyboard(Simulator& Sim, frmShip& W) {
     W.cmdArrows.Click = [&] { cmdArrows_Click(Sim, W); };
     W.txtDummy.Lost_Focus = [&] { txtDummy_LostFocus(W); };
     W.On_Got_Focus = [&] { Sim.Windows.Set_Focus(&W.txtDummy); };
-    W.On_Key_Down = [&](int Key_Code, Key_Modifiers Held) { return Form_KeyDown(W, Key_Code, Held); };
+    W.On_Key_Down = [&](int Key_Code, Key_Modifiers Held) {
+        if (Key_Code != key::Escape) return Form_KeyDown(W, Key_Code, Held);
+        Sim.Windows.Set_Focus(nullptr); // as any other way to leave the box does, this ends the mode
+        return true;
+    };
 }
 
 void cmdArrows_Click(Simulator& Sim, frmShip& W) {

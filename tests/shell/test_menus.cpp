@@ -1,3 +1,4 @@
+#include "ownship/ship/frm_ship.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -133,7 +134,7 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
         EXPECT_TRUE(*Sim.frmPosition_Instance[I]->lblShipControl.Visible);
     }
     EXPECT_EQ(Sim.frmPosition_Instance[1]->Left, 11);
-    EXPECT_EQ(Sim.Windows.Active_Form, Sim.frmPosition_Instance[2].get());
+    EXPECT_EQ(Sim.Windows.Active_Form, static_cast<Form*>(Sim.Ship.get()));
     EXPECT_EQ(Sim.State.Open_Form_Count, 0); // they stand again
     EXPECT_TRUE(Sim.Monitor);
 

@@ -49,9 +49,11 @@ TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
     EXPECT_EQ(Take_Boxes(), Texts{});
     const Simulator_State Kept = Saved();
     ASSERT_EQ(Kept.Open_Form_Count, 3);
-    EXPECT_EQ(Kept.Open_Form_List[1].Name, "frmShip");
-    EXPECT_EQ(Kept.Open_Form_List[1].Index, 0);
-    EXPECT_EQ(Kept.Open_Form_List[1].Left, 777);
+    // In the order in which they lay upon each other: the log was opened last, the ship before it.
+    EXPECT_EQ(Kept.Open_Form_List[2].Name, "frmShip");
+    EXPECT_EQ(Kept.Open_Form_List[2].Index, 0);
+    EXPECT_EQ(Kept.Open_Form_List[2].Left, 777);
+    EXPECT_EQ(Kept.Open_Form_List[3].Name, "frmLog");
     EXPECT_EQ(Kept.Mode, "Ship");
 }
 
@@ -90,10 +92,13 @@ TEST_F(Modes, Every_Sensor_Window_Has_Its_Item_Its_Caption_And_Its_Tag) {
         EXPECT_EQ(Sim.Windows.Active_Form, &Window(Index == 7 || Index == 8 ? Index - 2 : Index));
     }
     Close(Window(6));
+    EXPECT_EQ(Sim.Windows.Active_Form, &Window(10)); // it stays where it was
+    Close(Window(10));
+    EXPECT_EQ(Sim.Windows.Active_Form, &Window(9)); // the one that was active before
     Click(*Sim.Main->mnuOpenForm(2));
     Click(*Sim.Main->mnuOpenForm(8)); // without that log nothing gets it
     EXPECT_EQ(Sim.Windows.Active_Form, &Window(2));
-    EXPECT_EQ(Sim.Windows.Forms.size(), 10u);
+    EXPECT_EQ(Sim.Windows.Forms.size(), 9u);
 }
 
 TEST_F(Modes, Changing_Back_And_Forth_Keeps_All_Windows_And_Places) {

@@ -84,6 +84,13 @@ TEST(Ship_Keyboard, Ends_And_Steps) {
 }
 
 TEST(Ship_Keyboard, The_Mode_Lasts_Until_Another_Control_Is_Chosen) {
+    {
+        Ship_Bench Left_By_Escape;
+        Left_By_Escape.Click(Left_By_Escape.Ship().cmdArrows);
+        Left_By_Escape.Key(key::Escape);
+        EXPECT_FALSE(Left_By_Escape.Ship().Key_Preview);
+        EXPECT_TRUE(*Left_By_Escape.Ship().cmdArrows.Enabled);
+    }
     Ship_Bench B;
     frmShip& W = B.Ship();
     const auto Expect_Mode = [&](bool On) {

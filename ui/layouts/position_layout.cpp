@@ -66,9 +66,7 @@ QGroupBox* Control_Box(Form_View& View, frmPosition& F) {
     Column->addWidget(View.Make(F.cmdArrows));
     QHBoxLayout* Arrows = Row();
     Arrows->addWidget(View.Make(F.lblArrows, "good"));
-    QLineEdit* Dummy = View.Make(F.txtDummy);
-    Dummy->setFixedSize(1, 1);
-    Arrows->addWidget(Dummy);
+    Arrows->addWidget(Key_Catcher(View, F.txtDummy));
     Column->addLayout(Arrows);
     return Boxed(View.Make(F.frmSimulatorControl), Column);
 }

@@ -6,6 +6,7 @@
 #include "ui/layouts/layout_parts.hpp"
 
 #include <QFontMetrics>
+#include <QGraphicsOpacityEffect>
 
 #include <algorithm>
 #include <cstdlib>
@@ -170,6 +171,15 @@ QWidget* Ticker(Form_View& View, int Form_Index) {
         Line->setText(To_Screen(View.Sim.Last_Sentence[Form_Index]).simplified());
     });
     return Line;
+}
+
+QWidget* Key_Catcher(Form_View& View, Text_Box& Box) {
+    QLineEdit* Catcher = View.Make(Box);
+    Catcher->setFixedSize(1, 1);
+    auto* Unseen = new QGraphicsOpacityEffect(Catcher);
+    Unseen->setOpacity(0);
+    Catcher->setGraphicsEffect(Unseen);
+    return Catcher;
 }
 
 } // namespace brinewright

@@ -57,4 +57,8 @@ QLayout* Routing_Row(Form_View& View, Combo_Box& Ports, Text_Box& Talker,
 // The last sentence that the sensor sent, in one slim line.
 QWidget* Ticker(Form_View& View, int Form_Index);
 
+// The box that has the focus while the keyboard steers. What has no size cannot have it, so it is one pixel,
+// and not to be seen.
+QWidget* Key_Catcher(Form_View& View, Text_Box& Box);
+
 } // namespace brinewright

@@ -34,7 +34,7 @@ QLayout* Ship_State_Line(Form_View& View, frmShip& F) {
     View.When_Shown([&View, &F, State] {
         const Simulator_State& S = View.Sim.State;
         const bool Moves = S.Nav_SOG != 0;
-        State->setText(Moves ? QStringLiteral("Under way") : QStringLiteral("Stopped"));
+        State->setText(QString::fromLatin1(S.Freeze_Active ? "Frozen" : Moves ? "Under way" : "Stopped"));
         Show_State(State, "role", S.Freeze_Active ? "warn" : Moves ? "good" : "dim");
         for (const auto& [Key, Active] :
              {std::pair(&F.cmdFreeze, S.Freeze_Active), {&F.cmdPause, S.Pause_Active}})
@@ -171,14 +171,16 @@ QGroupBox* Steering_Box(Form_View& View, frmShip& F) {
     QHBoxLayout* Heading = Row();
     Heading->addWidget(View.Make(F.lblHDG, "dim"));
     Heading->addWidget(View.Make(F.cmbHDG), 1);
-    Heading->addWidget(View.Make(F.cmdSetSOG));
+    QPushButton* Set_SOG = View.Make(F.cmdSetSOG);
+    QSizePolicy Kept = Set_SOG->sizePolicy();
+    Kept.setRetainSizeWhenHidden(true); // it goes while the keyboard steers, and the rest stays where it is
+    Set_SOG->setSizePolicy(Kept);
+    Heading->addWidget(Set_SOG);
     Column->addLayout(Heading);
     Column->addWidget(View.Make(F.cmdArrows));
     QHBoxLayout* Keys = Row();
     Keys->addWidget(View.Make(F.lblArrows, "good"));
-    QLineEdit* Dummy = View.Make(F.txtDummy);
-    Dummy->setFixedSize(1, 1);
-    Keys->addWidget(Dummy);
+    Keys->addWidget(Key_Catcher(View, F.txtDummy));
     Keys->addStretch(1);
     Keys->addWidget(View.Make(F.lblJoystick, "dim"));
     Column->addLayout(Keys);
