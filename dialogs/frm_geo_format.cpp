@@ -55,8 +55,6 @@ frmGeoFormat::frmGeoFormat(Desktop& Its_Windows)
     Caption = "Geographic Co-ordinates Format Selection";
 }
 
-void mnuSetupLatLonFormat_Click(Simulator& Sim) {
-    Open_Once(Sim, Sim.GeoFormat, frmGeoFormat_Load);
-}
+void mnuSetupLatLonFormat_Click(Simulator& Sim) { Open_Once(Sim, Sim.GeoFormat, frmGeoFormat_Load); }
 
 } // namespace brinewright
