@@ -1,19 +1,11 @@
 #include "gnss/position_tips.hpp"
 
 #include "gnss/frm_position.hpp"
+#include "platform/tool_tips.hpp"
 
 namespace brinewright {
 
 namespace {
-
-struct Tip {
-    Visible_Control& Part;
-    const char* Text;
-};
-
-void Set_Tips(std::initializer_list<Tip> Tips) {
-    for (const Tip& T : Tips) T.Part.Tool_Tip = std::string(T.Text);
-}
 
 void Set_Fix_Tips(frmPosition& W) {
     constexpr const char* HDOP = "Horizontal dilution of precision in GGA, GNS and GSA, 1.0 to 13.6 or typed";
@@ -24,7 +16,7 @@ void Set_Fix_Tips(frmPosition& W) {
     constexpr const char* Altitude = "Antenna above mean sea level in GGA and GNS, m, below it negative";
     constexpr const char* Geoid = "Geoid above the ellipsoid in GGA and GNS, m, below it negative";
     constexpr const char* Quality = "Quality of GGA, 0 to 8; 0 also makes the fix of GSA 1, no fix";
-    Set_Tips({
+    const Tip_Row Tips[] = {
         {W.lblQuality, Quality},
         {W.cmbQuality, Quality},
         {W.lblHdop, HDOP},
@@ -48,7 +40,8 @@ void Set_Fix_Tips(frmPosition& W) {
         {W.frmModeAutMan, "How the receiver chooses between 2D and 3D"},
         {*W.optModeAutMan.Buttons[0], "Mode A of GSA"},
         {*W.optModeAutMan.Buttons[1], "Mode M of GSA"},
-    });
+    };
+    Show_Tips(Tips);
 }
 
 void Set_Mode_Tips(frmPosition& W) {
@@ -59,7 +52,7 @@ void Set_Mode_Tips(frmPosition& W) {
     constexpr const char* Letters[] = {
         "Navigational status of GNS", "Status of GLL", "Mode of GLL", "Mode of VTG", "Mode of RMC",
         "Navigational status of RMC"};
-    Set_Tips({
+    const Tip_Row Tips[] = {
         {W.frmModeIndicator, "Letters that tell how far the data can be trusted"},
         {W.lblModeIndicator, Which},
         {W.cmbModeIndicator, Which},
@@ -70,12 +63,13 @@ void Set_Mode_Tips(frmPosition& W) {
         {W.lblGNSS, Systems},
         {W.lblTalkerTitle, Talker},
         {W.lblGNS_Talker, Talker},
-    });
+    };
+    Show_Tips(Tips);
     for (const auto& List : W.cmbGLLRMVVTG_Mode) List->Tool_Tip = std::string(Letters[List->Index]);
 }
 
 void Set_Datum_Tips(frmPosition& W) {
-    Set_Tips({
+    const Tip_Row Tips[] = {
         {W.lblLocalDatum, "Datum of the position, in DTM"},
         {W.cmbDatum[0], "Datum of the position, in DTM"},
         {W.lblRefDatum, "Datum that the offset leads to, in DTM"},
@@ -86,7 +80,8 @@ void Set_Datum_Tips(frmPosition& W) {
         {W.txtOffset[1], "Longitude offset of DTM, minutes, 0 and above; its direction stands beside it"},
         {W.cmbEW, "Direction of the longitude offset"},
         {W.txtOffset[2], "Altitude offset of DTM, m, of either sign"},
-    });
+    };
+    Show_Tips(Tips);
 }
 
 // The boxes of SBAS have their own hints.
@@ -94,7 +89,7 @@ void Set_Satellite_Tips(frmPosition& W) {
     constexpr const char* In_Use =
         "Satellites in use, 0 to 63: checks the lowest free boxes or unchecks the last";
     constexpr const char* In_View = "Satellites in view, at least those in use, up to 63";
-    Set_Tips({
+    const Tip_Row Tips[] = {
         {W.lblSats, In_Use},
         {W.cmbSats, In_Use},
         {W.lblGSAWarning, "GSA has places for 12 satellites: GPS first, then SBAS, then GLONASS"},
@@ -110,7 +105,8 @@ void Set_Satellite_Tips(frmPosition& W) {
         {W.lblInView, In_View},
         {W.cmbInView, In_View},
         {W.hfgGSV, "Elevation and azimuth in degrees, SNR in dB; in use black, others red; new each minute"},
-    });
+    };
+    Show_Tips(Tips);
     for (const auto& Box : W.chkSv)
         Box->Tool_Tip = "GPS satellite " + std::to_string(Box->Index) + " is in use";
     for (const auto& Box : W.chkGLSv)
@@ -130,7 +126,9 @@ void Set_GST_Tips(frmPosition& W) {
         Box->Tool_Tip = Content;
         W.lblGST[Box->Index].Tool_Tip = Content + "; a click steps by " + (Box->Index == 3 ? "1" : "0.1");
     }
-    Set_Tips({{W.lblGSTIncrease, "By 0.1 m or 1 degree"}, {W.lblGSTDecrease, "By 0.1 m or 1 degree"}});
+    const Tip_Row Tips[] = {{W.lblGSTIncrease, "By 0.1 m or 1 degree"},
+                            {W.lblGSTDecrease, "By 0.1 m or 1 degree"}};
+    Show_Tips(Tips);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "gnss/frm_gnss.hpp"
 
 #include "gnss/frm_position.hpp"
+#include "platform/tool_tips.hpp"
 #include "shell/control_text.hpp"
 #include "shell/number_text.hpp"
 #include "shell/simulator.hpp"
@@ -112,10 +113,7 @@ GNSS_System_Row::GNSS_System_Row(Form& F, int Element)
 
 frmGNSS::frmGNSS(Desktop& Its_Windows, int Slot) : Form(Its_Windows, "frmGNSS", Slot, Form_Kind::Dialog) {
     Caption = "GNSS Configuration";
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {lblModeIndicatorTitle, "Mode field of GNS: one letter a system"},
         {lblGNSModeIndicator, "Mode field of GNS: one letter a system, 1 to 6 of them"},
         {lblSystemsTitle, "The systems behind the fix"},
@@ -125,7 +123,7 @@ frmGNSS::frmGNSS(Desktop& Its_Windows, int Slot) : Form(Its_Windows, "frmGNSS", 
         {cmdOK, "GNS changes with its next sentence"},
         {cmdCancel, "GNS stays as it is"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
 }
 
 void cmdGNSS_Click(Simulator& Sim, frmPosition& W) {

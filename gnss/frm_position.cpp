@@ -83,8 +83,7 @@ void Apply_Mode(const Simulator& Sim, frmPosition& W) {
              Ship_Mode ? Sensor_Height - Simulator_Height - Simulator_Control_Height : Sensor_Height);
 }
 
-void Fill_Lists(Simulator& Sim, frmPosition& W) {
-    Rebuild_Port_List(Sim, W);
+void Fill_Lists(frmPosition& W) {
     Fill_Fix_Quality(W);
     Fill_Mode_Lists(W);
     Fill_Datum_Lists(W);
@@ -137,10 +136,9 @@ void Form_Load(Simulator& Sim, frmPosition& W) {
     Wire_Controls(Sim, W);
     Fit_Width(Sim, W);
     Apply_Mode(Sim, W);
-    W.txtTalker.Set_Text(Sim.State.GNSS_Talker[W.Instance]);
     Show_Start_Position(Sim.State, W);
     Show_Reported_Position(Sim.State, W);
-    Fill_Lists(Sim, W);
+    Fill_Lists(W);
     Restore_Settings(Sim, W);
     Read_Records(Sim.State, W);
     Start_Enabled_Sentences(W.Sentences);

@@ -19,7 +19,6 @@ void Read_Records(const Simulator_State& State, frmPosition& W) {
     W.GLL_Record.Status = Status;
     W.RMC_Record.Mag_Var = std::abs(State.Magnetic_Variation);
     W.RMC_Record.Mag_Dir = State.Magnetic_Variation < 0 ? 'W' : 'E';
-    Set_Talker(W, State.GNSS_Talker[W.Instance]);
 }
 
 void Set_Talker(frmPosition& W, const std::string& Talker) {

@@ -64,7 +64,7 @@ void timer_GSV_Tick(Simulator& Sim, frmPosition& W) {
         for (int Place = 1; Place <= GSV_Places; ++Place)
             Fill_Place(R, Place, Sim.State,
                        Satellite_At(Sim.State, (Number - 1) * GSV_Places + Place, In_Use, In_View));
-        Send_Sentence(Sim, Compose_GSV(R, No_Checksum(Sim)), W.Instance, Number, R.Total);
+        Send_Sentence(Sim, Compose_GSV(R, No_Checksum(Sim)), W, Number, R.Total);
     }
 }
 

@@ -76,13 +76,7 @@ void Compose_And_Send(Simulator& Sim, frmPosition& W, const Record& R,
     Send_Sentence(Sim,
                   Compose(Time_Now(Sim), R, Sim.State.GNSS_Decimals_Position[I],
                           Sim.State.GNSS_Decimals_Time[I], Instance_Of(W), No_Checksum(Sim)),
-                  I);
-}
-
-// 0 to under 360, also where the step to 32 bits rounds up to a full circle.
-float Normalised_deg(double Angle_deg, double Change_deg) {
-    const auto Sum = static_cast<float>(Add_Degrees(Angle_deg, Change_deg));
-    return Sum < 360 ? Sum : 0;
+                  W);
 }
 
 } // namespace
@@ -117,27 +111,27 @@ void timer_VTG_Tick(Simulator& Sim, frmPosition& W) {
     constexpr double kmh_Per_Knot = 1.852;
     VTG_Record& R = W.VTG_Record;
     R.COG_True = Sim.State.GNSS_COG[W.Instance];
-    R.COG_Magnetic = Normalised_deg(R.COG_True, Sim.State.Magnetic_Variation);
+    R.COG_Magnetic = Sum_Direction(R.COG_True, Sim.State.Magnetic_Variation);
     R.SOG_Knots = std::abs(Sim.State.GNSS_SOG[W.Instance]);
     R.SOG_Kmh = static_cast<float>(R.SOG_Knots * kmh_Per_Knot);
-    Send_Sentence(Sim, Compose_VTG(R, No_Checksum(Sim)), W.Instance);
+    Send_Sentence(Sim, Compose_VTG(R, No_Checksum(Sim)), W);
 }
 
 void timer_ZDA_Tick(Simulator& Sim, frmPosition& W) {
     Send_Sentence(Sim,
                   Compose_ZDA(Time_Now(Sim), W.ZDA_Record, Sim.State.GNSS_Decimals_Time[W.Instance],
                               Instance_Of(W), No_Checksum(Sim)),
-                  W.Instance);
+                  W);
 }
 
 void timer_DTM_Tick(Simulator& Sim, frmPosition& W) {
-    Send_Sentence(Sim, Compose_DTM(W.DTM_Record, No_Checksum(Sim)), W.Instance);
+    Send_Sentence(Sim, Compose_DTM(W.DTM_Record, No_Checksum(Sim)), W);
 }
 
 // The second GSA would leave without tag block, and only with a satellite. Nothing ever gives it one, so that
 // exactly one GSA leaves in a tick; the dormant step is required all the same.
 void timer_GSA_Tick(Simulator& Sim, frmPosition& W) {
-    Send_Sentence(Sim, Compose_GSA(W.GSA_Record, No_Checksum(Sim)), W.Instance);
+    Send_Sentence(Sim, Compose_GSA(W.GSA_Record, No_Checksum(Sim)), W);
     GSA_Record& Second = W.GSA2_Record;
     if (Second.PRN[1] == 0) return;
     Second.Mode = W.GSA_Record.Mode;
@@ -153,7 +147,7 @@ void timer_GST_Tick(Simulator& Sim, frmPosition& W) {
     Send_Sentence(Sim,
                   Compose_GST(Time_Now(Sim), W.GST_Record, Sim.State.GNSS_Decimals_Time[W.Instance],
                               Instance_Of(W), No_Checksum(Sim)),
-                  W.Instance);
+                  W);
 }
 
 } // namespace brinewright

@@ -62,15 +62,7 @@ void txtSOG_LostFocus(Simulator& Sim, frmPosition& W) {
 }
 
 void scrCOG_Change(Simulator& Sim, frmPosition& W) {
-    // Past north in either direction: setting the bar comes back here with its other end.
-    if (W.scrCOG.Value() == W.scrCOG.Max) {
-        W.scrCOG.Set_Value(0);
-        return;
-    }
-    if (W.scrCOG.Value() == W.scrCOG.Min) {
-        W.scrCOG.Set_Value(W.scrCOG.Max - 1);
-        return;
-    }
+    if (Wrap_Direction_Bar(W.scrCOG)) return;
     Sim.State.GNSS_COG[W.Instance] = static_cast<float>(W.scrCOG.Value()) / Bar_Steps;
     Show_COG(Sim.State, W);
 }

@@ -1,14 +1,12 @@
 #include "gnss/position_tips.hpp"
 
 #include "gnss/frm_position.hpp"
+#include "platform/tool_tips.hpp"
 
 namespace brinewright {
 
 void Set_Tool_Tips(frmPosition& W) {
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {W.frmGGA, "Position, simulator and sentences of this sensor"},
         {W.frmGSA, "Satellites in use"},
         {W.frmGSV, "Satellites in view"},
@@ -58,7 +56,7 @@ void Set_Tool_Tips(frmPosition& W) {
         {W.lblDecimalsTime, "Decimals of the seconds of time, 0 to 2"},
         {W.cmbDecimalsTime, "Decimals of the seconds of time, 0 to 2"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
 }
 
 } // namespace brinewright

@@ -40,6 +40,13 @@ double Add_Radians(double A_rad, double B_rad) { return Normalised_Sum(A_rad, B_
 
 double Sum_Heading(double A_deg, double B_deg) { return Normalised_Sum(A_deg, B_deg, Circle_deg); }
 
+float Sum_Direction(double A_deg, double B_deg) {
+    const auto Sum = static_cast<float>(Add_Degrees(A_deg, B_deg));
+    return Sum < 360 ? Sum : 0;
+}
+
+float Normalise_Direction(double Angle_deg) { return Sum_Direction(Angle_deg, 0); }
+
 double Reverse_Degrees(double A_deg) { return Reversed(A_deg, Circle_deg / 2, Circle_deg); }
 
 double Reverse_Radians(double A_rad) { return Reversed(A_rad, Pi, Two_Pi); }

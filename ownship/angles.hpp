@@ -12,6 +12,11 @@ double Add_Degrees(double A_deg, double B_deg);
 double Add_Radians(double A_rad, double B_rad);
 double Sum_Heading(double A_deg, double B_deg);
 
+// A plus B as sentences hold it, in 0 to under 360 degrees also where the step to 32 bits would round up to a
+// full circle; and the same direction so.
+float Sum_Direction(double A_deg, double B_deg);
+float Normalise_Direction(double Angle_deg);
+
 // The opposite direction: half a circle more, less one full circle if that reaches one. The argument is not
 // normalised otherwise.
 double Reverse_Degrees(double A_deg);

@@ -52,7 +52,7 @@ void timer_DBT_Tick(Simulator& Sim, frmEchosounder& W) {
     R.Depth_Metres = Depth_Now_m(Sim, W);
     R.Depth_Feet = Record_Number(R.Depth_Metres * Feet_Per_m);
     Show_Current_Depth(W, R.Depth_Metres);
-    Send_Sentence(Sim, Compose_DBT(R, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_DBT(R, No_Checksum(Sim)), W);
 }
 
 void timer_DPT_Tick(Simulator& Sim, frmEchosounder& W) {
@@ -60,7 +60,7 @@ void timer_DPT_Tick(Simulator& Sim, frmEchosounder& W) {
     R.Depth = Depth_Now_m(Sim, W);
     R.Offset = W.Transducer_Offset;
     Show_Current_Depth(W, R.Depth);
-    Send_Sentence(Sim, Compose_DPT(R, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_DPT(R, No_Checksum(Sim)), W);
 }
 
 } // namespace brinewright

@@ -1,5 +1,6 @@
 #include "sensors/echo_tips.hpp"
 
+#include "platform/tool_tips.hpp"
 #include "sensors/frm_echosounder.hpp"
 
 namespace brinewright {
@@ -7,10 +8,7 @@ namespace brinewright {
 void Set_Tool_Tips(frmEchosounder& W) {
     const char* const Offset =
         "Transducer offset. Positive means transducer to waterline, negative means transducer to keel";
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {W.lblEchosounder, "Depth sounder; its depth is set by hand in both modes"},
         {W.frmDepth, "Depth below the transducer, metres"},
         {W.scrDepth, "Depth below the transducer, 0.0 to 400.0 m in steps of 0.1"},
@@ -31,7 +29,7 @@ void Set_Tool_Tips(frmEchosounder& W) {
         {W.txtTalker, "Talker of all sentences, two characters"},
         {W.cmbComPort, "Link on which the sentences leave: serial port 1 to 16, TCP/IP or UDP"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
 }
 
 } // namespace brinewright

@@ -16,15 +16,12 @@ void Set_Talker(frmEchosounder& W, const std::string& Talker) {
 }
 
 void Form_Load(Simulator& Sim, frmEchosounder& W) {
-    std::string& Talker = Sim.State.Echo_Talker[W.Instance];
     Show_Kept_Depth(Sim, W); // before the wiring: showing the depth must not write it
-    Wire_Routing(Sim, W, Talker, [&W](const std::string& New) { Set_Talker(W, New); });
+    Wire_Routing(Sim, W, Sim.State.Echo_Talker[W.Instance],
+                 [&W](const std::string& Talker) { Set_Talker(W, Talker); });
     Wire_Echo_Controls(Sim, W);
     Wire_Sentences<frmEchosounder>(W.Sentences, Echo_Sentences(), Sim, Sim.State, W, W.Instance);
-    W.txtTalker.Set_Text(Talker);
-    Set_Talker(W, Talker);
     Preset_Echo_Records(W);
-    Rebuild_Port_List(Sim, W);
     Fill_Echo_Lists(W);
     Restore_Echo_Settings(Sim, W);
     Restore_Intervals(W.Sentences);
@@ -35,6 +32,7 @@ void Form_Load(Simulator& Sim, frmEchosounder& W) {
 
 frmEchosounder::frmEchosounder(Desktop& Its_Windows, int Its_Instance)
     : Sensor_Form(Its_Windows, "frmEchosounder", Its_Instance, form_index::Echosounder_1, "SD") {
+    Set_Caption("Echosounder x"); // until the opener numbers it
     cmbOffset.Free_Text = true;
     Set_Tool_Tips(*this);
 }

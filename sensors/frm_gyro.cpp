@@ -66,9 +66,6 @@ void Form_Load(Simulator& Sim, frmGyro& W) {
     Show_Gyro_Motion(Sim.State, W); // before the wiring: showing heading and turn must not write them
     Wire_Controls(Sim, W);
     Apply_Mode(Sim, W);
-    W.txtTalker.Set_Text(Sim.State.Gyro_Talker[W.Instance]);
-    Set_Talker(W, Sim.State.Gyro_Talker[W.Instance]);
-    Rebuild_Port_List(Sim, W);
     Fill_Gyro_Lists(W);
     Restore_Gyro_Settings(Sim, W);
     Restore_Intervals(W.Sentences);

@@ -37,9 +37,6 @@ void Form_Load(Simulator& Sim, frmLog& W) {
     Show_Log_Speed(Sim.State, W); // before the wiring: showing the speed must not write it
     Wire_Controls(Sim, W);
     Apply_Mode(Sim, W);
-    W.txtTalker.Set_Text(Sim.State.Log_Talker[W.Instance]);
-    Set_Talker(W, Sim.State.Log_Talker[W.Instance]);
-    Rebuild_Port_List(Sim, W);
     Fill_Log_Lists(W);
     Restore_Log_Settings(Sim, W);
     Restore_Intervals(W.Sentences);

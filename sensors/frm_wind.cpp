@@ -1,5 +1,6 @@
 #include "sensors/frm_wind.hpp"
 
+#include "ownship/angles.hpp"
 #include "sensors/relative_wind.hpp"
 #include "sensors/sensor_parts.hpp"
 #include "sensors/wind_controls.hpp"
@@ -22,18 +23,15 @@ void Set_Talker(frmWind& W, const std::string& Talker) {
 }
 
 void Form_Load(Simulator& Sim, frmWind& W) {
-    std::string& Talker = Sim.State.Wind_Talker[W.Instance];
     Show_True_Wind(Sim.State, W); // before the wiring: showing the wind must not write it
-    Wire_Routing(Sim, W, Talker, [&W](const std::string& New) { Set_Talker(W, New); });
+    Wire_Routing(Sim, W, Sim.State.Wind_Talker[W.Instance],
+                 [&W](const std::string& Talker) { Set_Talker(W, Talker); });
     Wire_Wind_Controls(Sim, W);
     Wire_Sentences<frmWind>(W.Sentences, Wind_Sentences(), Sim, Sim.State, W, W.Instance);
     W.timerRelativeWind.Tick = [&Sim, &W] { CalculateRelativeWind(Sim, W, W.Instance); };
     // One of the two has two blanks, as is required.
     W.lblRelativeWind.Caption = std::string(W.Instance == 1 ? "log 1 and  gyro 1" : "log 2 and gyro 2");
-    W.txtTalker.Set_Text(Talker);
-    Set_Talker(W, Talker);
     Show_Variation(Sim, W);
-    Rebuild_Port_List(Sim, W);
     Fill_Wind_Lists(W);
     Restore_Wind_Settings(Sim.State, W);
     Restore_Intervals(W.Sentences);
@@ -45,6 +43,7 @@ void Form_Load(Simulator& Sim, frmWind& W) {
 
 frmWind::frmWind(Desktop& Its_Windows, int Its_Instance)
     : Sensor_Form(Its_Windows, "frmWind", Its_Instance, form_index::Wind_1, "WI") {
+    Set_Caption("Wind Gauge x"); // until the opener numbers it
     Set_Tool_Tips(*this);
 }
 

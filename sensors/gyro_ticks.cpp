@@ -70,7 +70,7 @@ void Send_Heading(Simulator& Sim, frmGyro& W, Record& R,
                   std::string (*Compose)(const Record&, std::int16_t, bool)) {
     R.Heading = Reported_Heading(Sim.State, W);
     Show_Angle(W.lblCurrentHdg, R.Heading, "000.0#");
-    Send_Sentence(Sim, Compose(R, Sim.State.Gyro_Decimals[W.Instance], No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose(R, Sim.State.Gyro_Decimals[W.Instance], No_Checksum(Sim)), W);
 }
 
 // Back into the circle, once: above 359.99 counts as past north.
@@ -101,7 +101,7 @@ void timer_ROT_Tick(Simulator& Sim, frmGyro& W) {
     R.Rate = With_Noise(Sim, W, Sim.State.Gyro_ROT[W.Instance], Turn_Noise);
     R.Status = 'A';
     Show_Angle(W.lblCurrentRot, R.Rate, "000.0#");
-    Send_Sentence(Sim, Compose_ROT(R, Sim.State.Gyro_Decimals[W.Instance], No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_ROT(R, Sim.State.Gyro_Decimals[W.Instance], No_Checksum(Sim)), W);
 }
 
 // HDM has its box, its list and its running timer, and sends nothing. This is required.
@@ -109,12 +109,12 @@ void timer_HDM_Tick(Simulator&, frmGyro&) {}
 
 void timer_ATT_Tick(Simulator& Sim, frmGyro& W) {
     Refresh_Attitude(Sim, W, W.ATT_Record);
-    Send_Sentence(Sim, Compose_ATT(W.ATT_Record, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_ATT(W.ATT_Record, No_Checksum(Sim)), W);
 }
 
 void timer_PRDID_Tick(Simulator& Sim, frmGyro& W) {
     Refresh_Attitude(Sim, W, W.PRDID_Record);
-    Send_Sentence(Sim, Compose_PRDID(W.PRDID_Record, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_PRDID(W.PRDID_Record, No_Checksum(Sim)), W);
 }
 
 // The turn enters Gyro_HDG, which HDT reports, only together with accumulated noise. In all other cases

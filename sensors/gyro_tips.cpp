@@ -1,14 +1,12 @@
 #include "sensors/gyro_tips.hpp"
 
+#include "platform/tool_tips.hpp"
 #include "sensors/frm_gyro.hpp"
 
 namespace brinewright {
 
 void Set_Tool_Tips(frmGyro& W) {
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {W.lblShipControl, "In Ship mode the ship sets heading and rate of turn of this gyro"},
         {W.frmSimulator, "Heading, turn and attitude of this gyro, set by hand"},
         {W.frmHDG, "Heading, degrees true"},
@@ -52,7 +50,7 @@ void Set_Tool_Tips(frmGyro& W) {
         {W.lblPitchTitle, "Pitch last sent, degrees"},
         {W.lblCurrentPitch, "Pitch last sent, degrees"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
     constexpr const char* Noise_Tips[] = {"Largest error of the heading, 0.0 to 10.0 degrees",
                                           "Largest error of the rate of turn, 0.0 to 10.0 deg/min",
                                           "Largest error of the roll, 0.0 to 10.0 degrees",

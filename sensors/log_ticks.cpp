@@ -1,5 +1,6 @@
 #include "sensors/log_ticks.hpp"
 
+#include "ownship/angles.hpp"
 #include "sensors/frm_log.hpp"
 #include "sensors/log_controls.hpp"
 #include "sensors/sensor_parts.hpp"
@@ -57,7 +58,7 @@ void timer_VHW_Tick(Simulator& Sim, frmLog& W) {
     R.Heading_Magnetic = Sum_Direction(Sim.State.Nav_HDG, Sim.State.Magnetic_Variation);
     R.Speed_Knots = Reported_Speed(Sim, W);
     R.Speed_Kmh = Record_Number(R.Speed_Knots * kmh_Per_Knot);
-    Send_Sentence(Sim, Compose_VHW(R, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_VHW(R, No_Checksum(Sim)), W);
 }
 
 void timer_VBW_Tick(Simulator& Sim, frmLog& W) {
@@ -66,7 +67,7 @@ void timer_VBW_Tick(Simulator& Sim, frmLog& W) {
     R.Water_Trans = 0;
     R.Ground_Long = Sim.State.Log_Speed[W.Instance];
     R.Ground_Trans = 0;
-    Send_Sentence(Sim, Compose_VBW(R, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_VBW(R, No_Checksum(Sim)), W);
 }
 
 // With noise the drift starts from the speed of the log and not from the drift of the current. This
@@ -77,15 +78,14 @@ void timer_VDR_Tick(Simulator& Sim, frmLog& W) {
         W.chkNoise.Value() ? Noisy_Speed(Sim, W, Number_Shown(W.cmbNoise.Text())) : Sim.State.Current_Drift;
     R.Set_True = Sim.State.Current_Set;
     R.Set_Magnetic = Sum_Direction(Sim.State.Current_Set, Sim.State.Magnetic_Variation);
-    Send_Sentence(Sim, Compose_VDR(R, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_VDR(R, No_Checksum(Sim)), W);
 }
 
 void timer_VLW_Tick(Simulator& Sim, frmLog& W) {
     const int I = W.Instance;
     const Log_Speeds Speeds{Sim.State.Log_Speed[I], Sim.State.GNSS_SOG[I]};
     Send_Sentence(
-        Sim, Compose_VLW(Sim.State, Speeds, W.VLW_Record, static_cast<std::int16_t>(I), No_Checksum(Sim)),
-        W.Form_Index);
+        Sim, Compose_VLW(Sim.State, Speeds, W.VLW_Record, static_cast<std::int16_t>(I), No_Checksum(Sim)), W);
 }
 
 } // namespace brinewright

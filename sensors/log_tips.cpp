@@ -1,14 +1,12 @@
 #include "sensors/log_tips.hpp"
 
+#include "platform/tool_tips.hpp"
 #include "sensors/frm_log.hpp"
 
 namespace brinewright {
 
 void Set_Tool_Tips(frmLog& W) {
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {W.lblShipControl, "In Ship mode the ship sets the speed of this log"},
         {W.frmSpeed, "Speed through the water, knots"},
         {W.scrSpeed, "Speed through the water, 0.0 to 40.0 knots in steps of 0.1"},
@@ -28,7 +26,7 @@ void Set_Tool_Tips(frmLog& W) {
         {W.lblCurrentTitle, "Speed last sent in VHW or VBW, knots"},
         {W.lblCurrentSpeed, "Speed last sent in VHW or VBW, knots"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
 }
 
 } // namespace brinewright

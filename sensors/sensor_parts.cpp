@@ -11,18 +11,6 @@ namespace brinewright {
 
 double Signed_Draw(Simulator& Sim) { return 2 * (Sim.Services.Random.Draw() - 0.5); }
 
-bool Wrap_Direction_Bar(Scroll_Bar& Bar) {
-    if (Bar.Value() == Bar.Max) {
-        Bar.Set_Value(0);
-        return true;
-    }
-    if (Bar.Value() == Bar.Min) {
-        Bar.Set_Value(Bar.Max - 1);
-        return true;
-    }
-    return false;
-}
-
 int Direction_Place(const Scroll_Bar& Bar, double Angle_deg) {
     const int Circle = Bar.Max;
     return Bar_Place(Bar, Normalise_Direction(Angle_deg), Bar_Steps) % Circle;
@@ -60,13 +48,6 @@ float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box) {
 void Show_Size(Label& Shown, Text_Box& Box, float Value) {
     Shown.Caption = Format_Dot(Value, "0.0");
     Box.Set_Text(Shown.Caption);
-}
-
-float Normalise_Direction(double Angle_deg) { return Sum_Direction(Angle_deg, 0); }
-
-float Sum_Direction(double A_deg, double B_deg) {
-    const auto Sum = static_cast<float>(Add_Degrees(A_deg, B_deg));
-    return Sum < 360 ? Sum : 0;
 }
 
 void Hide(std::initializer_list<Visible_Control*> Parts) {

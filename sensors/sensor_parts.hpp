@@ -16,12 +16,7 @@ inline constexpr int Bar_Steps = 10; // of a degree, knot or metre on every bar 
 // The next draw, -1 to under 1: times the largest noise it is the noise to either side.
 double Signed_Draw(Simulator& Sim);
 
-// A bar of a direction in tenths of a degree runs from -1 to 3600; both ends are the wrap and no places to
-// stand on. Called first in the bar's handler: at an end it sets the bar to the other side, which runs the
-// handler anew, and returns true, whereupon the handler is to return.
-bool Wrap_Direction_Bar(Scroll_Bar& Bar);
-
-// Where such a bar shows an angle, whatever circle it is in: nearest tenth, 0 to 3599.
+// Where a bar of a direction shows an angle, whatever circle it is in: nearest tenth, 0 to 3599.
 int Direction_Place(const Scroll_Bar& Bar, double Angle_deg);
 
 // A bar's value in its unit.
@@ -53,12 +48,6 @@ float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box);
 
 // A speed or depth beside its bar: the label shows it and the box copies the label.
 void Show_Size(Label& Shown, Text_Box& Box, float Value);
-
-// The same direction in 0 to under 360 degrees.
-float Normalise_Direction(double Angle_deg);
-
-// A plus B in 0 to under 360 degrees, also where the step to 32 bits would round up to a full circle.
-float Sum_Direction(double A_deg, double B_deg);
 
 // Hides every control of a list: what stands in a hidden frame is hidden one by one too, so that nobody can
 // work it from outside either.

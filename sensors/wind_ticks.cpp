@@ -1,5 +1,6 @@
 #include "sensors/wind_ticks.hpp"
 
+#include "ownship/angles.hpp"
 #include "sensors/depth_wind_parts.hpp"
 #include "sensors/frm_wind.hpp"
 #include "sensors/sensor_parts.hpp"
@@ -63,7 +64,7 @@ void timer_MWV_Tick(Simulator& Sim, frmWind& W) {
     if (W.chkNoise.Value()) Add_Noise(Sim, W, R);
     W.lblWindAngle.Caption = Format_Dot(R.Angle, "000.0#");
     W.lblWindSpeed.Caption = Format_Dot(R.Speed, "0.0#");
-    Send_Sentence(Sim, Compose_MWV(R, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_MWV(R, No_Checksum(Sim)), W);
 }
 
 void timer_MWD_Tick(Simulator& Sim, frmWind& W) {
@@ -75,7 +76,7 @@ void timer_MWD_Tick(Simulator& Sim, frmWind& W) {
     R.Dir_Magnetic = Sum_Direction(R.Dir_True, Sim.State.Magnetic_Variation);
     R.Speed_Ms = Record_Number(Speed * Unit.mps_Factor / Unit.mps_Divisor);
     R.Speed_Knots = Unit.Letter == 'N' ? Speed : Record_Number(R.Speed_Ms * Knots_Per_mps);
-    Send_Sentence(Sim, Compose_MWD(R, No_Checksum(Sim)), W.Form_Index);
+    Send_Sentence(Sim, Compose_MWD(R, No_Checksum(Sim)), W);
 }
 
 } // namespace brinewright

@@ -1,5 +1,6 @@
 #include "sensors/wind_tips.hpp"
 
+#include "platform/tool_tips.hpp"
 #include "sensors/frm_wind.hpp"
 
 namespace brinewright {
@@ -10,10 +11,7 @@ void Set_Wind_Tips(frmWind& W) {
     const char* const Unit = "Unit of the speed";
     const char* const Direction_Noise = "Largest error of the direction to either side, 0 to 20 degrees";
     const char* const Speed_Noise = "Largest error of the speed to either side, 0 to 20 of its unit";
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {W.frmTrueWindDir, "Where the true wind comes from, degrees true"},
         {W.scrHDG, "Where the true wind comes from, 0.0 to 359.9 degrees true in steps of 0.1; both ends "
                    "lead past north"},
@@ -36,14 +34,11 @@ void Set_Wind_Tips(frmWind& W) {
         {W.cmbNoise[1], Speed_Noise},
         {W.chkInvalid, "Sends MWV with the status V instead of A"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
 }
 
 void Set_Result_Tips(frmWind& W) {
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {W.frmRelativeWind, "The wind as it is felt on board, worked out every 2 s"},
         {W.lblRelativeDir, "Where the relative wind comes from, degrees from the bow, clockwise"},
         {W.lblRelativeSpeed, "Speed of the relative wind, in the chosen unit"},
@@ -60,7 +55,7 @@ void Set_Result_Tips(frmWind& W) {
         {W.txtTalker, "Talker of all sentences, two characters"},
         {W.cmbComPort, "Link on which the sentences leave: serial port 1 to 16, TCP/IP or UDP"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
 }
 
 } // namespace

@@ -36,6 +36,21 @@ inline int Bar_Place(const Scroll_Bar& Bar, double Value, int Steps) {
         std::nearbyint(std::clamp(Value * Steps, static_cast<double>(Least), static_cast<double>(Most))));
 }
 
+// A bar of a direction in tenths of a degree runs from -1 to 3600; both ends are the wrap and no places to
+// stand on. Called first in the bar's handler: at an end it sets the bar to the other side, which runs the
+// handler anew, and returns true, whereupon the handler is to return.
+inline bool Wrap_Direction_Bar(Scroll_Bar& Bar) {
+    if (Bar.Value() == Bar.Max) {
+        Bar.Set_Value(0);
+        return true;
+    }
+    if (Bar.Value() == Bar.Min) {
+        Bar.Set_Value(Bar.Max - 1);
+        return true;
+    }
+    return false;
+}
+
 // The number that the text of a box or of a list starts with.
 inline float Number_Shown(std::string_view Text) { return Record_Number(Val_Dot(Text)); }
 

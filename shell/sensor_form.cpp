@@ -24,6 +24,9 @@ void Wire_Routing(Simulator& Sim, Sensor_Form& W, std::string& Stored_Talker,
         if (W.cmbComPort.List_Index() < 0) return;
         Sim.State.Sensor_Table[W.Form_Index].Port = static_cast<std::int16_t>(W.cmbComPort.Item_Data());
     };
+    Rebuild_Port_List(Sim, W);
+    W.txtTalker.Set_Text(Stored_Talker);
+    Write_Records(Stored_Talker);
     Wire_Talker_Box(Sim.Windows, W.txtTalker, Stored_Talker, std::move(Write_Records));
 }
 

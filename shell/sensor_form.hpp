@@ -32,8 +32,8 @@ struct Sensor_Form : Form {
 // Fills cmbComPort with the links that are in use now and selects the window's own, if it is among them.
 void Rebuild_Port_List(Simulator& Sim, Sensor_Form& W);
 
-// The port list writes the window's slot; the talker box follows the talker rule. Called once, before the
-// port list is built.
+// Fills and shows port list and talker. The port list writes the window's slot; the talker box follows the
+// talker rule, and Write_Records gets every talker, the stored one at once.
 void Wire_Routing(Simulator& Sim, Sensor_Form& W, std::string& Stored_Talker,
                   std::function<void(const std::string& Talker)> Write_Records);
 

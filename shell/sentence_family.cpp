@@ -102,16 +102,16 @@ double Interval_Period_ms(const Combo_Box& Interval_List) {
 
 bool No_Checksum(const Simulator& Sim) { return Sim.Main && *Sim.Main->mnuOptionsChecksumDisabled.Checked; }
 
-void Send_Sentence(Simulator& Sim, std::string Text, int Form_Index, std::int16_t Line, std::int16_t Lines) {
-    const std::int16_t Port = Sim.State.Sensor_Table[Form_Index].Port;
+void Send_Sentence(Simulator& Sim, std::string Text, Sensor_Form& Window, std::int16_t Line,
+                   std::int16_t Lines) {
+    const std::int16_t Port = Sim.State.Sensor_Table[Window.Form_Index].Port;
     // A setup file can name a port that does not exist. It has no counters for a tag block, and nothing
     // leaves there.
     const bool Exists = Port >= port_number::None && Port <= port_number::Last;
     if (Sim.State.IEC450_Enabled && Exists) Make_UdPbC_Header(Sim, Text, Port, Line, Lines);
     Send_NMEA(Sim, Text, Port);
-    Sim.Last_Sentence[Form_Index] = std::move(Text);
-    if (Sensor_Form* Window = Sensor_Window(Sim, static_cast<std::int16_t>(Form_Index)))
-        Window->Revision = ++Sim.Windows.Revision;
+    Sim.Last_Sentence[Window.Form_Index] = std::move(Text);
+    Window.Revision = ++Sim.Windows.Revision;
 }
 
 } // namespace brinewright

@@ -13,6 +13,7 @@
 namespace brinewright {
 
 struct Simulator;
+struct Sensor_Form;
 
 // The sentences of a sensor window: each has a check box, a list of intervals beside it and a timer. What
 // they do is the same in every window and stands here; how the sentences of a window differ is the columns of
@@ -127,7 +128,7 @@ bool No_Checksum(const Simulator& Sim);
 
 // The way of a composed sentence out of a sensor window: tag block when it is on, then the transmit path with
 // the port of the window's slot. Line of Lines is its place in a series, 1 of 1 when it stands alone.
-void Send_Sentence(Simulator& Sim, std::string Text, int Form_Index, std::int16_t Line = 1,
+void Send_Sentence(Simulator& Sim, std::string Text, Sensor_Form& Window, std::int16_t Line = 1,
                    std::int16_t Lines = 1);
 
 } // namespace brinewright

@@ -2,6 +2,7 @@
 
 #include "ownship/ship/frm_ship.hpp"
 #include "ownship/ship/ship_controls.hpp"
+#include "platform/tool_tips.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/control_text.hpp"
 #include "shell/open_once.hpp"
@@ -70,10 +71,7 @@ void frmSetSOG_Load(Simulator& Sim, frmSetSOG& F) {
 
 frmSetSOG::frmSetSOG(Desktop& Its_Windows) : Form(Its_Windows, "frmSetSOG", 0, Form_Kind::Dialog) {
     Caption = "Set SOG/COG";
-    const struct {
-        Visible_Control& Part;
-        const char* Text;
-    } Tips[] = {
+    const Tip_Row Tips[] = {
         {lblSOG, "Speed over ground, knots, negative astern"},
         {txtSOG, "Speed over ground, knots, negative astern; up to the limits of the ship setup"},
         {lblSOGUnit, "Unit of the speed"},
@@ -83,7 +81,7 @@ frmSetSOG::frmSetSOG(Desktop& Its_Windows) : Form(Its_Windows, "frmSetSOG", 0, F
         {cmdOK, "The ship takes this speed, to a whole percent of the throttle, and this heading"},
         {cmdCancel, "Speed and heading stay as they are"},
     };
-    for (const auto& Tip : Tips) Tip.Part.Tool_Tip = std::string(Tip.Text);
+    Show_Tips(Tips);
 }
 
 void cmdSetSOG_Click(Simulator& Sim) { Open_Once(Sim, Sim.SetSOG, frmSetSOG_Load); }

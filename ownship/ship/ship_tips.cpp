@@ -2,21 +2,11 @@
 
 #include "ownship/ship/frm_ship.hpp"
 #include "ownship/ship/frm_ship_setup.hpp"
-
-#include <span>
+#include "platform/tool_tips.hpp"
 
 namespace brinewright {
 
 namespace {
-
-struct Tip {
-    Visible_Control& Part;
-    const char* Text;
-};
-
-void Set(std::span<const Tip> Tips) {
-    for (const Tip& T : Tips) T.Part.Tool_Tip = std::string(T.Text);
-}
 
 template <class Controls>
 void Set_All(const Controls& Parts, const char* Text) {
@@ -34,7 +24,7 @@ constexpr const char* Zone_Minutes_Tip = "Minutes that go with the hours, 0 to 5
 } // namespace
 
 void Set_Tool_Tips(frmShip& W) {
-    const Tip Tips[] = {
+    const Tip_Row Tips[] = {
         {W.frameThrottle, "Speed of the ship, percent of its limit"},
         {W.lblAhead, "100 % ahead, the greatest speed of the ship setup in knots"},
         {W.sldThrottle, "Speed, 100 % ahead to 100 % astern of the limits in the ship setup; at once"},
@@ -84,7 +74,7 @@ void Set_Tool_Tips(frmShip& W) {
         {W.lblDriftTitle, "Speed of the current, knots"},
         {W.lblDrift, "Speed of the current, knots"},
     };
-    Set(Tips);
+    Show_Tips(Tips);
     Set_All(W.lblRudderTick, "Scale of the rate of turn, deg/min");
     Set_All(W.lblJoystickButton, "Buttons 1 to 6 of the game controller");
     Set_All(W.lblLat, "Latitude of this sensor, 90 S to 90 N");
@@ -94,7 +84,7 @@ void Set_Tool_Tips(frmShip& W) {
 }
 
 void Set_Tool_Tips(frmShipSetup& F) {
-    const Tip Tips[] = {
+    const Tip_Row Tips[] = {
         {F.frameStartPosition, "Where the ship starts, degrees"},
         {F.lblStartLat, "Latitude where the ship starts, 90 S to 90 N"},
         {F.txtStartLat, "Latitude, 90 S to 90 N; a new one moves the ship there with Apply"},
@@ -136,7 +126,7 @@ void Set_Tool_Tips(frmShipSetup& F) {
         {F.cmdApply, "Takes the settings over"},
         {F.cmdCancel, "Closes; the settings stay as they were"},
     };
-    Set(Tips);
+    Show_Tips(Tips);
     Set_All(F.txtGyroOffset, "Degrees that this gyro shows more than the heading");
     Set_All(F.lblFromCOG, "Degrees");
     Set_All(F.txtLogOffset, "Knots that this log shows more than the speed over ground");

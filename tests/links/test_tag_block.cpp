@@ -78,16 +78,17 @@ TEST_F(Tag_Block, Stands_In_Front_Of_Every_Sentence_And_Faults_Act_On_The_Whole)
     S.IEC450_Enabled = S.UdPbC_Header_Enabled = S.Use_t_Tag = true;
     S.t_Tag = "A";
     Use({18, 28});
+    Open_Form(1);
     for (const int Port : {18, 28, 29, -5, 0}) {
         S.Sensor_Table[1].Port = static_cast<std::int16_t>(Port);
-        Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", 1); });
+        Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", *Sim.frmPosition_Instance[1]); });
     }
     const std::string Framed = std::string("UdPbC\0", 6) + Block("t:A") + "$GPHDT*5A\r\n";
     EXPECT_EQ(Sent_On("UDP 255.255.255.255:60001"), Texts{Framed});
     EXPECT_EQ(Sent_On("UDP 255.255.255.255:60011"), Texts{Framed});
     Sim.Main->mnuOptionsFaultyChecksum.Checked = true;
     S.Sensor_Table[1].Port = 18;
-    Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", 1); });
+    Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", *Sim.frmPosition_Instance[1]); });
     EXPECT_EQ(World.Sent.back().second, std::string("UdPbC\0", 6) + Block("t:A") + "$GPHDT*5F\r\n");
     EXPECT_EQ(World.Sent.size(), 3u);
     EXPECT_TRUE(Told.empty());

@@ -44,6 +44,8 @@ struct Ship_Bench : Virtual_Simulator {
     }
 };
 
+inline double Apart_deg(double A, double B) { return std::abs(std::remainder(A - B, 360.0)); }
+
 inline std::string Shown(const Visible_Control& C) { return *C.Caption; }
 
 } // namespace brinewright

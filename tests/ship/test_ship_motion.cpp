@@ -32,7 +32,6 @@ std::vector<std::vector<double>> Golden_Voyages() {
 }
 
 float Single(double Value) { return static_cast<float>(Value); }
-double Apart_deg(double A, double B) { return std::abs(std::remainder(A - B, 360.0)); }
 
 // A row of the golden file sailed by hand on the window.
 void Sail(Ship_Bench& B, const std::vector<double>& Row) {
