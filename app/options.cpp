@@ -4,7 +4,7 @@
 #include "platform/run_time_error.hpp"
 #include "platform_qt/com_table.hpp"
 #include "platform_qt/ini_settings.hpp"
-#include "shell/record_format.hpp"
+#include "shell/transmit/record_format.hpp"
 
 #include <CLI/CLI.hpp>
 

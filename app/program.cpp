@@ -10,7 +10,8 @@
 #include "platform_qt/qt_platform.hpp"
 #include "platform_qt/termination_signals.hpp"
 #include "platform_qt/wake_up.hpp"
-#include "shell/frm_main.hpp"
+#include "shell/main/frm_main.hpp"
+#include "shell/state/version.hpp"
 
 #include <QCoreApplication>
 
@@ -163,7 +164,8 @@ int Run_In_Virtual_Time(const Program_Options& Chosen, const Front_End& Front) {
                                    Chosen.Start_Local_us.value_or(Machine_Clock().Local_us()));
     World.Random.Seed(Chosen.Seed.value_or(0));
     Choose_Joystick(Chosen, World.Time(), World.Its_Joystick);
-    Simulator Sim(World, Start_Options_Of(Chosen));
+    const auto Whole = Make_Simulator(World, Start_Options_Of(Chosen));
+    Simulator& Sim = *Whole;
     if (!Front.Shows_Boxes) Tell_Boxes(Sim, Chosen.Hold_Boxes);
     Opened_Front Windows(Front, Sim);
     Automation_Hooks Hooks = Hooks_At(World.Time(), Front);
@@ -195,7 +197,8 @@ int Run_In_Real_Time(const Program_Options& Chosen, const Front_End& Front) {
     World_Options.Seed = Chosen.Seed;
     Qt_Platform World(World_Options);
     Choose_Joystick(Chosen, World.Time(), World.Its_Joystick);
-    Simulator Sim(World, Start_Options_Of(Chosen));
+    const auto Whole = Make_Simulator(World, Start_Options_Of(Chosen));
+    Simulator& Sim = *Whole;
     if (!Front.Shows_Boxes) Tell_Boxes(Sim, Chosen.Hold_Boxes);
     Opened_Front Windows(Front, Sim);
     Termination_Signals Signals([&Sim] { End_Program(Sim); });

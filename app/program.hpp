@@ -2,7 +2,7 @@
 
 #include "app/options.hpp"
 #include "automation/automation.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/simulator.hpp"
 
 #include <functional>
 #include <string>

@@ -16,12 +16,15 @@ Sentence_Sink::Sentence_Sink(Simulator& Sim, const std::string& File, Form Its_F
     : Its_Simulator(Sim), Name(File.empty() ? "stdout" : File), How(Its_Form), At_Once(Is_At_Once),
       Out(File.empty() ? stdout : std::fopen(File.c_str(), "we")) {
     if (!Out) throw Run_Time_Error(Name + ": " + std::strerror(errno));
-    Sim.On_Sent.push_back([this](std::string_view Text, int Port) { Take(Text, Port); });
+    Sim.Told.Sent.Add(this, [this](const Sent_Sentence& Sent) {
+        if (Sent.Link_Took_It) Take(Sent.Text, Sent.Port);
+    });
     Each_Second.Tick = [this] { Flush(); };
     if (At_Once && How == Form::Record) Sim.Timers.Start(Each_Second, us_Per_Second);
 }
 
 Sentence_Sink::~Sentence_Sink() {
+    Its_Simulator.Told.Sent.Drop(this);
     Its_Simulator.Timers.Stop(Each_Second);
     Flush();
     if (Out != stdout) std::fclose(Out);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/timer_queue.hpp"
-#include "shell/record_format.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/transmit/record_format.hpp"
 
 #include <cstdio>
 #include <memory>

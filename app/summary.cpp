@@ -1,10 +1,13 @@
 #include "app/summary.hpp"
 
 #include "links/port_list.hpp"
-#include "shell/file_menu.hpp"
-#include "shell/frm_main.hpp"
-#include "shell/sensor_form.hpp"
-#include "shell/simulator.hpp"
+#include "shell/kit/sensor_form.hpp"
+#include "shell/main/file_menu.hpp"
+#include "shell/main/frm_main.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/state/windows.hpp"
 
 namespace brinewright {
 
@@ -14,7 +17,7 @@ namespace {
 std::string Sentence_List(const Sensor_Form& Window) {
     std::string List;
     for (const Sentence_Line& Line : Window.Sentences.Lines)
-        if (Line.Box->Value()) List += std::string(" ") + Line.Type;
+        if (Line.Box.Value()) List += std::string(" ") + Line.Row.Type;
     return List.empty() ? " no sentence is ticked" : List;
 }
 
@@ -28,25 +31,27 @@ std::string Link_Text(const Simulator& Sim, int Port) {
     }
     if (Port == port_number::TCP) {
         if (!Sim.Links.Listener || !Sim.Links.Listener->Is_Listening())
-            return "TCP port " + std::to_string(S.TCP_Port) + ", which could not be opened";
-        return "TCP port " + std::to_string(S.TCP_Port) + "; look with: nc localhost " +
-               std::to_string(S.TCP_Port);
+            return "TCP port " + std::to_string(S.Of<Link_State>().TCP_Port) + ", which could not be opened";
+        return "TCP port " + std::to_string(S.Of<Link_State>().TCP_Port) + "; look with: nc localhost " +
+               std::to_string(S.Of<Link_State>().TCP_Port);
     }
-    const std::string Host = S.UDP_Mode == 0 ? "255.255.255.255" : S.UDP_Remote_Host;
-    return "UDP " + Host + ":" + std::to_string(S.UDP_Port_Number[Port - port_number::First_UDP]);
+    const std::string Host =
+        S.Of<Link_State>().UDP_Mode == 0 ? "255.255.255.255" : S.Of<Link_State>().UDP_Remote_Host;
+    return "UDP " + Host + ":" +
+           std::to_string(S.Of<Link_State>().UDP_Port_Number[Port - port_number::First_UDP]);
 }
 
 } // namespace
 
 std::string Summary(const Simulator& Sim) {
-    std::string Text = "Setup: " + Setup_File_Name(Sim) + ", " + Sim.State.Mode + " mode\n";
+    std::string Text = "Setup: " + Setup_File_Name(Sim) + ", " + Sim.State.Of<Shell_State>().Mode + " mode\n";
     bool Any = false;
-    for (std::int16_t Index = 1; Index <= Sim.State.Sensor_Table.Last_Index; ++Index) {
-        const Sensor_Form* Window = Sensor_Window(Sim, Index);
+    for (std::int16_t Index = 1; Index <= form_index::Last; ++Index) {
+        const auto* const Window = static_cast<const Sensor_Form*>(Open_Form_Of_Index(Sim, Index));
         if (!Window) continue;
         Any = true;
-        Text += *Sim.Main->mnuOpenForm(Index)->Caption + ":" + Sentence_List(*Window) + " -> " +
-                Link_Text(Sim, Sim.State.Sensor_Table[Index].Port) + "\n";
+        Text += Entry_Text(*Class_Of_Index(Sim, Index), Window->Instance) + ":" + Sentence_List(*Window) +
+                " -> " + Link_Text(Sim, Sim.State.Of<Link_State>().Sensor_Table[Index].Port) + "\n";
     }
     if (!Any) Text += "No sensor window is open in this setup, so nothing is sent.\n";
     return Text;

@@ -6,47 +6,24 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 namespace brinewright {
 
 namespace {
 
-// The classes of windows, so that a path into a closed window can be told from a wrong one.
-struct Window_Class {
-    std::string_view Name;
-    int Instances = 0; // 0 = the class exists once
-};
-constexpr std::array Window_Classes{
-    Window_Class{"frmMain"},
-    Window_Class{"frmPosition", 2},
-    Window_Class{"frmMonitor"},
-    Window_Class{"frmGyro", 2},
-    Window_Class{"frmLog", 2},
-    Window_Class{"frmEchosounder", 2},
-    Window_Class{"frmWind", 2},
-    Window_Class{"frmShip"},
-    Window_Class{"frmShipSetup"},
-    Window_Class{"frmSetSOG"},
-    Window_Class{"frmTCPIP"},
-    Window_Class{"frmIEC61162"},
-    Window_Class{"frmExtendedMonitor"},
-    Window_Class{"frmGeoFormat"},
-    Window_Class{"frmGNSS", 2},
-    Window_Class{"frmSetup"},
-    Window_Class{"frmProgress"},
-    Window_Class{"frmComportInfo"},
-    Window_Class{"frmTraffic"},
-};
-
 constexpr std::string_view State_Prefix = "state.";
 
-bool Is_Known_Window(std::string_view Path) {
-    return std::any_of(Window_Classes.begin(), Window_Classes.end(), [&](const Window_Class& Known) {
-        if (Known.Instances == 0) return Path == Known.Name;
-        for (int I = 1; I <= Known.Instances; ++I)
-            if (Path == std::string(Known.Name) + "[" + std::to_string(I) + "]") return true;
-        return false;
-    });
+// Whether it may be open, so that a path into a closed window can be told from a wrong one.
+bool Is_Known_Window(const Automation_Target& Target, std::string_view Path) {
+    return std::any_of(Target.Window_Table.begin(), Target.Window_Table.end(),
+                       [&](const Window_Class* Known) {
+                           if (Known->Count == 0) return Path == Known->Name;
+                           for (int I = 1; I <= Known->Count; ++I)
+                               if (Path == std::string(Known->Name) + "[" + std::to_string(I) + "]")
+                                   return true;
+                           return false;
+                       });
 }
 
 [[noreturn]] void Unknown(std::string_view Path, const char* Why) {
@@ -75,7 +52,7 @@ Address Find_In_Window(Form& Window, std::string_view Path, std::string_view Res
 
 Form& Find_Window(const Automation_Target& Target, std::string_view Path) {
     if (Form* Window = Target.Windows.Find_Form(Path)) return *Window;
-    if (Is_Known_Window(Path)) throw Rpc_Error{rpc_code::Closed, std::string(Path) + " is not open"};
+    if (Is_Known_Window(Target, Path)) throw Rpc_Error{rpc_code::Closed, std::string(Path) + " is not open"};
     Unknown(Path, "there is no such window");
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/desktop.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/simulator.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -18,9 +18,12 @@ struct Automation_Target {
     Simulator_State& State;
     const Link_Table& Links;
     const Send_Counts& Counts;
+    std::span<const Window_Class* const> Window_Table;
 };
 
-inline Automation_Target Target_Of(Simulator& Sim) { return {Sim.Windows, Sim.State, Sim.Links, Sim.Counts}; }
+inline Automation_Target Target_Of(Simulator& Sim) {
+    return {Sim.Windows, Sim.State, Sim.Links, Sim.Counts, Sim.Window_Table};
+}
 
 // What the program lends to automation beyond the target.
 struct Automation_Hooks {

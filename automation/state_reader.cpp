@@ -1,5 +1,6 @@
 #include "automation/state_reader.hpp"
 
+#include "all_state.hpp"
 #include "automation/rpc_error.hpp"
 
 #include <nlohmann/json.hpp>

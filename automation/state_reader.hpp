@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/json_edge.hpp"
-#include "shell/simulator_state.hpp"
+#include "shell/state/simulator_state.hpp"
 
 #include <optional>
 #include <string>

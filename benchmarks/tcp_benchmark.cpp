@@ -6,7 +6,8 @@
 #include "links/tcp_server.hpp"
 #include "platform_qt/qt_platform.hpp"
 #include "platform_qt/unique_fd.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/simulator.hpp"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -230,16 +231,17 @@ void One_Sentence_To_200_Clients(benchmark::State& State) {
     World_Options.Settings_File = Folder.filePath("settings.ini").toStdString();
     Qt_Platform World(World_Options);
     Simulator Sim(World, {});
-    Sim.State.TCP_Port = Free_Port();
+    Sim.State.Of<Link_State>().TCP_Port = Free_Port();
     TCP_Listen(Sim);
     std::uint16_t Bare_Port = 0;
     Bare_Server Bare(Listen_Somewhere(Bare_Port));
 
     const pid_t Reader = ::fork();
     Require(Reader >= 0, "fork");
-    if (Reader == 0) Read_For_Ever(Shared, {static_cast<std::uint16_t>(Sim.State.TCP_Port), Bare_Port});
+    if (Reader == 0)
+        Read_For_Ever(Shared, {static_cast<std::uint16_t>(Sim.State.Of<Link_State>().TCP_Port), Bare_Port});
     const Process_End Ending(Reader);
-    while (Sim.State.TCP_Client_Count < Clients) QCoreApplication::processEvents();
+    while (Sim.State.Of<Link_State>().TCP_Client_Count < Clients) QCoreApplication::processEvents();
     Bare.Accept_All();
 
     const auto Our_Round = [&] {

@@ -3,11 +3,10 @@
 #include "links/port_list.hpp"
 #include "links/tcp_server.hpp"
 #include "links/udp_links.hpp"
-#include "shell/frm_extended_monitor.hpp"
-#include "shell/frm_main.hpp"
-#include "shell/frm_monitor.hpp"
-#include "shell/number_text.hpp"
-#include "shell/simulator.hpp"
+#include "sentences/number_text.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/state/windows.hpp"
 
 namespace brinewright {
 
@@ -22,25 +21,31 @@ std::string Settings_Text(const Port_Setting& Port) {
            std::to_string(Port.StopBits);
 }
 
+void Show_Panel(Simulator& Sim, int Index, bool Visible) {
+    Sim.State.Of<Link_State>().Link_Panel[Index].Visible = Visible;
+    Sim.Told.Panel.Tell(Index);
+}
+
 void Open_Comport(Simulator& Sim, int Index) {
     try {
         Serial_Port& Port = Comport_Object(Sim, Index);
         if (Port.Is_Open()) Port.Close();
-        Port.Open(Settings_Text(Sim.State.Port_Table[Index]));
+        Port.Open(Settings_Text(Sim.State.Of<Link_State>().Port_Table[Index]));
     } catch (const Run_Time_Error& Failure) {
         Sim.Windows.Boxes.Show(
             std::string(Failure.what()) + ". Comport " + Number_Text(Index) +
             " not available! Please re-arrange your COM Setup! (Use Reset buttom on Com Setup)");
     }
     // The panel shows in spite of a failure.
-    Sim.Main->sbStatusBar[Index].Visible = true;
+    Show_Panel(Sim, Index, true);
 }
 
 void Leave_Comport(Simulator& Sim, int Index, bool Hide_Panel) {
     Close_Comport(Sim, Index);
     for (int Slot = 1; Slot <= Last_Swept_Slot; ++Slot)
-        if (Sim.State.Sensor_Table[Slot].Port == Index) Sim.State.Sensor_Table[Slot].Port = port_number::None;
-    if (Hide_Panel) Sim.Main->sbStatusBar[Index].Visible = false;
+        if (Sim.State.Of<Link_State>().Sensor_Table[Slot].Port == Index)
+            Sim.State.Of<Link_State>().Sensor_Table[Slot].Port = port_number::None;
+    if (Hide_Panel) Show_Panel(Sim, Index, false);
 }
 
 void Take_Lines(Simulator& Sim, int Index) {
@@ -49,7 +54,7 @@ void Take_Lines(Simulator& Sim, int Index) {
     for (std::size_t Feed = Buffer.find('\n'); Feed != std::string::npos; Feed = Buffer.find('\n')) {
         std::string Line = Buffer.substr(0, Feed + 1);
         Buffer.erase(0, Feed + 1);
-        if (Extended_Monitor_Shows(Sim, Index)) Extended_Monitor_Rx(Sim, std::move(Line));
+        Sim.Told.Received.Tell(Index, Line);
     }
     if (Buffer.size() > Line_Limit_Bytes) Buffer.clear();
 }
@@ -60,7 +65,7 @@ void Reset_Comport(Simulator& Sim, int Index, const char* Failure_Text) {
     const auto& Port = Sim.Links.MSComm[Index];
     if (!Port || !Port->Is_Open()) return;
     Port->Close();
-    Port->Open(Settings_Text(Sim.State.Port_Table[Index]));
+    Port->Open(Settings_Text(Sim.State.Of<Link_State>().Port_Table[Index]));
 }
 
 } // namespace
@@ -83,10 +88,9 @@ void Close_Comport(Simulator& Sim, int Index) {
 
 void Init_Comports(Simulator& Sim, std::int16_t Count) {
     Simulator_State& S = Sim.State;
-    Label& First_Panel = Sim.Main->sbStatusBar[1];
-    First_Panel.Caption = std::string(Count != 0 ? "COM 1" : "No comports enabled");
-    First_Panel.Visible = Count == 0;
-    S.Comport_Count = Count;
+    S.Of<Link_State>().Link_Panel[1].Text = Count != 0 ? "COM 1" : "No comports enabled";
+    Show_Panel(Sim, 1, Count == 0);
+    S.Of<Link_State>().Comport_Count = Count;
     for (int Index = 1; Index <= port_number::Last_Serial; ++Index) {
         if (Link_In_Use(Sim, Index))
             Open_Comport(Sim, Index);
@@ -94,21 +98,21 @@ void Init_Comports(Simulator& Sim, std::int16_t Count) {
             Leave_Comport(Sim, Index, Index != 1 || Count != 0);
     }
     if (Link_In_Use(Sim, port_number::TCP)) {
-        Show_frmTCPIP(Sim);
+        Sim.Told.TCP.Tell(TCP_News::Port, -1);
+        if (!Open_Form(Sim, "frmTCPIP")) Open_Window(Sim, "frmTCPIP");
         TCP_Listen(Sim);
     } else if (Sim.Links.Listener) {
         TCP_Stop(Sim);
     }
     for (std::int16_t K = 0; K <= 10; ++K)
         if (Link_In_Use(Sim, port_number::First_UDP + K)) Open_UDP(Sim, K);
-    S.Ports_Initialised = true;
+    S.Of<Link_State>().Ports_Initialised = true;
 }
 
 void MSComm_OnComm(Simulator& Sim, int Index, Comm_Event Event) {
     // Dropped for all ports but the one on the monitor: what has been received stays in the port.
-    if (!Sim.Extended_Monitor || !*Sim.Main->mnuExtendedMonitor.Checked ||
-        Index != Sim.State.Extended_Monitor_Port)
-        return;
+    const Link_State& S = Sim.State.Of<Link_State>();
+    if (!S.Extended_Monitor_Open || Index != S.Extended_Monitor_Port) return;
     try {
         switch (Event) {
         case Comm_Event::Break:

@@ -1,10 +1,10 @@
 #include "links/tcp_server.hpp"
 
 #include "links/port_list.hpp"
-#include "shell/frm_main.hpp"
-#include "shell/number_text.hpp"
-#include "shell/simulator.hpp"
-#include "shell/tx_time_text.hpp"
+#include "links/tx_time_text.hpp"
+#include "sentences/number_text.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/simulator.hpp"
 
 #include <algorithm>
 #include <limits>
@@ -24,24 +24,6 @@ TCP_Element& Element(Simulator& Sim, int Index) {
     return *All[static_cast<std::size_t>(Index)];
 }
 
-void Show_Status(Simulator& Sim) {
-    if (!Sim.TCPIP) return;
-    Sim.TCPIP->lblStatus.Caption = "Connected to" + Number_Text(Sim.State.TCP_Client_Count) + " clients";
-}
-
-// The list follows the history, which outlives a closing of the window: new entries come behind, and of the
-// others only the one that is selected can have changed.
-void Show_History(Simulator& Sim, int Selected) {
-    if (!Sim.TCPIP) return;
-    Combo_Box& List = Sim.TCPIP->cmbConnections;
-    const auto& History = Sim.Links.Connection_History;
-    while (List.Items().size() < History.size()) List.Add_Item(History[List.Items().size()]);
-    List.Visible = !History.empty();
-    if (Selected < 0 || Selected >= static_cast<int>(History.size())) return;
-    List.Set_Item(Selected, History[static_cast<std::size_t>(Selected)]);
-    List.Set_List_Index(Selected);
-}
-
 std::string Now_Text(Simulator& Sim) { return Date_Time_Text(Sim.Services.Time().Local_us()); }
 
 void WinsockArray_Close(Simulator& Sim, int Index) {
@@ -56,12 +38,12 @@ void WinsockArray_Close(Simulator& Sim, int Index) {
     }
     std::erase(Sim.Links.Connected, Index);
     if (Gone.Tag != No_Reduction) {
-        --Sim.State.TCP_Client_Count;
-        Show_Status(Sim);
+        --Sim.State.Of<Link_State>().TCP_Client_Count;
+        Sim.Told.TCP.Tell(TCP_News::Client_Count, -1);
         auto& History = Sim.Links.Connection_History;
         if (Index < static_cast<int>(History.size()))
             History[static_cast<std::size_t>(Index)] += " - " + Now_Text(Sim) + " disconnected";
-        Show_History(Sim, Index);
+        Sim.Told.TCP.Tell(TCP_News::History, Index);
     }
     Gone.Tag.clear();
 }
@@ -75,7 +57,7 @@ void Close_Listening_Element(Simulator& Sim, int Index) {
 }
 
 void Start_State_Check(Simulator& Sim, int Index) {
-    auto& Checks = Sim.Main->timerTCPIP_StateCheck;
+    auto& Checks = Sim.Links.State_Checks;
     while (static_cast<int>(Checks.size()) <= Index)
         Checks.push_back(
             std::make_unique<Timer>(*Sim.Main, "timerTCPIP_StateCheck", static_cast<int>(Checks.size())));
@@ -88,7 +70,7 @@ void Start_State_Check(Simulator& Sim, int Index) {
 }
 
 void WinsockArray_ConnectionRequest(Simulator& Sim, std::unique_ptr<TCP_Connection> Client) {
-    const int Index = Sim.State.TCP_Client_Max_Index;
+    const int Index = Sim.State.Of<Link_State>().TCP_Client_Max_Index;
     if (Index >= Last_Element) {
         // Elements are never used again, and their number is 16 bits wide.
         Client->Close();
@@ -103,52 +85,18 @@ void WinsockArray_ConnectionRequest(Simulator& Sim, std::unique_ptr<TCP_Connecti
         Sim.Windows.Event([&] { WinsockArray_Close(Sim, Index); });
     };
     Sim.Links.Connected.push_back(Index);
-    if (Sim.TCPIP) {
-        Sim.TCPIP->lblStatus.Fore_Colour = Ink::Black;
-        Sim.TCPIP->lblTX.Visible = true;
-    }
-    ++Sim.State.TCP_Client_Count;
+    Sim.Told.TCP.Tell(TCP_News::Client_Came, Index);
+    ++Sim.State.Of<Link_State>().TCP_Client_Count;
     Start_State_Check(Sim, Index);
-    ++Sim.State.TCP_Client_Max_Index;
-    Element(Sim, Sim.State.TCP_Client_Max_Index);
+    ++Sim.State.Of<Link_State>().TCP_Client_Max_Index;
+    Element(Sim, Sim.State.Of<Link_State>().TCP_Client_Max_Index);
     TCP_Listen(Sim);
 }
 
 } // namespace
 
-frmTCPIP::frmTCPIP(Desktop& Its_Windows) : Form(Its_Windows, "frmTCPIP", 0, Form_Kind::Child) {
-    Caption = "TCP/IP Status";
-    cmbConnections.Visible = false;
-    lblTX.Visible = false;
-}
-
-void Show_frmTCPIP(Simulator& Sim) {
-    if (Sim.TCPIP) {
-        Sim.TCPIP->lblPort.Caption = std::to_string(Sim.State.TCP_Port);
-        return;
-    }
-    auto Window = std::make_shared<frmTCPIP>(Sim.Windows);
-    Window->Set_Place(Sim.State.frmTCPIP_Left, Sim.State.frmTCPIP_Top, 7830, 1590);
-    Window->lblIP.Caption = Sim.Services.Local_IP();
-    Window->lblPort.Caption = std::to_string(Sim.State.TCP_Port);
-    Window->cmbConnections.Tool_Tip = std::string("Clients since the start of the program");
-    Window->On_Unload = [&Sim, &F = *Window] {
-        constexpr float Limit = std::numeric_limits<std::int16_t>::max();
-        Sim.State.frmTCPIP_Left = static_cast<std::int16_t>(std::clamp(F.Left, -Limit, Limit));
-        Sim.State.frmTCPIP_Top = static_cast<std::int16_t>(std::clamp(F.Top, -Limit, Limit));
-        Sim.TCPIP.reset();
-    };
-    Sim.TCPIP = Window;
-    Sim.Windows.Show(std::move(Window), false);
-    if (!Sim.Links.Connection_History.empty()) {
-        Show_Status(Sim);
-        Sim.TCPIP->lblTX.Visible = true;
-        Show_History(Sim, static_cast<int>(Sim.Links.Connection_History.size()) - 1);
-    }
-}
-
 void TCP_Listen(Simulator& Sim) {
-    const int Index = Sim.State.TCP_Client_Max_Index;
+    const int Index = Sim.State.Of<Link_State>().TCP_Client_Max_Index;
     TCP_Element& Listening = Element(Sim, Index);
     auto& Listener = Sim.Links.Listener;
     try {
@@ -162,7 +110,7 @@ void TCP_Listen(Simulator& Sim) {
                 Sim.Windows.Event([&] { WinsockArray_ConnectionRequest(Sim, std::move(Client)); });
             };
         }
-        if (!Listener->Is_Listening()) Listener->Listen(Sim.State.TCP_Port);
+        if (!Listener->Is_Listening()) Listener->Listen(Sim.State.Of<Link_State>().TCP_Port);
         Listening.State = socket_state::Listening;
     } catch (const Run_Time_Error& Failure) {
         Sim.Windows.Boxes.Show(std::string("TCP/IP Error : ") + Failure.what() +
@@ -171,18 +119,18 @@ void TCP_Listen(Simulator& Sim) {
         return;
     }
     if (Index == 0) {
-        if (Sim.TCPIP) Sim.TCPIP->lblStatus.Caption = std::string("Listening for connection");
+        Sim.Told.TCP.Tell(TCP_News::Listening, Index);
         return;
     }
-    Show_Status(Sim);
+    Sim.Told.TCP.Tell(TCP_News::Client_Count, -1);
     Sim.Links.Connection_History.push_back(Number_Text(Index) + "-Connected to IP : " +
                                            Element(Sim, Index - 1).Remote_Host_IP + " - " + Now_Text(Sim));
-    Show_History(Sim, Index - 1);
+    Sim.Told.TCP.Tell(TCP_News::History, Index - 1);
 }
 
 void TCP_Stop(Simulator& Sim) {
     if (Sim.Links.Listener) Sim.Links.Listener->Close();
-    Close_Listening_Element(Sim, Sim.State.TCP_Client_Max_Index);
+    Close_Listening_Element(Sim, Sim.State.Of<Link_State>().TCP_Client_Max_Index);
     while (!Sim.Links.Connected.empty()) WinsockArray_Close(Sim, Sim.Links.Connected.back());
 }
 
@@ -191,10 +139,9 @@ void Write_TCP(Simulator& Sim, const std::string& Text) {
     if (Connected.empty()) return;
     for (const int Index : Connected)
         Sim.Links.WinsockArray[static_cast<std::size_t>(Index)]->Connection->Send(Text);
-    // The label says the time from the second sending on, as the panels of the serial ports do.
-    float& Last_Tx_s = Sim.State.Transmit.Last_Tx_Time[port_number::TCP - 1];
-    if (Sim.TCPIP && (Last_Tx_s != 0 || Connected.size() > 1))
-        Sim.TCPIP->lblTX.Caption = "TCP/IP : TX " + Tx_Time_Text(Sim.Services.Time());
+    // The time is shown from the second sending on, as the panels of the serial ports do.
+    float& Last_Tx_s = Sim.State.Of<Link_State>().Transmit.Last_Tx_Time[port_number::TCP - 1];
+    if (Last_Tx_s != 0 || Connected.size() > 1) Sim.Told.TCP.Tell(TCP_News::Sent, -1);
     Last_Tx_s = Time_Of_Day_s(Sim.Services.Time().Local_us());
 }
 

@@ -1,10 +1,10 @@
 #include "links/udp_links.hpp"
 
 #include "links/port_list.hpp"
-#include "shell/frm_extended_monitor.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/simulator.hpp"
 
-#include <utility>
+#include <string>
 
 namespace brinewright {
 
@@ -14,11 +14,13 @@ constexpr const char* Broadcast = "255.255.255.255";
 
 // Data that the monitor does not show is left unread; the socket keeps only so much of it.
 void DataArrival(Simulator& Sim, std::int16_t K) {
-    if (!Extended_Monitor_Shows(Sim, port_number::First_UDP + K)) return;
+    const Link_State& S = Sim.State.Of<Link_State>();
+    const int Port = port_number::First_UDP + K;
+    if (!S.Extended_Monitor_Open || S.Extended_Monitor_Frozen || Port != S.Extended_Monitor_Port) return;
     // What was left unread before comes with it, so that the pane does not lag behind the link from then on.
     UDP_Socket& Link = *Sim.Links.WinsockUDP[K];
     for (std::string Text = Link.Receive(); !Text.empty(); Text = Link.Receive())
-        Extended_Monitor_Rx(Sim, std::move(Text));
+        Sim.Told.Received.Tell(Port, Text);
 }
 
 } // namespace
@@ -31,8 +33,9 @@ void Open_UDP(Simulator& Sim, std::int16_t K) {
             Link->On_Data_Arrival = [&Sim, K] { Sim.Windows.Event([&] { DataArrival(Sim, K); }); };
         }
         if (Link->Is_Open()) Link->Close();
-        Link->Open(Sim.State.UDP_Mode != 0 ? Sim.State.UDP_Remote_Host : Broadcast,
-                   Sim.State.UDP_Port_Number[K]);
+        Link->Open(Sim.State.Of<Link_State>().UDP_Mode != 0 ? Sim.State.Of<Link_State>().UDP_Remote_Host
+                                                            : Broadcast,
+                   Sim.State.Of<Link_State>().UDP_Port_Number[K]);
     } catch (const Run_Time_Error& Failure) {
         Sim.Windows.Boxes.Show(std::string("UDP Error : ") + Failure.what() + " Select another port number",
                                "", Box_Icon::Stop);

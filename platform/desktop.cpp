@@ -31,6 +31,7 @@ void Desktop::Unload(Form& Window) {
     } catch (...) {
         Failure = std::current_exception();
     }
+    for (const auto& Leave : Window.On_Gone) Leave();
     // The box that has the focus is not left: closing a window throws away what is half typed in it.
     if (Focus && &Focus->Owner == &Window) {
         Focus = nullptr;

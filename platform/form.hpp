@@ -54,6 +54,7 @@ struct Form : std::enable_shared_from_this<Form> {
 
     std::vector<Control*> Controls; // in the order in which they are made
     std::function<void()> On_Unload;
+    std::vector<std::function<void()>> On_Gone; // behind On_Unload, whatever becomes of it
     std::function<void()> On_Resize;
     std::function<void()> On_Got_Focus; // the window itself was chosen
     // With Key_Preview; true = the key is used up.

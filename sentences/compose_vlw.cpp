@@ -14,15 +14,15 @@ void Advance(float& Counter_nm, float Step_nm) {
     if (std::isfinite(Sum_nm)) Counter_nm = Sum_nm;
 }
 
-void Advance_Counters(Log_State& Counters, const Log_Speeds& Speeds, int Log) {
+void Advance_Counters(const VLW_Counters& Counters, const Log_Speeds& Speeds) {
     constexpr float Seconds_Per_Hour = 3600;
-    const float Period_s = Counters.Log_VLW_Seconds[Log];
+    const float Period_s = Counters.Period_s;
     const float Water_nm = Period_s * Speeds.Water_kn / Seconds_Per_Hour;
     const float Ground_nm = Period_s * Speeds.Ground_kn / Seconds_Per_Hour;
-    Advance(Counters.Log_Total_Water[Log], Water_nm);
-    Advance(Counters.Log_Trip_Water[Log], Water_nm);
-    Advance(Counters.Log_Total_Ground[Log], Ground_nm);
-    Advance(Counters.Log_Trip_Ground[Log], Ground_nm);
+    Advance(Counters.Total_Water, Water_nm);
+    Advance(Counters.Trip_Water, Water_nm);
+    Advance(Counters.Total_Ground, Ground_nm);
+    Advance(Counters.Trip_Ground, Ground_nm);
 }
 
 void Add_Distances(std::string& Out, float Total_nm, float Trip_nm) {
@@ -34,13 +34,13 @@ void Add_Distances(std::string& Out, float Total_nm, float Trip_nm) {
 
 } // namespace
 
-std::string Compose_VLW(Log_State& Counters, const Log_Speeds& Speeds, VLW_Record& Record,
-                        std::int16_t Instance, bool No_Checksum) {
-    Advance_Counters(Counters, Speeds, Instance);
-    Record.Total_Water = Counters.Log_Total_Water[Instance];
-    Record.Trip_Water = Counters.Log_Trip_Water[Instance];
-    Record.Total_Ground = Counters.Log_Total_Ground[Instance];
-    Record.Trip_Ground = Counters.Log_Trip_Ground[Instance];
+std::string Compose_VLW(const VLW_Counters& Counters, const Log_Speeds& Speeds, VLW_Record& Record,
+                        bool No_Checksum) {
+    Advance_Counters(Counters, Speeds);
+    Record.Total_Water = Counters.Total_Water;
+    Record.Trip_Water = Counters.Trip_Water;
+    Record.Total_Ground = Counters.Total_Ground;
+    Record.Trip_Ground = Counters.Trip_Ground;
     std::string Out = Begin_Sentence(Record.Talker, "VLW");
     Add_Distances(Out, Record.Total_Water, Record.Trip_Water);
     Add_Distances(Out, Record.Total_Ground, Record.Trip_Ground);

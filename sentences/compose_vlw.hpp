@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shell/state/log_state.hpp"
-
 #include <cstdint>
 #include <string>
 
@@ -22,6 +20,15 @@ struct Log_Speeds {
     float Ground_kn = 0;
 };
 
+// The counters of one log, in nautical miles, and the seconds between two of its VLW.
+struct VLW_Counters {
+    std::int16_t Period_s = 0;
+    float& Total_Water;
+    float& Trip_Water;
+    float& Total_Ground;
+    float& Trip_Ground;
+};
+
 // VLW: distances through the water and over ground.
 //
 //        1      2 3    4 5      6 7    8 9
@@ -38,10 +45,10 @@ struct Log_Speeds {
 // 8  N
 // 9  empty, so that a comma stands in front of the checksum: that form is required
 //
-// The one composer that changes anything. Before it writes, the four counters of log Instance (1 or 2) grow
-// by the way made in the Log_VLW_Seconds of that log at Speeds, in 32-bit arithmetic, and the record takes
+// The one composer that changes anything. Before it writes, the four Counters grow
+// by the way made in their period at Speeds, in 32-bit arithmetic, and the record takes
 // them. A negative speed makes them go back. A step that has no finite result leaves its counter as it was.
-std::string Compose_VLW(Log_State& Counters, const Log_Speeds& Speeds, VLW_Record& Record,
-                        std::int16_t Instance, bool No_Checksum);
+std::string Compose_VLW(const VLW_Counters& Counters, const Log_Speeds& Speeds, VLW_Record& Record,
+                        bool No_Checksum);
 
 } // namespace brinewright

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/clock.hpp"
-#include "shell/state/utc_state.hpp"
+#include "sentences/utc_state.hpp"
 
 namespace brinewright {
 

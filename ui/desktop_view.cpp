@@ -1,6 +1,7 @@
 #include "ui/desktop_view.hpp"
 
-#include "shell/frm_main.hpp"
+#include "shell/main/frm_main.hpp"
+#include "shell/state/fault_state.hpp"
 #include "ui/form_window.hpp"
 
 #include <QActionGroup>
@@ -50,16 +51,16 @@ class Working_Area : public QMdiArea {
 };
 
 struct Fault_Text {
-    Menu_Item frmMain::*Item;
+    bool Fault_State::*Fault;
     const char* Text;
 };
 
 constexpr Fault_Text Fault_Texts[] = {
-    {&frmMain::mnuOptionsChecksumDisabled, "no checksum"},
-    {&frmMain::mnuOptionsFaultyChecksum, "faulty checksum"},
-    {&frmMain::mnuOptionsCrLfDisabled, "merged messages"},
-    {&frmMain::mnuOptionCuttedMsg, "cut messages"},
-    {&frmMain::mnuOptionSplittedMsg, "split messages"},
+    {&Fault_State::Fault_No_Checksum, "no checksum"},
+    {&Fault_State::Fault_Faulty_Checksum, "faulty checksum"},
+    {&Fault_State::Fault_Merged, "merged messages"},
+    {&Fault_State::Fault_Cut, "cut messages"},
+    {&Fault_State::Fault_Split, "split messages"},
 };
 
 // The filter of a file dialog as the program tells it, "Name|*.ini", in the toolkit's form.
@@ -169,7 +170,7 @@ void Desktop_View::Make_Status_Bar() {
     statusBar()->setSizeGripEnabled(false);
     for (int Port = 1; Port <= 16; ++Port) {
         auto* Panel = new QLabel(this);
-        Panel->setObjectName(To_Screen(Sim.Main->sbStatusBar[Port].Path()));
+        Panel->setObjectName(To_Screen(Main_Window(Sim).sbStatusBar[Port].Path()));
         statusBar()->addWidget(Panel);
         Panels[Port] = Panel;
     }
@@ -195,12 +196,12 @@ void Desktop_View::Follow_Main() {
         if (!*Item->Checked) Action->setCheckable(false);
     }
     for (const auto& [Port, Panel] : Panels) {
-        Panel->setText(To_Screen(*Sim.Main->sbStatusBar[Port].Caption));
-        Panel->setVisible(*Sim.Main->sbStatusBar[Port].Visible);
+        Panel->setText(To_Screen(*Main_Window(Sim).sbStatusBar[Port].Caption));
+        Panel->setVisible(*Main_Window(Sim).sbStatusBar[Port].Visible);
     }
     QStringList Faults;
     for (const Fault_Text& Fault : Fault_Texts)
-        if (*((*Sim.Main).*Fault.Item).Checked) Faults << QString::fromLatin1(Fault.Text);
+        if (Sim.State.Of<Fault_State>().*Fault.Fault) Faults << QString::fromLatin1(Fault.Text);
     Fault_Strip->setText(QStringLiteral("Fault injected: ") + Faults.join(QStringLiteral(", ")));
     Fault_Strip->setVisible(!Faults.isEmpty());
 }

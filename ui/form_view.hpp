@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/desktop.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/simulator.hpp"
 #include "ui/theme.hpp"
 
 #include <QCheckBox>

@@ -1,5 +1,6 @@
 #include "ui/opening_progress.hpp"
 
+#include "shell/state/shell_state.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
 #include <QGuiApplication>
@@ -36,7 +37,7 @@ Opening_Progress::~Opening_Progress() { Sim.Timers.Before_Spin = nullptr; }
 void Opening_Progress::Look() {
     const bool First = !isVisible();
     if (First) show();
-    const int Wanted = std::max<int>(Sim.State.Open_Form_Count, 1);
+    const int Wanted = std::max<int>(Sim.State.Of<Shell_State>().Open_Form_Count, 1);
     const int Open = static_cast<int>(Sim.Windows.Forms.size()) - 1;
     Text->setText(QStringLiteral("Opening window %1 of %2").arg(std::min(Open + 1, Wanted)).arg(Wanted));
     Bar->setRange(0, Wanted);

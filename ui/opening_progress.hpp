@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/simulator.hpp"
+#include "shell/state/simulator.hpp"
 
 #include <QLabel>
 #include <QProgressBar>

@@ -2,8 +2,7 @@
 
 #include "platform/controls.hpp"
 #include "platform/form.hpp"
-
-#include <memory>
+#include "shell/state/window_class.hpp"
 
 namespace brinewright {
 
@@ -12,6 +11,8 @@ struct Simulator;
 // The own ship of Ship mode: throttle and rate of turn, and what the ship does with them. Exists once; its
 // Tag, which marks it among the open windows of the setup file, is 0.
 struct frmShip : Form {
+    static constexpr const char* Class_Name = "frmShip";
+
     explicit frmShip(Desktop& Windows);
 
     float ROT_Noise_Amplitude = 0; // degrees per minute
@@ -86,11 +87,8 @@ struct frmShip : Form {
     Timer timerJoystick{*this, "timerJoystick"};
 };
 
-// Makes the window and runs its opening up to the point where it can be shown. Unless the simulator starts
-// with the last navdata the ship goes to its start position. Speed, heading and rate of turn stay what they
-// are.
-std::shared_ptr<frmShip> Load_frmShip(Simulator& Sim);
-
-void mnuShip_Click(Simulator& Sim); // opens the window or gives it the focus
+// Its opening: unless the simulator starts with the last navdata the ship goes to its start position. Speed,
+// heading and rate of turn stay what they are.
+extern const Window_Class Ship_Window;
 
 } // namespace brinewright

@@ -2,7 +2,8 @@
 
 #include "ownship/ship/frm_ship.hpp"
 #include "ownship/ship/ship_controls.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/shell_state.hpp"
+#include "shell/state/simulator.hpp"
 
 #include <cstdlib>
 
@@ -41,12 +42,13 @@ bool Joystick_Present(Simulator& Sim, std::int32_t Device_Id) {
     if (Device_Id != First_Joystick) return false;
     const auto Found = Sim.Services.Stick().Read();
     if (!Found) return false;
-    Sim.Joystick.Rest = Sim.Joystick.Last = *Found;
+    Joystick_State& J = Sim.State.Of<Joystick_State>();
+    J.Rest = J.Last = *Found;
     return true;
 }
 
 void Joystick_Read(Simulator& Sim) {
-    Joystick_State& J = Sim.Joystick;
+    Joystick_State& J = Sim.State.Of<Joystick_State>();
     J.Last = Sim.Services.Stick().Read().value_or(Joystick_Reading{J.Rest.X, J.Rest.Y, 0});
     for (int B = J.Buttons.Last_Index; B >= J.Buttons.First_Index; --B)
         J.Buttons[B] = (J.Last.Buttons >> B & 1U) != 0;
@@ -62,14 +64,14 @@ void Start_Joystick(Simulator& Sim, frmShip& W) {
     W.cmdPause.Visible = !Present;
     W.timerJoystick.Set_Interval(Present ? Polling_ms : 0);
     if (!Present) return;
-    Sim.State.Freeze_Active = false;
-    Sim.State.Pause_Active = false;
+    Sim.State.Of<Shell_State>().Freeze_Active = false;
+    Sim.State.Of<Shell_State>().Pause_Active = false;
     Show_Freeze_And_Pause(Sim.State, W);
 }
 
 void timerJoystick_Tick(Simulator& Sim, frmShip& W) {
     Joystick_Read(Sim);
-    const Joystick_State& J = Sim.Joystick;
+    const Joystick_State& J = Sim.State.Of<Joystick_State>();
     Step(W.sldRudder, std::int64_t{J.Last.X} - J.Rest.X);
     Step(W.sldThrottle, std::int64_t{J.Last.Y} - J.Rest.Y);
     for (const Button_Row& Row : Buttons) {

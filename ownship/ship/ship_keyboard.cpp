@@ -1,7 +1,7 @@
 #include "ownship/ship/ship_keyboard.hpp"
 
 #include "ownship/ship/frm_ship.hpp"
-#include "shell/simulator.hpp"
+#include "shell/state/simulator.hpp"
 
 #include <optional>
 

@@ -1,7 +1,6 @@
 #include "ownship/ship/ship_tips.hpp"
 
 #include "ownship/ship/frm_ship.hpp"
-#include "ownship/ship/frm_ship_setup.hpp"
 #include "platform/tool_tips.hpp"
 
 namespace brinewright {
@@ -18,8 +17,6 @@ constexpr const char* Arrows_Tip =
     "chosen";
 constexpr const char* Freeze_Tip = "Stops ship and targets; the sentences go on with unchanged values";
 constexpr const char* Pause_Tip = "Stops all output; the ship goes on";
-constexpr const char* Zone_Hours_Tip = "Hours from the clock of the machine to UTC, -13 to 13";
-constexpr const char* Zone_Minutes_Tip = "Minutes that go with the hours, 0 to 59";
 
 } // namespace
 
@@ -81,58 +78,6 @@ void Set_Tool_Tips(frmShip& W) {
     Set_All(W.lblLon, "Longitude of this sensor, 180 W to 180 E");
     Set_All(W.lblGyro, "Heading of this gyro with its offset, 0 to 360 degrees");
     Set_All(W.lblLog, "Speed of this log with its offset, knots");
-}
-
-void Set_Tool_Tips(frmShipSetup& F) {
-    const Tip_Row Tips[] = {
-        {F.frameStartPosition, "Where the ship starts, degrees"},
-        {F.lblStartLat, "Latitude where the ship starts, 90 S to 90 N"},
-        {F.txtStartLat, "Latitude, 90 S to 90 N; a new one moves the ship there with Apply"},
-        {F.lblStartLon, "Longitude where the ship starts, 180 W to 180 E"},
-        {F.txtStartLon, "Longitude, 180 W to 180 E; a new one moves the ship there with Apply"},
-        {F.lblMaxSpeedAhead, "Speed at 100 % ahead, 5 to 100 knots"},
-        {F.cmbMaxSpeedAhead,
-         "Speed at 100 % ahead, 5 to 100 knots; the ship keeps its speed until the throttle moves"},
-        {F.lblMaxSpeedAheadUnit, "Knots"},
-        {F.lblMaxSpeedAstern, "Speed at 100 % astern, 1 to 20 knots"},
-        {F.cmbMaxSpeedAstern,
-         "Speed at 100 % astern, 1 to 20 knots; the ship keeps its speed until the throttle moves"},
-        {F.lblMaxSpeedAsternUnit, "Knots"},
-        {F.lblMaxRudder, "Greatest rate of turn, 5 to 360 degrees per minute"},
-        {F.cmbMaxRudder, "Greatest rate of turn, 5 to 360 degrees per minute"},
-        {F.lblMaxRudderUnit, "Degrees per minute"},
-        {F.lblMagneticDeviation, "Between true and magnetic north, -10 to 10 degrees"},
-        {F.cmbMagneticDeviation,
-         "Between true and magnetic north, -10 to 10 degrees, for the magnetic fields of sentences"},
-        {F.lblMagneticDeviationUnit, "Unit of the deviation"},
-        {F.framePosOffset, "Where position 2 stands from position 1, metres"},
-        {F.lblNorthing, "Metres to the north, negative to the south"},
-        {F.txtLatOffset, "Metres to the north, negative to the south"},
-        {F.lblEasting, "Metres to the east, negative to the west"},
-        {F.txtLonOffset, "Metres to the east, negative to the west"},
-        {F.lblGyro1Offset, "Degrees that gyro 1 shows more than the heading"},
-        {F.lblGyro2Offset, "Degrees that gyro 2 shows more than the heading"},
-        {F.lblLog1Offset, "Knots that log 1 shows more than the speed over ground"},
-        {F.lblLog2Offset, "Knots that log 2 shows more than the speed over ground"},
-        {F.chkUseUTC, "Times in sentences, hours to seconds, become UTC; otherwise the clock of the machine"},
-        {F.lblGNSS1, "Offset of all clocks but that of GNSS 2, minutes to hours"},
-        {F.lblGNSS2, "Offset of the clock of GNSS 2, seconds to hours"},
-        {F.lblZoneHours, Zone_Hours_Tip},
-        {F.lblZoneMinutes, Zone_Minutes_Tip},
-        {F.lblGNSS2Offset, "Seconds that GNSS 2 goes ahead, 0 to 59"},
-        {F.cmbGNSS2OffsetSeconds, "Seconds that GNSS 2 goes ahead, 0 to 59"},
-        {F.lblGNSS2OffsetUnit, "Seconds"},
-        {F.cmdOK, "Takes the settings over and closes"},
-        {F.cmdApply, "Takes the settings over"},
-        {F.cmdCancel, "Closes; the settings stay as they were"},
-    };
-    Show_Tips(Tips);
-    Set_All(F.txtGyroOffset, "Degrees that this gyro shows more than the heading");
-    Set_All(F.lblFromCOG, "Degrees");
-    Set_All(F.txtLogOffset, "Knots that this log shows more than the speed over ground");
-    Set_All(F.lblFromSOG, "Knots");
-    Set_All(F.cmbUTCOffsetHours, Zone_Hours_Tip);
-    Set_All(F.cmbUTCOffsetMinutes, Zone_Minutes_Tip);
 }
 
 } // namespace brinewright

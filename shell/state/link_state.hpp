@@ -18,27 +18,17 @@ struct Port_Setting {
     std::int16_t StopBits = 0;
 };
 
-template <class Visitor>
-void Visit_Record(Port_Setting& R, Visitor&& Visit) {
-    Visit("Present", R.Present);
-    Visit("Enabled", R.Enabled);
-    Visit("BaudRate", R.BaudRate);
-    Visit("DataBits", R.DataBits);
-    Visit("Parity", R.Parity);
-    Visit("StopBits", R.StopBits);
-}
-
 // Where the sentences of one sensor window go.
 struct Sensor_Slot {
     std::string Name;      // a label of the setup file only
     std::int16_t Port = 0; // port number; 0 = no output
 };
 
-template <class Visitor>
-void Visit_Record(Sensor_Slot& R, Visitor&& Visit) {
-    Visit("Name", R.Name);
-    Visit("Port", R.Port);
-}
+// The panel of a serial port in the status bar.
+struct Link_Panel_Record {
+    std::string Text;
+    bool Visible = false;
+};
 
 // The links. Port numbers: 0 none, 1 to 16 serial, 17 the TCP server, 18 + k the UDP link k (0 to 10).
 struct Link_State {
@@ -57,37 +47,15 @@ struct Link_State {
     std::int16_t frmTCPIP_Top = 0;
     std::int16_t Extended_Monitor_Port = 0;  // port number that frmExtendedMonitor shows
     std::int16_t Extended_Monitor_Lines = 0; // messages kept there before it is emptied
+    bool Extended_Monitor_Open = false;      // only then its port is read
+    bool Extended_Monitor_Frozen = false;
     bool Virtual_Port_Option = false;
     bool Virtual_Port_Active = false;
     std::int16_t Virtual_Port_Number = 0;
     bool Control_Input_Enabled = false;
-    std::int32_t Control_Input_Port = 0; // UDP port: the 16-bit pattern of 0 to 65535
-    Transmit_State Transmit;
+    std::int32_t Control_Input_Port = 0;        // UDP port: the 16-bit pattern of 0 to 65535
+    Table<Link_Panel_Record, 1, 16> Link_Panel; // by port number
+    Transmit_Record Transmit;
 };
-
-template <class Visitor>
-void Visit_State(Link_State& S, Visitor&& Visit) {
-    Visit("Port_Table", S.Port_Table);
-    Visit("Sensor_Table", S.Sensor_Table);
-    Visit("Comport_Count", S.Comport_Count);
-    Visit("Present_Port_Count", S.Present_Port_Count);
-    Visit("Ports_Initialised", S.Ports_Initialised);
-    Visit("TCP_Port", S.TCP_Port);
-    Visit("UDP_Port_Number", S.UDP_Port_Number);
-    Visit("UDP_Mode", S.UDP_Mode);
-    Visit("UDP_Remote_Host", S.UDP_Remote_Host);
-    Visit("TCP_Client_Max_Index", S.TCP_Client_Max_Index);
-    Visit("TCP_Client_Count", S.TCP_Client_Count);
-    Visit("frmTCPIP_Left", S.frmTCPIP_Left);
-    Visit("frmTCPIP_Top", S.frmTCPIP_Top);
-    Visit("Extended_Monitor_Port", S.Extended_Monitor_Port);
-    Visit("Extended_Monitor_Lines", S.Extended_Monitor_Lines);
-    Visit("Virtual_Port_Option", S.Virtual_Port_Option);
-    Visit("Virtual_Port_Active", S.Virtual_Port_Active);
-    Visit("Virtual_Port_Number", S.Virtual_Port_Number);
-    Visit("Control_Input_Enabled", S.Control_Input_Enabled);
-    Visit("Control_Input_Port", S.Control_Input_Port);
-    Visit("Transmit", S.Transmit);
-}
 
 } // namespace brinewright

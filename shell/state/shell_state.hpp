@@ -17,16 +17,6 @@ struct Open_Form_Entry {
     float Width = 0;
 };
 
-template <class Visitor>
-void Visit_Record(Open_Form_Entry& R, Visitor&& Visit) {
-    Visit("Name", R.Name);
-    Visit("Index", R.Index);
-    Visit("Top", R.Top);
-    Visit("Left", R.Left);
-    Visit("Height", R.Height);
-    Visit("Width", R.Width);
-}
-
 // Mode, windows and the switches of the whole system.
 struct Shell_State {
     std::string Mode;                 // "Ship" or "Sensor": who drives the sensors
@@ -40,19 +30,5 @@ struct Shell_State {
     bool Start_With_Last_Navdata = false; // take the navdata of the setup file at start
     std::int16_t LatLon_Format = 0;       // in text boxes: 0 degrees and minutes, else with seconds
 };
-
-template <class Visitor>
-void Visit_State(Shell_State& S, Visitor&& Visit) {
-    Visit("Mode", S.Mode);
-    Visit("Instance_Number", S.Instance_Number);
-    Visit("Data_Folder", S.Data_Folder);
-    Visit("Open_Form_Index", S.Open_Form_Index);
-    Visit("Open_Form_Count", S.Open_Form_Count);
-    Visit("Open_Form_List", S.Open_Form_List);
-    Visit("Pause_Active", S.Pause_Active);
-    Visit("Freeze_Active", S.Freeze_Active);
-    Visit("Start_With_Last_Navdata", S.Start_With_Last_Navdata);
-    Visit("LatLon_Format", S.LatLon_Format);
-}
 
 } // namespace brinewright

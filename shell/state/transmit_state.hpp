@@ -9,7 +9,7 @@ namespace brinewright {
 
 // What the transmit path, the monitors and the tag blocks remember from sentence to sentence. Nothing of it
 // is kept over a restart.
-struct Transmit_State {
+struct Transmit_Record {
     // Element n - 1 is for port n; element 16 is the TCP server. Seconds since midnight, 0 = never.
     Table<float, 0, 17> Last_Tx_Time;
     Table<bool, 0, 17> Error_Shown;                // element n - 1: the failing write of port n has been told
@@ -21,18 +21,5 @@ struct Transmit_State {
     Table<std::int16_t, 0, 28> UdPbC_Sequence; // by port number: last n: value, 1 to 999
     Table<std::int16_t, 0, 28> UdPbC_Group;    // by port number: last g: group number, 1 to 99
 };
-
-template <class Visitor>
-void Visit_Record(Transmit_State& R, Visitor&& Visit) {
-    Visit("Last_Tx_Time", R.Last_Tx_Time);
-    Visit("Error_Shown", R.Error_Shown);
-    Visit("Split_Remainder", R.Split_Remainder);
-    Visit("Last_Send_Time", R.Last_Send_Time);
-    Visit("Monitor_Line_Count", R.Monitor_Line_Count);
-    Visit("Extended_Tx_Line_Count", R.Extended_Tx_Line_Count);
-    Visit("Extended_Rx_Line_Count", R.Extended_Rx_Line_Count);
-    Visit("UdPbC_Sequence", R.UdPbC_Sequence);
-    Visit("UdPbC_Group", R.UdPbC_Group);
-}
 
 } // namespace brinewright

@@ -1,4 +1,7 @@
 #include "tests/automation/automation_test.hpp"
+#include "gnss/gnss_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <cmath>
 #include <limits>
@@ -40,13 +43,13 @@ TEST_F(Paths, Lead_To_Properties) {
 }
 
 TEST_F(Paths, Lead_Into_The_State) {
-    State.GNSS_Lat[1] = -53.25;
-    State.GNSS_SOG[2] = 1.4F;
-    State.Port_Table[17].Enabled = true;
-    State.Sky_Table[5].Elevation = 45;
-    State.Open_Form_List[1].Name = "5\xB0";
-    State.GNSS_System_Used[2][6] = true;
-    State.Transmit.UdPbC_Sequence[28] = 999;
+    State.Of<GNSS_State>().GNSS_Lat[1] = -53.25;
+    State.Of<GNSS_State>().GNSS_SOG[2] = 1.4F;
+    State.Of<Link_State>().Port_Table[17].Enabled = true;
+    State.Of<GNSS_State>().Sky_Table[5].Elevation = 45;
+    State.Of<Shell_State>().Open_Form_List[1].Name = "5\xB0";
+    State.Of<GNSS_State>().GNSS_System_Used[2][6] = true;
+    State.Of<Link_State>().Transmit.UdPbC_Sequence[28] = 999;
     EXPECT_EQ(Get("state.GNSS_Lat[1]"), -53.25);
     EXPECT_EQ(Get("state.GNSS_SOG[2]").dump(), "1.4"); // a 32-bit float as it was written
     EXPECT_EQ(Get("state.Port_Table[17].Enabled"), true);
@@ -57,8 +60,8 @@ TEST_F(Paths, Lead_Into_The_State) {
     EXPECT_EQ(Get("state.GNSS_Lat"), Json({{"1", -53.25}, {"2", 0.0}}));
     EXPECT_EQ(Get("state.Sensor_Table")["11"], Json({{"Name", ""}, {"Port", 0}}));
     EXPECT_EQ(Get("state.Transmit.Last_Tx_Time").size(), 18u);
-    State.GNSS_Lat[1] = std::nan("");
-    State.GNSS_SOG[2] = std::numeric_limits<float>::infinity();
+    State.Of<GNSS_State>().GNSS_Lat[1] = std::nan("");
+    State.Of<GNSS_State>().GNSS_SOG[2] = std::numeric_limits<float>::infinity();
     EXPECT_EQ(Get("state.GNSS_Lat"), Json({{"1", nullptr}, {"2", 0.0}}));
     EXPECT_EQ(Get("state.GNSS_SOG[2]"), nullptr);
 }

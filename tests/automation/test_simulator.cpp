@@ -1,4 +1,4 @@
-#include "shell/frm_main.hpp"
+#include "shell/main/frm_main.hpp"
 #include "tests/automation/automation_test.hpp"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
 #include "tests/automation/automation_test.hpp"
+#include "shell/state/link_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -28,7 +29,7 @@ TEST_F(Watching, Tells_Each_Change_Once) {
     EXPECT_EQ(Changes(), List());
     Set("frmPosition[1].chkGGA", true);
     EXPECT_EQ(Changes(), List({{"frmPosition[1].chkGGA", true}}));
-    Windows.Event([&] { State.TCP_Port = 8040; });
+    Windows.Event([&] { State.Of<Link_State>().TCP_Port = 8040; });
     EXPECT_EQ(Changes(), List({{"state.TCP_Port", 8040}}));
     Windows.Event([&] { Window->Resize(500, 400); });
     EXPECT_EQ(Changes(), List({{"frmPosition[1].Width", 500}}));
@@ -37,7 +38,7 @@ TEST_F(Watching, Tells_Each_Change_Once) {
     ASSERT_EQ(Shown.size(), 1u);
     EXPECT_EQ(Shown[0].second[0]["text"], "Hello");
     Result("unwatch", {{"path", "state.TCP_Port"}});
-    Windows.Event([&] { State.TCP_Port = 1; });
+    Windows.Event([&] { State.Of<Link_State>().TCP_Port = 1; });
     EXPECT_EQ(Changes(), List());
     EXPECT_EQ(Error("unwatch", {{"path", "state.TCP_Port"}}), -32000);
     Result("unwatch");

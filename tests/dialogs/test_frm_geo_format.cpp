@@ -1,5 +1,7 @@
-#include "dialogs/frm_geo_format.hpp"
+#include "dialogs/geo_format/frm_geo_format.hpp"
 #include "tests/support/virtual_simulator.hpp"
+#include "ownship/navdata_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -9,7 +11,7 @@ struct Geo_Format : testing::Test, Virtual_Simulator {
         Click(Sim.Main->mnuSetupLatLonFormat);
         return *Sim.GeoFormat;
     }
-    void SetUp() override { Sim.State.Nav_Lat = 62.5 + 5.5 / 60; }
+    void SetUp() override { Sim.State.Of<Navdata_State>().Nav_Lat = 62.5 + 5.5 / 60; }
 };
 
 constexpr const char* Example_DM = "62\xB0 35.5000' N";
@@ -43,21 +45,21 @@ TEST_F(Geo_Format, OK_Takes_The_Choice_And_Cancel_Leaves_It) {
     Click(*Open().optFormat.Buttons[1]);
     Click(Sim.GeoFormat->cmdCancel);
     EXPECT_FALSE(Sim.GeoFormat);
-    EXPECT_EQ(Sim.State.LatLon_Format, 0);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 0);
 
     Click(*Open().optFormat.Buttons[1]);
     Click(Sim.Main->mnuSetupLatLonFormat); // open already: it only gets the focus
     EXPECT_EQ(Sim.GeoFormat->optFormat.Selected(), 1);
     Click(Sim.GeoFormat->cmdOk);
     EXPECT_FALSE(Sim.GeoFormat);
-    EXPECT_EQ(Sim.State.LatLon_Format, 1);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 1);
 
     EXPECT_EQ(*Open().lblExample.Caption, Example_DMS);
     Click(*Sim.GeoFormat->optFormat.Buttons[0]);
     Click(Sim.GeoFormat->cmdOk);
-    EXPECT_EQ(Sim.State.LatLon_Format, 0);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 0);
 
-    Sim.State.LatLon_Format = -7; // a setup can hold anything
+    Sim.State.Of<Shell_State>().LatLon_Format = -7; // a setup can hold anything
     EXPECT_EQ(Open().optFormat.Selected(), 1);
 }
 

@@ -2,12 +2,13 @@
 // little after each. Whatever comes, nothing is told, the sliders stay within their ends, and every number of
 // the state is finite.
 
-#include "links/control_input.hpp"
-#include "links/setup_file.hpp"
+#include "ownship/ship/control_input.hpp"
+#include "links/setup_file/setup_file.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "shell/frm_main.hpp"
-#include "shell/simulator.hpp"
+#include "shell/main/frm_main.hpp"
+#include "shell/state/simulator.hpp"
 #include "tests/support/played_platform.hpp"
+#include "shell/state/link_state.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -70,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
         Disk.Content[Port_File] = "5050";
         Sim.Windows.Event([&] { Start_Control_Input(Sim); });
     }
-    Require(Sim.State.Control_Input_Port >= 1 && Sim.State.Control_Input_Port <= 65535);
+    Require(Sim.State.Of<Link_State>().Control_Input_Port >= 1 && Sim.State.Of<Link_State>().Control_Input_Port <= 65535);
     Sim.Windows.Boxes.Standing.clear();
 
     while (!Rest.empty()) {

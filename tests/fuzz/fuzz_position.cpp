@@ -1,8 +1,8 @@
 // The position parsers and formatters on any bytes. The first two choose the parser and the decimals, the
 // rest is the text that a user could have typed.
 
-#include "ownship/format_position.hpp"
-#include "ownship/parse_position.hpp"
+#include "ownship/geodesy/format_position.hpp"
+#include "ownship/geodesy/parse_position.hpp"
 
 #include <array>
 #include <cmath>

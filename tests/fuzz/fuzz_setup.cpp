@@ -1,4 +1,4 @@
-#include "links/setup_file.hpp"
+#include "links/setup_file/setup_file.hpp"
 #include "platform/run_time_error.hpp"
 
 #include <cstddef>

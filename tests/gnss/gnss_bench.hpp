@@ -1,11 +1,13 @@
 #pragma once
 
-#include "gnss/frm_position.hpp"
-#include "gnss/gnss_sky.hpp"
-#include "links/setup_file.hpp"
+#include "gnss/position/frm_position.hpp"
+#include "gnss/satellites/gnss_sky.hpp"
+#include "links/setup_file/setup_file.hpp"
 #include "platform/virtual_platform.hpp"
-#include "shell/frm_main.hpp"
-#include "shell/simulator.hpp"
+#include "shell/main/frm_main.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -27,11 +29,11 @@ struct GNSS_Bench {
     explicit GNSS_Bench(std::int64_t Start_Local_us = 0)
         : Platform(Disk, Settings, Start_Local_us), Sim(Platform, {}) {
         Load_Default_Data(Sim.State);
-        Sim.State.Mode = "Sensor";
+        Sim.State.Of<Shell_State>().Mode = "Sensor";
         for (const int Link : {0, 1}) {
-            Sim.State.Port_Table[18 + Link].Present = Sim.State.Port_Table[18 + Link].Enabled = true;
-            Sim.State.UDP_Port_Number[Link] = 60001 + Link;
-            Sim.State.Sensor_Table[1 + Link].Port = static_cast<std::int16_t>(18 + Link);
+            Sim.State.Of<Link_State>().Port_Table[18 + Link].Present = Sim.State.Of<Link_State>().Port_Table[18 + Link].Enabled = true;
+            Sim.State.Of<Link_State>().UDP_Port_Number[Link] = 60001 + Link;
+            Sim.State.Of<Link_State>().Sensor_Table[1 + Link].Port = static_cast<std::int16_t>(18 + Link);
             Sim.Links.WinsockUDP[Link] = Platform.Make_UDP_Socket();
             Sim.Links.WinsockUDP[Link]->Open("239.192.0.1", 60001 + Link);
         }

@@ -2,7 +2,8 @@
 
 #include "gnss_bench.hpp"
 
-#include "gnss/frm_gnss.hpp"
+#include "gnss/configuration/frm_gnss.hpp"
+#include "gnss/gnss_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -41,7 +42,7 @@ TEST(GNSS_Configuration, Opens_On_The_Stored_Settings_Beside_Its_Window) {
     EXPECT_EQ(F.Caption, "GNSS 2 Configuration");
     EXPECT_EQ(F.Path(), "frmGNSS[2]");
     EXPECT_TRUE(F.Left == 1300 && F.Top == 1400 && F.Width == 5955 && F.Height == 3420);
-    EXPECT_EQ(Bench.Sim.State.GNSS_Config_Index, 2);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Config_Index, 2);
     EXPECT_EQ(Shown(F), "A GPS GP");
     ASSERT_EQ(F.Systems.size(), 6U);
     EXPECT_EQ(*F.Systems[5].lblGNSS_System.Caption, "6 - NavIC (IRNSS)");
@@ -113,22 +114,22 @@ TEST(GNSS_Configuration, OK_Reaches_The_Next_GNS_And_Cancel_Nothing) {
     EXPECT_EQ(*Bench.Window().lblGNS_ModeIndicator.Caption, "ANNR");
     EXPECT_EQ(*Bench.Window().lblGNSS.Caption, "GPS-BDS");
     EXPECT_EQ(*Bench.Window().lblGNS_Talker.Caption, "GN");
-    EXPECT_TRUE(Bench.Sim.State.GNSS_System_Used[4][1]);
-    EXPECT_EQ(Bench.Sim.State.GNSS_System_Mode[4][1], 4);
+    EXPECT_TRUE(Bench.Sim.State.Of<GNSS_State>().GNSS_System_Used[4][1]);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[4][1], 4);
     EXPECT_EQ(Shown(Bench.Configure()), "ANNR GPS-BDS GN");
 }
 
 TEST(GNSS_Configuration, Survives_Stored_Garbage_And_A_Window_That_Closes) {
     Dialog_Bench Bench;
-    Bench.Sim.State.GNSS_System_Mode[2][1] = 99;
-    Bench.Sim.State.GNSS_System_Mode[3][1] = -1;
-    Bench.Sim.State.GNSS_System_Used[4][1] = true;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[2][1] = 99;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[3][1] = -1;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Used[4][1] = true;
     Bench.Open();
     frmGNSS& F = Bench.Configure();
     EXPECT_EQ(Shown(F), "ANNN GPS-BDS GN");
     Bench.Close();
     Bench.Press(F.cmdOK);
-    EXPECT_EQ(Bench.Sim.State.GNS_Mode_Indicator[1], "ANNN");
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNS_Mode_Indicator[1], "ANNN");
     EXPECT_EQ(*Bench.Open().lblGNS_ModeIndicator.Caption, "ANNN");
     EXPECT_EQ(Bench.Last_Box(), "");
 }

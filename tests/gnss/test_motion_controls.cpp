@@ -1,6 +1,7 @@
 // Speed and course: bars, boxes and arrow keys.
 
 #include "gnss_bench.hpp"
+#include "gnss/gnss_state.hpp"
 
 #include <limits>
 
@@ -27,7 +28,7 @@ TEST(Motion_Controls, Typed_Speed_Outlives_The_Bar) {
                                  {"abc", 0, "0.0", 0},
                                  {"1e300", std::numeric_limits<float>::max(), nullptr, 400}}) {
         Bench.Type(W.txtSOG, T.Text);
-        EXPECT_EQ(Bench.Sim.State.GNSS_SOG[1], T.Value) << T.Text;
+        EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], T.Value) << T.Text;
         EXPECT_EQ(W.scrSOG.Value(), T.Bar) << T.Text;
         EXPECT_EQ(W.txtSOG.Text(), *W.lblSOG.Caption);
         if (T.Shown) {
@@ -35,9 +36,9 @@ TEST(Motion_Controls, Typed_Speed_Outlives_The_Bar) {
         }
     }
     W.scrSOG.Set_Value(77);
-    EXPECT_EQ(Bench.Sim.State.GNSS_SOG[1], 7.7F);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], 7.7F);
     EXPECT_EQ(W.txtSOG.Text(), "7.7");
-    EXPECT_EQ(Bench.Sim.State.GNSS_SOG[2], 0);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[2], 0);
     EXPECT_EQ(Bench.Box_Count(), 0U);
 }
 
@@ -53,14 +54,14 @@ TEST(Motion_Controls, Typed_Course_Gives_Way_To_A_Bar_That_Moves) {
                                  {"1e30", 0, "000.0", 0},
                                  {"x", 0, "000.0", 0}}) {
         Bench.Type(W.txtCOG, T.Text);
-        EXPECT_EQ(Bench.Sim.State.GNSS_COG[1], T.Value) << T.Text;
+        EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], T.Value) << T.Text;
         EXPECT_EQ(W.scrCOG.Value(), T.Bar) << T.Text;
         EXPECT_EQ(*W.lblCOG.Caption, T.Shown) << T.Text;
         EXPECT_EQ(W.txtCOG.Text(), T.Shown) << T.Text;
     }
     W.scrCOG.Set_Value(1234);
     Bench.Type(W.txtCOG, "123.45");
-    EXPECT_EQ(Bench.Sim.State.GNSS_COG[1], 123.45F) << "the bar stands there already";
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], 123.45F) << "the bar stands there already";
 }
 
 TEST(Motion_Controls, The_Course_Bar_Wraps_At_Both_Ends) {
@@ -70,13 +71,13 @@ TEST(Motion_Controls, The_Course_Bar_Wraps_At_Both_Ends) {
     EXPECT_EQ(W.scrCOG.Value(), 0);
     Bench.Sim.Windows.User_Set(W.scrCOG, std::int64_t{-1});
     EXPECT_EQ(W.scrCOG.Value(), 3599);
-    EXPECT_EQ(Bench.Sim.State.GNSS_COG[1], 359.9F);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], 359.9F);
     EXPECT_EQ(W.txtCOG.Text(), "359.9");
     Bench.Close();
-    Bench.Sim.State.GNSS_COG[1] = 359.97F;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1] = 359.97F;
     frmPosition& Again = Bench.Open();
     EXPECT_EQ(Again.scrCOG.Value(), 0);
-    EXPECT_EQ(Bench.Sim.State.GNSS_COG[1], 359.97F);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], 359.97F);
 }
 
 TEST(Motion_Controls, Arrow_Keys_Work_Until_Another_Control_Is_Chosen) {
@@ -87,7 +88,7 @@ TEST(Motion_Controls, Arrow_Keys_Work_Until_Another_Control_Is_Chosen) {
     };
     EXPECT_FALSE(W.txtDummy.Visible);
     Press(key::Up);
-    EXPECT_EQ(Bench.Sim.State.GNSS_SOG[1], 0);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], 0);
     EXPECT_EQ(*W.cmdArrows.Caption, "Control SOG/COG by keyboard Arrow keys");
 
     Bench.Click(W.cmdArrows);
@@ -98,11 +99,11 @@ TEST(Motion_Controls, Arrow_Keys_Work_Until_Another_Control_Is_Chosen) {
     Press(key::Down);
     EXPECT_EQ(W.scrSOG.Value(), 0);
     Press(key::Left);
-    EXPECT_EQ(Bench.Sim.State.GNSS_COG[1], 359.9F);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], 359.9F);
     Press(key::Right, 3);
-    EXPECT_EQ(Bench.Sim.State.GNSS_COG[1], 0.2F);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], 0.2F);
     Press(key::Up, 401);
-    EXPECT_EQ(Bench.Sim.State.GNSS_SOG[1], 40);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], 40);
     Press(key::Down, 5);
     EXPECT_EQ(*W.lblSOG.Caption, "39.5");
 

@@ -1,6 +1,11 @@
 // Opening and closing of a GNSS window: staggers, modes, widths, and settings that no list has.
 
 #include "gnss_bench.hpp"
+#include "gnss/gnss_state.hpp"
+#include "shell/state/iec450_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <array>
 #include <cmath>
@@ -24,16 +29,16 @@ struct Told_Sentence {
 using P = frmPosition;
 using S = Message_State;
 const std::array<Told_Sentence, 10> Told{{
-    {"GGA", &P::chkGGA, &P::cmbGGAInterval, &P::timer_GGA, &S::GGA_Enabled, &S::GGA_Interval, 0.15, 3, 2},
-    {"VTG", &P::chkVTG, &P::cmbVTGInterval, &P::timer_VTG, &S::VTG_Enabled, &S::VTG_Interval, 0.1, 3, 2},
-    {"GLL", &P::chkGLL, &P::cmbGLLInterval, &P::timer_GLL, &S::GLL_Enabled, &S::GLL_Interval, 0.15, 1, 0},
-    {"RMC", &P::chkRMC, &P::cmbRMCInterval, &P::timer_RMC, &S::RMC_Enabled, &S::RMC_Interval, 0.1, 3, 2},
-    {"ZDA", &P::chkZDA, &P::cmbZDAInterval, &P::timer_ZDA, &S::ZDA_Enabled, &S::ZDA_Interval, 0.1, 1, 5},
-    {"GNS", &P::chkGNS, &P::cmbGNSInterval, &P::timer_GNS, &S::GNS_Enabled, &S::GNS_Interval, 0.15, 3, 2},
-    {"DTM", &P::chkDTM, &P::cmbDTMInterval, &P::timer_DTM, &S::DTM_Enabled, &S::DTM_Interval, 0.15, 1, 5},
-    {"GSA", &P::chkGSA, &P::cmbGSAInterval, &P::timer_GSA, &S::GSA_Enabled, &S::GSA_Interval, 0.15, 1, 5},
-    {"GSV", &P::chkGSV, &P::cmbGSVInterval, &P::timer_GSV, &S::GSV_Enabled, &S::GSV_Interval, 0.15, 1, 5},
-    {"GST", &P::chkGST, &P::cmbGSTInterval, &P::timer_GST, &S::GST_Enabled, &S::GST_Interval, 0.15, 3, 7},
+    {"GGA", &P::chkGGA, &P::cmbGGAInterval, &P::timer_GGA, &GNSS_State::GGA_Enabled, &GNSS_State::GGA_Interval, 0.15, 3, 2},
+    {"VTG", &P::chkVTG, &P::cmbVTGInterval, &P::timer_VTG, &GNSS_State::VTG_Enabled, &GNSS_State::VTG_Interval, 0.1, 3, 2},
+    {"GLL", &P::chkGLL, &P::cmbGLLInterval, &P::timer_GLL, &GNSS_State::GLL_Enabled, &GNSS_State::GLL_Interval, 0.15, 1, 0},
+    {"RMC", &P::chkRMC, &P::cmbRMCInterval, &P::timer_RMC, &GNSS_State::RMC_Enabled, &GNSS_State::RMC_Interval, 0.1, 3, 2},
+    {"ZDA", &P::chkZDA, &P::cmbZDAInterval, &P::timer_ZDA, &GNSS_State::ZDA_Enabled, &GNSS_State::ZDA_Interval, 0.1, 1, 5},
+    {"GNS", &P::chkGNS, &P::cmbGNSInterval, &P::timer_GNS, &GNSS_State::GNS_Enabled, &GNSS_State::GNS_Interval, 0.15, 3, 2},
+    {"DTM", &P::chkDTM, &P::cmbDTMInterval, &P::timer_DTM, &GNSS_State::DTM_Enabled, &GNSS_State::DTM_Interval, 0.15, 1, 5},
+    {"GSA", &P::chkGSA, &P::cmbGSAInterval, &P::timer_GSA, &GNSS_State::GSA_Enabled, &GNSS_State::GSA_Interval, 0.15, 1, 5},
+    {"GSV", &P::chkGSV, &P::cmbGSVInterval, &P::timer_GSV, &GNSS_State::GSV_Enabled, &GNSS_State::GSV_Interval, 0.15, 1, 5},
+    {"GST", &P::chkGST, &P::cmbGSTInterval, &P::timer_GST, &GNSS_State::GST_Enabled, &GNSS_State::GST_Interval, 0.15, 3, 7},
 }};
 
 void Enable(GNSS_Bench& Bench, int Instance, const std::string& Types, bool Two_Seconds) {
@@ -111,7 +116,7 @@ TEST(GNSS_Opening, A_Sentence_Starts_Without_START_And_A_Box_Ticked_Later_Withou
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[0].Time_us, 6'000'000);
     Bench.Click(W.chkGGA);
-    EXPECT_FALSE(Bench.Sim.State.GGA_Enabled[1]);
+    EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().GGA_Enabled[1]);
     Bench.Run_To(8.5);
     EXPECT_EQ(Bench.Texts("GGA").size(), 1U);
     EXPECT_EQ(Bench.Texts("VTG").size(), 3U);
@@ -119,10 +124,10 @@ TEST(GNSS_Opening, A_Sentence_Starts_Without_START_And_A_Box_Ticked_Later_Withou
 
 TEST(GNSS_Opening, Fills_The_Lists_And_Restores_The_Settings) {
     GNSS_Bench Bench;
-    Bench.Sim.State.GNSS_Decimals_Position[2] = 6;
-    Bench.Sim.State.GNSS_Decimals_Time[2] = 2;
-    Bench.Sim.State.GNSS_Talker[2] = "GL";
-    Bench.Sim.State.GGA_Interval[2] = 9;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Decimals_Position[2] = 6;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Decimals_Time[2] = 2;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[2] = "GL";
+    Bench.Sim.State.Of<GNSS_State>().GGA_Interval[2] = 9;
     const frmPosition& W = Bench.Open(2);
     EXPECT_EQ(W.Tag, "2");
     EXPECT_EQ(W.txtTalker.Text(), "GL");
@@ -138,7 +143,7 @@ TEST(GNSS_Opening, Fills_The_Lists_And_Restores_The_Settings) {
     EXPECT_EQ(W.cmbNoise.Items()[16].Text, " 16 m");
     EXPECT_EQ(W.cmbNoise.Items()[19].Text, "100 m");
     for (const Told_Sentence& T : Told)
-        if (T.Interval != &S::GGA_Interval) {
+        if (T.Interval != &GNSS_State::GGA_Interval) {
             EXPECT_EQ((W.*T.List).List_Index(), T.Default_Entry) << T.Type;
         }
     EXPECT_TRUE(W.chkFixOffset.Visible);
@@ -170,10 +175,10 @@ TEST(GNSS_Opening, Width_Reaches_To_The_Last_Enabled_Data_Frame) {
 
 TEST(GNSS_Opening, Ship_Mode_Leaves_The_Sentences_Alone) {
     GNSS_Bench Bench;
-    Bench.Sim.State.Mode = "Ship";
-    Bench.Sim.State.GGA_Enabled[2] = true;
-    Bench.Sim.State.GNSS_SOG[2] = 12.34F;
-    Bench.Sim.State.GNSS_COG[2] = 359.99F;
+    Bench.Sim.State.Of<Shell_State>().Mode = "Ship";
+    Bench.Sim.State.Of<GNSS_State>().GGA_Enabled[2] = true;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[2] = 12.34F;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[2] = 359.99F;
     frmPosition& W = Bench.Open(2);
     EXPECT_TRUE(W.lblShipControl.Visible);
     EXPECT_FALSE(W.frmSimulator.Visible);
@@ -183,8 +188,8 @@ TEST(GNSS_Opening, Ship_Mode_Leaves_The_Sentences_Alone) {
     for (Control* Hidden :
          std::initializer_list<Control*>{&W.cmdStart, &W.txtLat, &W.scrSOG, &W.chkFixOffset})
         EXPECT_THROW(Bench.Click(*Hidden), User_Refusal) << Hidden->Path();
-    EXPECT_EQ(Bench.Sim.State.GNSS_SOG[2], 12.34F) << "showing the ship's speed must not write it";
-    EXPECT_EQ(Bench.Sim.State.GNSS_COG[2], 359.99F);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[2], 12.34F) << "showing the ship's speed must not write it";
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[2], 359.99F);
     Bench.Run_To(3.5);
     EXPECT_EQ(Bench.Sent.size(), 3U);
     EXPECT_EQ(W.timer_Simulator.Interval_ms(), 0);
@@ -197,19 +202,19 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
         GNSS_Bench Bench;
         Simulator_State& State = Bench.Sim.State;
         for (const Told_Sentence& T : Told) (State.*T.Interval)[1] = Garbage;
-        State.GNSS_Decimals_Position[1] = State.GNSS_Decimals_Time[1] = Garbage;
-        State.GNSS_Noise_Index[1] = static_cast<std::int16_t>(Garbage == 10 ? 20 : Garbage);
+        State.Of<GNSS_State>().GNSS_Decimals_Position[1] = State.Of<GNSS_State>().GNSS_Decimals_Time[1] = Garbage;
+        State.Of<GNSS_State>().GNSS_Noise_Index[1] = static_cast<std::int16_t>(Garbage == 10 ? 20 : Garbage);
         const std::int16_t No_Such_Port = Garbage == 10 ? std::int16_t{100} : Garbage;
-        State.Sensor_Table[1].Port = No_Such_Port;
-        State.GNSS_Noise_Enabled[1] = true;
-        State.GNSS_Talker[1] = "much too long";
-        State.GNSS_Start_Lat[1] = std::numeric_limits<double>::quiet_NaN();
-        State.GNSS_Start_Lon[1] = std::numeric_limits<double>::infinity();
-        State.GNSS_Lat[1] = 1e300;
-        State.GNSS_SOG[1] = std::numeric_limits<float>::quiet_NaN();
-        State.GNSS_COG[1] = -std::numeric_limits<float>::infinity();
-        State.Magnetic_Variation = std::numeric_limits<float>::infinity();
-        State.IEC450_Enabled = State.Use_n_Tag = true;
+        State.Of<Link_State>().Sensor_Table[1].Port = No_Such_Port;
+        State.Of<GNSS_State>().GNSS_Noise_Enabled[1] = true;
+        State.Of<GNSS_State>().GNSS_Talker[1] = "much too long";
+        State.Of<GNSS_State>().GNSS_Start_Lat[1] = std::numeric_limits<double>::quiet_NaN();
+        State.Of<GNSS_State>().GNSS_Start_Lon[1] = std::numeric_limits<double>::infinity();
+        State.Of<GNSS_State>().GNSS_Lat[1] = 1e300;
+        State.Of<GNSS_State>().GNSS_SOG[1] = std::numeric_limits<float>::quiet_NaN();
+        State.Of<GNSS_State>().GNSS_COG[1] = -std::numeric_limits<float>::infinity();
+        State.Of<Navdata_State>().Magnetic_Variation = std::numeric_limits<float>::infinity();
+        State.Of<IEC450_State>().IEC450_Enabled = State.Of<IEC450_State>().Use_n_Tag = true;
         Enable(Bench, 1, All_Types, false);
         frmPosition& W = Bench.Open();
         EXPECT_EQ(Bench.Last_Box(), "");
@@ -217,11 +222,11 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
             EXPECT_EQ((W.*T.List).List_Index(), T.Default_Entry) << T.Type;
             EXPECT_EQ((State.*T.Interval)[1], T.Default_Entry) << T.Type;
         }
-        EXPECT_EQ(State.GNSS_Decimals_Position[1], 4);
-        EXPECT_EQ(State.GNSS_Decimals_Time[1], 0);
-        EXPECT_EQ(State.GNSS_Noise_Max[1], 0);
+        EXPECT_EQ(State.Of<GNSS_State>().GNSS_Decimals_Position[1], 4);
+        EXPECT_EQ(State.Of<GNSS_State>().GNSS_Decimals_Time[1], 0);
+        EXPECT_EQ(State.Of<GNSS_State>().GNSS_Noise_Max[1], 0);
         EXPECT_EQ(W.cmbComPort.List_Index(), -1);
-        EXPECT_EQ(State.Sensor_Table[1].Port, No_Such_Port)
+        EXPECT_EQ(State.Of<Link_State>().Sensor_Table[1].Port, No_Such_Port)
             << "a port that is not in use stays until another is picked";
         Bench.Click(W.cmdStart);
         for (const int Key : {key::Left, key::Right, key::Up, key::Down}) {
@@ -237,7 +242,7 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
 TEST(GNSS_Opening, An_Index_Without_A_Window_Is_Told_And_Leaves_Nothing) {
     GNSS_Bench Bench;
     for (const std::int16_t Index : {std::int16_t{0}, std::int16_t{3}, std::int16_t{-7}}) {
-        Bench.Sim.State.Open_Form_Index = Index;
+        Bench.Sim.State.Of<Shell_State>().Open_Form_Index = Index;
         EXPECT_THROW(Load_frmPosition(Bench.Sim), Run_Time_Error);
     }
     EXPECT_FALSE(Bench.Sim.frmPosition_Instance[1]);
@@ -255,14 +260,14 @@ TEST(GNSS_Opening, Closing_Stops_The_Sentences_And_Keeps_Place_And_Settings) {
     EXPECT_FALSE(*Bench.Sim.Main->mnuOpenForm_Items[1].Checked);
     Bench.Run_To(5);
     EXPECT_TRUE(Bench.Sent.empty());
-    const Open_Form_Entry& Place = Bench.Sim.State.Open_Form_List[1];
-    EXPECT_EQ(Bench.Sim.State.Open_Form_Count, 1);
+    const Open_Form_Entry& Place = Bench.Sim.State.Of<Shell_State>().Open_Form_List[1];
+    EXPECT_EQ(Bench.Sim.State.Of<Shell_State>().Open_Form_Count, 1);
     EXPECT_EQ(Place.Name, "frmPosition");
     EXPECT_EQ(Place.Index, 1);
     EXPECT_EQ(Place.Left, 100);
     EXPECT_EQ(Place.Height, 8000);
     const frmPosition& Again = Bench.Open();
-    EXPECT_EQ(Bench.Sim.State.GNSS_SOG[1], 12.5F);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], 12.5F);
     EXPECT_EQ(Again.txtSOG.Text(), "12.5");
     EXPECT_EQ(Again.scrSOG.Value(), 125);
     Bench.Run_To(7);
@@ -271,9 +276,9 @@ TEST(GNSS_Opening, Closing_Stops_The_Sentences_And_Keeps_Place_And_Settings) {
 
 TEST(GNSS_Opening, Closing_With_A_Full_List_Of_Places_Is_Told_And_Closes_All_The_Same) {
     GNSS_Bench Bench;
-    Bench.Sim.State.GGA_Enabled[1] = true;
+    Bench.Sim.State.Of<GNSS_State>().GGA_Enabled[1] = true;
     Bench.Open();
-    Bench.Sim.State.Open_Form_Count = 20;
+    Bench.Sim.State.Of<Shell_State>().Open_Form_Count = 20;
     Bench.Close();
     EXPECT_EQ(Bench.Last_Box(), "Subscript out of range");
     Bench.Sim.Windows.Boxes.Answer(1);
@@ -287,8 +292,8 @@ TEST(GNSS_Opening, The_Port_List_Follows_The_Links_And_Its_Choice_Routes_The_Sen
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     Simulator_State& State = Bench.Sim.State;
-    for (const int Port : {3, 16, 17}) State.Port_Table[Port].Present = State.Port_Table[Port].Enabled = true;
-    State.Port_Table[4].Present = true;
+    for (const int Port : {3, 16, 17}) State.Of<Link_State>().Port_Table[Port].Present = State.Of<Link_State>().Port_Table[Port].Enabled = true;
+    State.Of<Link_State>().Port_Table[4].Present = true;
     Rebuild_Port_List(Bench.Sim, W);
     std::vector<std::string> Names;
     for (const auto& Item : W.cmbComPort.Items())
@@ -297,15 +302,15 @@ TEST(GNSS_Opening, The_Port_List_Follows_The_Links_And_Its_Choice_Routes_The_Sen
                                                "UDP 60002=19"}));
     EXPECT_EQ(W.cmbComPort.Text(), "UDP 60001");
     W.cmbComPort.Set_List_Index(4);
-    EXPECT_EQ(State.Sensor_Table[1].Port, 19);
+    EXPECT_EQ(State.Of<Link_State>().Sensor_Table[1].Port, 19);
     Bench.Click(W.chkGGA);
     Bench.Run_To(1.5);
     ASSERT_EQ(Bench.Sent.size(), 1U);
     EXPECT_EQ(Bench.Sent[0].Port, 19);
-    State.Port_Table[19].Enabled = false;
+    State.Of<Link_State>().Port_Table[19].Enabled = false;
     Rebuild_Port_List(Bench.Sim, W);
     EXPECT_EQ(W.cmbComPort.List_Index(), -1);
-    EXPECT_EQ(State.Sensor_Table[1].Port, 19);
+    EXPECT_EQ(State.Of<Link_State>().Sensor_Table[1].Port, 19);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // The position of a GNSS window: steps, noise, held offset and the position boxes.
 
 #include "gnss_bench.hpp"
+#include "gnss/gnss_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <cmath>
 #include <numbers>
@@ -42,16 +44,16 @@ Point Metres_Between(Point From, Point To) {
 }
 
 Point True_Position(const GNSS_Bench& B, int I = 1) {
-    return {B.Sim.State.GNSS_Start_Lat[I], B.Sim.State.GNSS_Start_Lon[I]};
+    return {B.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Start_Lon[I]};
 }
-Point Reported(const GNSS_Bench& B, int I = 1) { return {B.Sim.State.GNSS_Lat[I], B.Sim.State.GNSS_Lon[I]}; }
+Point Reported(const GNSS_Bench& B, int I = 1) { return {B.Sim.State.Of<GNSS_State>().GNSS_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Lon[I]}; }
 
 frmPosition& Start_At(GNSS_Bench& Bench, Point At, float SOG, float COG, std::int16_t I = 1) {
-    Bench.Sim.State.GNSS_Start_Lat[I] = At.Lat;
-    Bench.Sim.State.GNSS_Start_Lon[I] = At.Lon;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I] = At.Lat;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Start_Lon[I] = At.Lon;
     frmPosition& W = Bench.Open(I);
-    Bench.Sim.State.GNSS_SOG[I] = SOG;
-    Bench.Sim.State.GNSS_COG[I] = COG;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[I] = SOG;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[I] = COG;
     Bench.Click(W.cmdStart);
     return W;
 }
@@ -105,7 +107,7 @@ TEST(Position_Simulator, Shows_The_Reported_Position_In_The_Chosen_Format) {
     EXPECT_EQ(*W.lblLat.Caption, "00\xB0 00.0000' N");
     Bench.Run_To(1.5);
     EXPECT_EQ(*W.lblLon.Caption, "006\xB0 10.0000' W");
-    Bench.Sim.State.LatLon_Format = 1;
+    Bench.Sim.State.Of<Shell_State>().LatLon_Format = 1;
     Bench.Run_To(2.5);
     EXPECT_EQ(*W.lblLat.Caption, "62\xB0"
                                  "35'30.000\"N");
@@ -165,21 +167,21 @@ TEST(Position_Simulator, Noise_Accumulates_Only_When_Asked_And_A_Seed_Repeats_It
 
 TEST(Position_Simulator, Noise_Controls) {
     GNSS_Bench Bench;
-    Bench.Sim.State.GNSS_Noise_Enabled[2] = Bench.Sim.State.GNSS_Noise_Accumulated[2] = true;
-    Bench.Sim.State.GNSS_Noise_Index[2] = 18;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Enabled[2] = Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Accumulated[2] = true;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Index[2] = 18;
     frmPosition& W = Bench.Open(2);
     EXPECT_TRUE(W.chkNoise.Value());
     EXPECT_EQ(W.optAccumulatedNoise.Selected(), 1);
-    EXPECT_EQ(Bench.Sim.State.GNSS_Noise_Max[2], 50);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Max[2], 50);
     for (const auto& [Index, Metres] : {std::pair{0, 0}, {16, 16}, {17, 25}, {18, 50}, {19, 100}}) {
         W.cmbNoise.Set_List_Index(Index);
-        EXPECT_EQ(Bench.Sim.State.GNSS_Noise_Max[2], Metres);
-        EXPECT_EQ(Bench.Sim.State.GNSS_Noise_Index[2], Index);
+        EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Max[2], Metres);
+        EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Index[2], Index);
     }
     Bench.Click(*W.optAccumulatedNoise.Buttons[0]);
-    EXPECT_FALSE(Bench.Sim.State.GNSS_Noise_Accumulated[2]);
+    EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Accumulated[2]);
     Bench.Click(W.chkNoise);
-    EXPECT_FALSE(Bench.Sim.State.GNSS_Noise_Enabled[2]);
+    EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Enabled[2]);
     EXPECT_FALSE(W.cmbNoise.Enabled);
     EXPECT_FALSE(W.optAccumulatedNoise.Buttons[1]->Enabled);
     EXPECT_FALSE(Bench.Open(1).cmbNoise.Enabled);
@@ -259,7 +261,7 @@ TEST(Position_Simulator, Position_Boxes_Set_The_True_Position_Only) {
     EXPECT_EQ(Bench.Box_Count(), 0U);
 
     Bench.Click(W.cmdPause);
-    Bench.Sim.State.LatLon_Format = 1;
+    Bench.Sim.State.Of<Shell_State>().LatLon_Format = 1;
     Bench.Type(W.txtLat, "62 35 30 N");
     EXPECT_EQ(W.txtLat.Text(), "62\xB0"
                                "35'30.000\"N");

@@ -1,6 +1,7 @@
 // The boxes of the satellites, their number, those in view and the table: who drives whom.
 
 #include "gnss_bench.hpp"
+#include "gnss/gnss_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -65,7 +66,7 @@ TEST(GNSS_Satellite_Controls, The_Number_Takes_The_Lowest_Free_And_Gives_Up_The_
     EXPECT_EQ(Checked(W), (Ints{1, 2, 3, 6, 8, 12, 19, 24, 25, 32}));
     Choose(Bench, W.cmbSats, 8);
     EXPECT_EQ(Checked(W), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
-    EXPECT_EQ(Filled(Bench.Sim.State.Svs_In_Use), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
+    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_Use), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
 
     // GPS first, then GLONASS, then SBAS; given up GLONASS, SBAS, GPS.
     Choose(Bench, W.cmbSats, 58);
@@ -95,7 +96,7 @@ TEST(GNSS_Satellite_Controls, The_Boxes_Set_The_Number_And_The_Lists) {
     frmPosition& W = Bench.Open();
     Choose(Bench, W.cmbInView, 20);
     for (Check_Box* Box : {&W.chkGLSv[1], &W.chkWAASSv[0], &W.chkWAASSv[2], &W.chkSv[1]}) Bench.Click(*Box);
-    EXPECT_EQ(Filled(Bench.Sim.State.Svs_In_Use), (Ints{1, 3, 6, 8, 12, 19, 24, 25, 32, 33, 44, 65}));
+    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_Use), (Ints{1, 3, 6, 8, 12, 19, 24, 25, 32, 33, 44, 65}));
     EXPECT_EQ(Numbers_In_Table(W), "01 03 06 08 12 19 24 25 32 120 131 GL01 ");
     EXPECT_EQ(W.cmbSats.Text(), "12");
     EXPECT_EQ(W.cmbInView.Text(), "12") << "as many in view as in use again";
@@ -127,8 +128,8 @@ TEST(GNSS_Satellite_Controls, In_View_Adds_Free_GPS_Satellites_And_Refuses_Fewer
     EXPECT_EQ(Numbers_In_Table(W), "03 06 08 12 19 24 25 32 01 02 ");
     EXPECT_EQ(W.hfgGSV.At(7, 0).Colour, Ink::Black);
     EXPECT_EQ(W.hfgGSV.At(8, 0).Colour, Ink::Red);
-    EXPECT_EQ(Filled(Bench.Sim.State.Svs_In_View).size(), 24U) << "all free ones, not just two";
-    EXPECT_TRUE(Bench.Sim.State.Sky_Table[31].In_View);
+    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_View).size(), 24U) << "all free ones, not just two";
+    EXPECT_TRUE(Bench.Sim.State.Of<GNSS_State>().Sky_Table[31].In_View);
     Choose(Bench, W.cmbInView, 20);
     EXPECT_EQ(*W.hfgGSV.Width, 2350);
 
@@ -155,7 +156,7 @@ TEST(GNSS_Satellite_Controls, The_Table_Rounds_And_Follows_The_Sky_Once_A_Minute
     frmPosition& W = Bench.Open();
     Choose(Bench, W.cmbInView, 9);
     for (const int I : {1, 3}) {
-        Sky_Satellite& S = Bench.Sim.State.Sky_Table[I];
+        Sky_Satellite& S = Bench.Sim.State.Of<GNSS_State>().Sky_Table[I];
         S.Elevation = 62.5F;
         S.Azimuth = 7.25F;
         S.SNR = -0.25F;
@@ -177,7 +178,7 @@ TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
     frmPosition& Second = Bench.Open(2);
     Bench.Click(Second.chkSv[3]);
     Bench.Click(Second.chkGLSv[2]);
-    EXPECT_FALSE(Bench.Sim.State.Sky_Table[3].Used);
+    EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().Sky_Table[3].Used);
     EXPECT_TRUE(First.chkSv[3].Value()) << "the boxes of the other window stay";
     EXPECT_EQ(First.GSA_Record.PRN[1], 3);
     for (frmPosition* W : {&First, &Second}) {
@@ -186,7 +187,7 @@ TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
         EXPECT_NE(Bench.Sent.at(1).Text.find(",66,"), std::string::npos);
     }
     Choose(Bench, First.cmbInView, 9);
-    EXPECT_EQ(Bench.Sim.State.Svs_In_View[3], 3) << "free by the other window's choice";
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().Svs_In_View[3], 3) << "free by the other window's choice";
 }
 
 } // namespace

@@ -1,6 +1,10 @@
 // What leaves a GNSS window, and when: contents, START and PAUSE, intervals, talker.
 
 #include "gnss_bench.hpp"
+#include "gnss/gnss_state.hpp"
+#include "shell/state/iec450_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "sentences/utc_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -14,11 +18,11 @@ std::string Tick(GNSS_Bench& Bench, Timer& Clock) {
 
 GNSS_Bench& Place(GNSS_Bench& Bench, int I = 1) {
     Simulator_State& S = Bench.Sim.State;
-    S.GNSS_Lat[I] = 62 + 35.5 / 60;
-    S.GNSS_Lon[I] = -(6 + 10.0 / 60);
-    S.GNSS_SOG[I] = -12.3F;
-    S.GNSS_COG[I] = 359;
-    S.Magnetic_Variation = 2.5F;
+    S.Of<GNSS_State>().GNSS_Lat[I] = 62 + 35.5 / 60;
+    S.Of<GNSS_State>().GNSS_Lon[I] = -(6 + 10.0 / 60);
+    S.Of<GNSS_State>().GNSS_SOG[I] = -12.3F;
+    S.Of<GNSS_State>().GNSS_COG[I] = 359;
+    S.Of<Navdata_State>().Magnetic_Variation = 2.5F;
     return Bench;
 }
 
@@ -42,27 +46,27 @@ TEST(GNSS_Sentences, Follow_State_Decimals_And_Their_Own_Instance) {
     frmPosition& W = Place(Bench, 2).Open(2);
     W.cmbDecimals.Set_List_Index(0);
     W.cmbDecimalsTime.Set_List_Index(1);
-    Bench.Sim.State.Use_UTC = true;
-    Bench.Sim.State.GNSS2_UTC_Offset_Hours = 90; // minutes
-    Bench.Sim.State.GNS_Talker[2] = "GN";
-    Bench.Sim.State.GNS_Mode_Indicator[2] = "AAN";
+    Bench.Sim.State.Of<UTC_State>().Use_UTC = true;
+    Bench.Sim.State.Of<UTC_State>().GNSS2_UTC_Offset_Hours = 90; // minutes
+    Bench.Sim.State.Of<GNSS_State>().GNS_Talker[2] = "GN";
+    Bench.Sim.State.Of<GNSS_State>().GNS_Mode_Indicator[2] = "AAN";
     // The variation of RMC is that of the opening, the one of VTG follows.
-    Bench.Sim.State.Magnetic_Variation = -359.5F;
+    Bench.Sim.State.Of<Navdata_State>().Magnetic_Variation = -359.5F;
     EXPECT_EQ(Tick(Bench, W.timer_GGA).substr(0, 35), "$GPGGA,013000.0,6235.500,N,00610.00");
     EXPECT_EQ(Tick(Bench, W.timer_GNS),
               Framed("GNGNS,013000.0,6235.500,N,00610.000,W,AAN,8,1.4,0.0,0.0,5.0,0,S"));
     EXPECT_NE(Tick(Bench, W.timer_RMC).find(",002.5,E,"), std::string::npos);
     EXPECT_EQ(Tick(Bench, W.timer_VTG), Framed("GPVTG,359.0,T,359.5,M,12.3,N,022.78,K,A"));
     EXPECT_EQ(Bench.Sent[0].Port, 19);
-    Bench.Sim.State.GNSS_COG[2] = 359.99998F; // a sum just under the circle must not round up to it
-    Bench.Sim.State.Magnetic_Variation = 2e-5F;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[2] = 359.99998F; // a sum just under the circle must not round up to it
+    Bench.Sim.State.Of<Navdata_State>().Magnetic_Variation = 2e-5F;
     Tick(Bench, W.timer_VTG);
     EXPECT_LT(W.VTG_Record.COG_Magnetic, 360);
 }
 
 TEST(GNSS_Sentences, West_Variation_And_The_Checksum_Option) {
     GNSS_Bench Bench;
-    Bench.Sim.State.Magnetic_Variation = -3.25F;
+    Bench.Sim.State.Of<Navdata_State>().Magnetic_Variation = -3.25F;
     frmPosition& W = Bench.Open();
     EXPECT_EQ(Tick(Bench, W.timer_RMC),
               Framed("GPRMC,000000,A,0000.0000,N,00000.0000,E,0.0,000.0,010170,003.3,W,A,S"));
@@ -74,7 +78,7 @@ TEST(GNSS_Sentences, West_Variation_And_The_Checksum_Option) {
 TEST(GNSS_Sentences, Tag_Block_Stands_In_Front_But_Never_Of_The_Second_GSA) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    Bench.Sim.State.IEC450_Enabled = Bench.Sim.State.Use_n_Tag = true;
+    Bench.Sim.State.Of<IEC450_State>().IEC450_Enabled = Bench.Sim.State.Of<IEC450_State>().Use_n_Tag = true;
     const std::string DTM = Framed("GPDTM,W84, ,0,N,0,E,0,W84");
     EXPECT_EQ(Tick(Bench, W.timer_DTM), "\\" + Framed("n:1").substr(1) + "\\" + DTM);
     EXPECT_EQ(Tick(Bench, W.timer_DTM), "\\" + Framed("n:2").substr(1) + "\\" + DTM);
@@ -144,7 +148,7 @@ TEST(GNSS_Sentences, A_New_Interval_Restarts_The_Phase_Of_A_Ticked_Sentence_Only
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     Bench.Sim.Windows.User_Set(W.cmbGGAInterval, std::int64_t{0});
-    EXPECT_EQ(Bench.Sim.State.GGA_Interval[1], 0);
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GGA_Interval[1], 0);
     EXPECT_EQ(W.timer_GGA.Interval_ms(), 0);
     Bench.Click(W.chkGGA);
     EXPECT_EQ(W.timer_GGA.Interval_ms(), 100);
@@ -166,8 +170,8 @@ TEST(GNSS_Sentences, Talker_Rule) {
     Bench.Type(W.txtTalker, "g\xE6");
     EXPECT_EQ(W.txtTalker.Text(), "G\xC6");
     Bench.Type(W.txtTalker, "1a");
-    EXPECT_EQ(Bench.Sim.State.GNSS_Talker[1], "1A");
-    EXPECT_EQ(Bench.Sim.State.GNSS_Talker[2], "GP");
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[1], "1A");
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[2], "GP");
     for (Timer* Clock : {&W.timer_GGA, &W.timer_GLL, &W.timer_RMC, &W.timer_VTG, &W.timer_ZDA, &W.timer_DTM,
                          &W.timer_GSA, &W.timer_GST})
         EXPECT_EQ(Tick(Bench, *Clock).substr(0, 3), "$1A") << Clock->Name;
@@ -184,7 +188,7 @@ TEST(GNSS_Sentences, Talker_Rule) {
         EXPECT_EQ(Bench.Sim.Windows.Focus, &W.txtTalker);
     }
     EXPECT_EQ(Bench.Box_Count(), 3U);
-    EXPECT_EQ(Bench.Sim.State.GNSS_Talker[1], "1A");
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[1], "1A");
 }
 
 } // namespace

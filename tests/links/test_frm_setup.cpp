@@ -1,16 +1,19 @@
 #include "tests/links/port_setup_fixture.hpp"
+#include "extra/extra_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 namespace brinewright {
 namespace {
 
 TEST_F(Port_Setup, Shows_What_Is_Set_And_OK_Takes_It_Over) {
-    Sim.State.Port_Table[1] = {true, true, 19200, 7, "even", 2};
-    Sim.State.Port_Table[2] = {true, false, 38400, 5, "mark", 2}; // values that the lists do not have
+    Sim.State.Of<Link_State>().Port_Table[1] = {true, true, 19200, 7, "even", 2};
+    Sim.State.Of<Link_State>().Port_Table[2] = {true, false, 38400, 5, "mark", 2}; // values that the lists do not have
     Virtual_Simulator::Set_Up_Link(Sim.State, 18);
-    Sim.State.UDP_Port_Number[1] = 0;
-    Sim.State.UDP_Remote_Host = "10.1.2.3";
-    Sim.State.Ports_Initialised = true;
-    Sim.State.TCP_Port = 0;
+    Sim.State.Of<Link_State>().UDP_Port_Number[1] = 0;
+    Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
+    Sim.State.Of<Link_State>().Ports_Initialised = true;
+    Sim.State.Of<Link_State>().TCP_Port = 0;
     frmSetup& F = Open();
     EXPECT_TRUE(Told.empty());
     EXPECT_EQ(F.cmbBaudRate[1].Text() + F.cmbDataBits[1].Text() + F.cmbParity[1].Text() +
@@ -38,22 +41,22 @@ TEST_F(Port_Setup, Shows_What_Is_Set_And_OK_Takes_It_Over) {
     Type(F.txtUDP_RemoteHost, "192.168.0.1");
     Click(F.cmdOK);
     const Simulator_State& S = Sim.State;
-    EXPECT_EQ(S.Port_Table[1].Parity, "odd");
-    EXPECT_EQ(S.Port_Table[2].BaudRate, 4800); // an empty list gives the usual rate
-    EXPECT_EQ(S.Port_Table[2].Parity, "mark");
-    EXPECT_EQ(S.Port_Table[2].DataBits, 5);
-    EXPECT_EQ(S.TCP_Port, 9001);
-    EXPECT_TRUE(S.Port_Table[17].Present && S.Port_Table[17].Enabled);
-    EXPECT_EQ(S.UDP_Port_Number[0], 60001);
-    EXPECT_EQ(S.UDP_Port_Number[1], 60011);
-    EXPECT_EQ(S.UDP_Mode, 1);
-    EXPECT_EQ(S.UDP_Remote_Host, "192.168.0.1");
+    EXPECT_EQ(S.Of<Link_State>().Port_Table[1].Parity, "odd");
+    EXPECT_EQ(S.Of<Link_State>().Port_Table[2].BaudRate, 4800); // an empty list gives the usual rate
+    EXPECT_EQ(S.Of<Link_State>().Port_Table[2].Parity, "mark");
+    EXPECT_EQ(S.Of<Link_State>().Port_Table[2].DataBits, 5);
+    EXPECT_EQ(S.Of<Link_State>().TCP_Port, 9001);
+    EXPECT_TRUE(S.Of<Link_State>().Port_Table[17].Present && S.Of<Link_State>().Port_Table[17].Enabled);
+    EXPECT_EQ(S.Of<Link_State>().UDP_Port_Number[0], 60001);
+    EXPECT_EQ(S.Of<Link_State>().UDP_Port_Number[1], 60011);
+    EXPECT_EQ(S.Of<Link_State>().UDP_Mode, 1);
+    EXPECT_EQ(S.Of<Link_State>().UDP_Remote_Host, "192.168.0.1");
     EXPECT_EQ(std::count(World.Log.begin(), World.Log.end(), "UDP 192.168.0.1:60001 open"), 1);
 }
 
 TEST_F(Port_Setup, Cancel_Changes_Nothing) {
     Use({18});
-    Sim.State.UDP_Remote_Host = "10.1.2.3";
+    Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
     const std::string Before = Write_Setup(Sim.State);
     frmSetup& F = Open();
     Type(F.txtPort, "9001");
@@ -63,13 +66,13 @@ TEST_F(Port_Setup, Cancel_Changes_Nothing) {
     Type(F.txtUDP_RemoteHost, "10.0.0.9");
     Click(F.cmdCancel);
     EXPECT_EQ(Write_Setup(Sim.State), Before);
-    EXPECT_EQ(Sim.State.UDP_Mode, 0);
+    EXPECT_EQ(Sim.State.Of<Link_State>().UDP_Mode, 0);
     EXPECT_FALSE(Sim.Setup);
 }
 
 TEST_F(Port_Setup, OK_Gives_The_Open_Sensor_Windows_Their_New_Ports) {
     Use({18});
-    Sim.State.Sensor_Table[2].Port = 18;
+    Sim.State.Of<Link_State>().Sensor_Table[2].Port = 18;
     Open_Form(2);
     frmPosition& W = *Sim.frmPosition_Instance[2];
     ASSERT_EQ(W.cmbComPort.Items().size(), 1u);
@@ -80,15 +83,15 @@ TEST_F(Port_Setup, OK_Gives_The_Open_Sensor_Windows_Their_New_Ports) {
     ASSERT_EQ(W.cmbComPort.Items().size(), 2u);
     EXPECT_EQ(W.cmbComPort.Items()[0].Text, "TCP/IP");
     EXPECT_EQ(W.cmbComPort.Text(), "UDP 60077"); // still its own
-    EXPECT_EQ(Sim.State.Open_Form_Index, 2);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Index, 2);
 }
 
 TEST_F(Port_Setup, What_Is_Not_Valid_Is_Told_And_The_Old_Text_Comes_Back) {
     Use({18});
-    Sim.State.UDP_Remote_Host = "10.1.2.3";
-    Sim.State.UDP_Mode = 1;
-    Sim.State.Extra_GNSS[3].UDP_Port = 60100;
-    Sim.State.Extra_Gyro[0].UDP_Port = 60200;
+    Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
+    Sim.State.Of<Link_State>().UDP_Mode = 1;
+    Sim.State.Of<Extra_State>().Extra_GNSS[3].UDP_Port = 60100;
+    Sim.State.Of<Extra_State>().Extra_Gyro[0].UDP_Port = 60200;
     frmSetup& F = Open();
     const std::string TCP = " is not a valid port number! Has to be an integer value in the range 1024-65535";
     const std::string UDP = " is not a valid port number! Has to be an integer value in the range 1-65535";
@@ -143,8 +146,8 @@ TEST_F(Port_Setup, What_Is_Not_Valid_Is_Told_And_The_Old_Text_Comes_Back) {
     Sim.Windows.Event([&] { Sim.Windows.User_Type(F.txtPort, "99"); });
     Click(F.cmdOK);
     EXPECT_EQ(Take_Boxes(), Texts{"99" + TCP});
-    EXPECT_EQ(Sim.State.TCP_Port, 5000);
-    EXPECT_EQ(Sim.State.UDP_Port_Number[0], 0);
+    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Port, 5000);
+    EXPECT_EQ(Sim.State.Of<Link_State>().UDP_Port_Number[0], 0);
 }
 
 TEST_F(Port_Setup, A_First_Start_Opens_It_And_Info_Tells_Of_The_Ports_Above_16) {

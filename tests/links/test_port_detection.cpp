@@ -1,4 +1,5 @@
 #include "tests/links/port_setup_fixture.hpp"
+#include "shell/state/link_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -24,9 +25,9 @@ TEST_F(Port_Setup, Detection_Tells_Present_Busy_And_Absent_Ports_Apart) {
     Click(F.chkEnable[16]);
     Click(F.chkEnable[5]); // refused
     Click(F.cmdOK);
-    const auto& Table = Sim.State.Port_Table;
-    EXPECT_EQ(Sim.State.Present_Port_Count, 2);
-    EXPECT_EQ(Sim.State.Comport_Count, 2);
+    const auto& Table = Sim.State.Of<Link_State>().Port_Table;
+    EXPECT_EQ(Sim.State.Of<Link_State>().Present_Port_Count, 2);
+    EXPECT_EQ(Sim.State.Of<Link_State>().Comport_Count, 2);
     EXPECT_TRUE(Table[2].Present && !Table[2].Enabled);
     EXPECT_TRUE(!Table[5].Present && !Table[5].Enabled);
     EXPECT_TRUE(Table[16].Present && Table[16].Enabled);
@@ -74,7 +75,7 @@ TEST_F(Port_Setup, Closing_Windows_While_Ports_Are_Tried_Harms_Nothing) {
     Run_s(1);
     EXPECT_EQ(World.Log.size(), Tried);
     EXPECT_LT(Tried, 16u);
-    EXPECT_FALSE(Sim.State.Ports_Initialised);
+    EXPECT_FALSE(Sim.State.Of<Link_State>().Ports_Initialised);
     Open();
     Close(*Sim.Setup);
     EXPECT_FALSE(Sim.Progress);
@@ -110,8 +111,8 @@ TEST_F(Port_Setup, A_Port_That_Sends_Is_There_And_Its_Output_Goes_On) {
     EXPECT_TRUE(Before.chkEnable[2].Value());
     World.Log.clear();
     Click(Before.cmdReset);
-    EXPECT_FALSE(Sim.State.Port_Table[2].Present || Sim.State.Port_Table[2].Enabled);
-    EXPECT_FALSE(Sim.State.Ports_Initialised);
+    EXPECT_FALSE(Sim.State.Of<Link_State>().Port_Table[2].Present || Sim.State.Of<Link_State>().Port_Table[2].Enabled);
+    EXPECT_FALSE(Sim.State.Of<Link_State>().Ports_Initialised);
     Run_s(1);
     EXPECT_EQ(Shown(), std::vector<int>{2});
     for (const std::string& Line : World.Log) EXPECT_NE(Line.rfind("COM 2 ", 0), 0u) << Line;

@@ -1,4 +1,5 @@
 #include "tests/support/virtual_simulator.hpp"
+#include "shell/state/link_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -6,36 +7,36 @@ namespace {
 TEST(Serial_Ports, Are_Brought_To_The_State_Of_The_Table) {
     Virtual_Simulator V;
     Simulator_State& S = V.Sim.State;
-    S.Port_Table[1] = {true, true, 4800, 8, "none", 1};
-    S.Port_Table[2] = {true, true, 38400, 7, "even", 2};
-    S.Port_Table[3] = {true, true, 115200, 8, "odd", 1};
-    S.Port_Table[4] = {true, false, 4800, 8, "none", 1};
-    S.Port_Table[16] = {false, true, 4800, 8, "none", 1};
-    for (int Slot = 1; Slot <= 11; ++Slot) S.Sensor_Table[Slot].Port = 3;
+    S.Of<Link_State>().Port_Table[1] = {true, true, 4800, 8, "none", 1};
+    S.Of<Link_State>().Port_Table[2] = {true, true, 38400, 7, "even", 2};
+    S.Of<Link_State>().Port_Table[3] = {true, true, 115200, 8, "odd", 1};
+    S.Of<Link_State>().Port_Table[4] = {true, false, 4800, 8, "none", 1};
+    S.Of<Link_State>().Port_Table[16] = {false, true, 4800, 8, "none", 1};
+    for (int Slot = 1; Slot <= 11; ++Slot) S.Of<Link_State>().Sensor_Table[Slot].Port = 3;
     V.Init(4);
     EXPECT_EQ(V.World.Log,
               (Texts{"COM 1 open 4800,n,8,1", "COM 2 open 38400,e,7,2", "COM 3 open 115200,o,8,1"}));
-    EXPECT_EQ(S.Comport_Count, 4);
-    EXPECT_TRUE(S.Ports_Initialised);
+    EXPECT_EQ(S.Of<Link_State>().Comport_Count, 4);
+    EXPECT_TRUE(S.Of<Link_State>().Ports_Initialised);
     auto& Panels = V.Sim.Main->sbStatusBar;
     EXPECT_EQ(*Panels[1].Caption, "COM 1");
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port <= 3) << Port;
 
     // Again: open ports are closed first. A port that is not used any more loses its panel and its sensors,
     // but for slots 9 to 11; those of other ports stay.
-    S.Port_Table[3].Enabled = false;
-    S.Port_Table[1].Present = false;
-    S.Sensor_Table[2].Port = 2;
+    S.Of<Link_State>().Port_Table[3].Enabled = false;
+    S.Of<Link_State>().Port_Table[1].Present = false;
+    S.Of<Link_State>().Sensor_Table[2].Port = 2;
     V.World.Log.clear();
     V.Init(4);
     EXPECT_EQ(V.World.Log, (Texts{"COM 1 close", "COM 2 close", "COM 2 open 38400,e,7,2", "COM 3 close"}));
     for (int Slot = 1; Slot <= 11; ++Slot)
-        EXPECT_EQ(S.Sensor_Table[Slot].Port, Slot == 2 ? 2 : Slot <= 8 ? 0 : 3);
+        EXPECT_EQ(S.Of<Link_State>().Sensor_Table[Slot].Port, Slot == 2 ? 2 : Slot <= 8 ? 0 : 3);
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port == 2) << Port;
 
-    S.Port_Table[2].Enabled = false;
+    S.Of<Link_State>().Port_Table[2].Enabled = false;
     V.Init(0);
-    EXPECT_EQ(S.Comport_Count, 0);
+    EXPECT_EQ(S.Of<Link_State>().Comport_Count, 0);
     EXPECT_EQ(*Panels[1].Caption, "No comports enabled");
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port == 1) << Port;
     EXPECT_TRUE(V.Told.empty());
@@ -60,9 +61,9 @@ TEST(Serial_Ports, One_That_Does_Not_Open_Is_Told_And_The_Others_Open) {
 struct Receiving : testing::Test, Virtual_Simulator {
     void SetUp() override {
         Use({3, 4});
-        Sim.State.Extended_Monitor_Port = 3;
+        Sim.State.Of<Link_State>().Extended_Monitor_Port = 3;
         mnuExtendedMonitor_Click(Sim);
-        Sim.State.Extended_Monitor_Lines = 100;
+        Sim.State.Of<Link_State>().Extended_Monitor_Lines = 100;
     }
     std::string Pane() { return Sim.Extended_Monitor->txtInput.Text(); }
     Played_Platform::Serial& Com(int Number) { return *World.Coms[Number]; }
@@ -73,10 +74,10 @@ TEST_F(Receiving, Whole_Lines_Of_The_Watched_Port_Show) {
     EXPECT_EQ(Pane(), "one\r\n");
     Com(3).Arrive("o\n\nthree\nfo");
     EXPECT_EQ(Pane(), "one\r\ntwo\n\nthree\n");
-    EXPECT_EQ(Sim.State.Transmit.Extended_Rx_Line_Count, 4);
+    EXPECT_EQ(Sim.State.Of<Link_State>().Transmit.Extended_Rx_Line_Count, 4);
     Com(4).Arrive("unseen\n");
     EXPECT_EQ(Com(4).Received, "unseen\n"); // it stays in the port
-    EXPECT_EQ(Sim.State.Transmit.Extended_Rx_Line_Count, 4);
+    EXPECT_EQ(Sim.State.Of<Link_State>().Transmit.Extended_Rx_Line_Count, 4);
 
     // Frozen, lines are taken and lost. The buffer is one for all ports.
     Click(Sim.Extended_Monitor->cmdFreeze);

@@ -1,6 +1,14 @@
-#include "links/setup_file.hpp"
+#include "links/setup_file/setup_file.hpp"
 #include "platform/run_time_error.hpp"
 #include "test_setup_file_support.hpp"
+#include "ownship/autopilot/autopilot_state.hpp"
+#include "sensors/echosounder/echo_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "sentences/utc_state.hpp"
+#include "sensors/wind/wind_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -97,14 +105,14 @@ TEST(Setup_File, A_File_Without_The_Late_Sections_Leaves_Second_Instances_Alone)
         Old += File_Line(Fields, Values);
     }
     const Simulator_State State = Read(Old);
-    EXPECT_EQ(Text_Of(State.Wind_Speed[1]), Values.at("Wind_Speed[1]"));
-    EXPECT_EQ(Text_Of(State.VLW_Interval[1]), Values.at("VLW_Interval[1]"));
-    EXPECT_EQ(Text_Of(State.Port_Table[25].Present), Values.at("Port_Table[25].Present"));
-    EXPECT_EQ(State.Wind_Speed[2], 0);
-    EXPECT_EQ(State.Log_Talker[2], "");
-    EXPECT_EQ(State.VLW_Interval[2], 0);
-    EXPECT_EQ(State.Sensor_Table[9].Name, "");
-    EXPECT_EQ(State.UDP_Port_Number[8], 0);
+    EXPECT_EQ(Text_Of(State.Of<Wind_State>().Wind_Speed[1]), Values.at("Wind_Speed[1]"));
+    EXPECT_EQ(Text_Of(State.Of<Log_State>().VLW_Interval[1]), Values.at("VLW_Interval[1]"));
+    EXPECT_EQ(Text_Of(State.Of<Link_State>().Port_Table[25].Present), Values.at("Port_Table[25].Present"));
+    EXPECT_EQ(State.Of<Wind_State>().Wind_Speed[2], 0);
+    EXPECT_EQ(State.Of<Log_State>().Log_Talker[2], "");
+    EXPECT_EQ(State.Of<Log_State>().VLW_Interval[2], 0);
+    EXPECT_EQ(State.Of<Link_State>().Sensor_Table[9].Name, "");
+    EXPECT_EQ(State.Of<Link_State>().UDP_Port_Number[8], 0);
 
     const Texts Only_Mode = All_Texts(Read("\"REM Mode\"\r\n\"Sensor\"\r\n"));
     for (const auto& [Path, Text] : All_Texts(Simulator_State{}))
@@ -113,18 +121,18 @@ TEST(Setup_File, A_File_Without_The_Late_Sections_Leaves_Second_Instances_Alone)
 
 TEST(Setup_File, Navdata_Is_Passed_Over_When_Not_Wanted) {
     Simulator_State State;
-    State.Nav_Lat = 1.5;
-    State.Freeze_Active = true;
+    State.Of<Navdata_State>().Nav_Lat = 1.5;
+    State.Of<Shell_State>().Freeze_Active = true;
     Read_Setup(
         "\"REM Current navdata\"\r\n#FALSE#\r\n62.5,6\r\n12,270\r\n271,-3.5\r\n40.25\r\n10,200\r\n#FALSE#\r\n"
         "\"REM UTCOffset\"\r\n-120\r\n",
         State);
-    EXPECT_EQ(State.Nav_Lat, 1.5);
-    EXPECT_EQ(State.Nav_Lon, 0);
-    EXPECT_EQ(State.Wind_Speed[1], 0);
-    EXPECT_EQ(State.Echo_Depth, 0);
-    EXPECT_TRUE(State.Freeze_Active);
-    EXPECT_EQ(State.UTC_Offset_Hours, -120);
+    EXPECT_EQ(State.Of<Navdata_State>().Nav_Lat, 1.5);
+    EXPECT_EQ(State.Of<Navdata_State>().Nav_Lon, 0);
+    EXPECT_EQ(State.Of<Wind_State>().Wind_Speed[1], 0);
+    EXPECT_EQ(State.Of<Echo_State>().Echo_Depth, 0);
+    EXPECT_TRUE(State.Of<Shell_State>().Freeze_Active);
+    EXPECT_EQ(State.Of<UTC_State>().UTC_Offset_Hours, -120);
 }
 
 TEST(Setup_File, A_Marker_Inside_Skipped_Data_Counts) {
@@ -153,12 +161,12 @@ TEST(Setup_File, Numbers_In_All_Their_Forms) {
 TEST(Setup_File, Numbers_Are_Written_Short_And_Exact) {
     const auto Written = [](double Start, float Ahead) {
         Simulator_State State;
-        State.Start_Lat = Start;
-        State.Max_Speed_Ahead = Ahead;
+        State.Of<Navdata_State>().Start_Lat = Start;
+        State.Of<Navdata_State>().Max_Speed_Ahead = Ahead;
         const std::string Bytes = Write_Setup(State);
         const Simulator_State Back = Read(Bytes);
-        EXPECT_EQ(Back.Start_Lat, std::isnan(Start) ? 0 : Start);
-        EXPECT_EQ(Back.Max_Speed_Ahead, Ahead);
+        EXPECT_EQ(Back.Of<Navdata_State>().Start_Lat, std::isnan(Start) ? 0 : Start);
+        EXPECT_EQ(Back.Of<Navdata_State>().Max_Speed_Ahead, Ahead);
         const std::string Marker = "\"REM Public variables\"\r\n";
         const std::size_t First = Bytes.find(Marker) + Marker.size();
         return Bytes.substr(First, Bytes.find(",0,0", First + 1) - First);
@@ -177,11 +185,11 @@ TEST(Setup_File, Numbers_Are_Written_Short_And_Exact) {
 TEST(Setup_File, Texts_With_Commas_And_Quotation_Marks) {
     const auto Route_After_Saving = [](const std::string& Text) {
         Simulator_State State;
-        State.Route_File = Text;
-        State.Autopilot_Mode = 2;
+        State.Of<Autopilot_State>().Route_File = Text;
+        State.Of<Autopilot_State>().Autopilot_Mode = 2;
         const Simulator_State Back = Read(Write_Setup(State));
-        EXPECT_EQ(Back.Autopilot_Mode, 2) << Text;
-        return Back.Route_File;
+        EXPECT_EQ(Back.Of<Autopilot_State>().Autopilot_Mode, 2) << Text;
+        return Back.Of<Autopilot_State>().Route_File;
     };
     for (const std::string Text : {"", "a, b,,c", "\"", "\"\"", "say \"aye\" twice", "ends in a mark\"",
                                    " blanks ", "\xB0 \xD8", "REM Mode", "#TRUE#", "12"})

@@ -1,6 +1,8 @@
-#include "links/setup_file.hpp"
+#include "links/setup_file/setup_file.hpp"
 #include "platform/run_time_error.hpp"
 #include "test_setup_file_support.hpp"
+#include "shell/state/shell_state.hpp"
+#include "sentences/utc_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -84,20 +86,20 @@ TEST(Setup_File_Faults, A_Field_Of_The_Wrong_Form) {
 
 TEST(Setup_File_Faults, What_Was_Read_Before_The_Failure_Stays) {
     Simulator_State State;
-    State.Open_Form_Count = 4;
+    State.Of<Shell_State>().Open_Form_Count = 4;
     EXPECT_EQ(
         Failure_Of("\"REM LatLon Format\"\n1\n\"REM UTC Offset GNSS2\"\n60,x,9\n\"REM Mode\"\n\"Ship\"\n",
                    State),
         "Type mismatch");
-    EXPECT_EQ(State.LatLon_Format, 1);
-    EXPECT_EQ(State.GNSS2_UTC_Offset_Hours, 60);
-    EXPECT_EQ(State.GNSS2_UTC_Offset_Seconds, 0);
-    EXPECT_EQ(State.Mode, "");
+    EXPECT_EQ(State.Of<Shell_State>().LatLon_Format, 1);
+    EXPECT_EQ(State.Of<UTC_State>().GNSS2_UTC_Offset_Hours, 60);
+    EXPECT_EQ(State.Of<UTC_State>().GNSS2_UTC_Offset_Seconds, 0);
+    EXPECT_EQ(State.Of<Shell_State>().Mode, "");
     // A count that cannot be is never met in the state: the next saving has to work.
     EXPECT_EQ(Failure_Of("\"REM Open forms\"\n30000\n", State), "Subscript out of range");
-    EXPECT_EQ(State.Open_Form_Count, 4);
+    EXPECT_EQ(State.Of<Shell_State>().Open_Form_Count, 4);
     EXPECT_NO_THROW(Write_Setup(State));
-    State.Open_Form_Count = 21;
+    State.Of<Shell_State>().Open_Form_Count = 21;
     EXPECT_THROW(Write_Setup(State), Run_Time_Error);
 }
 

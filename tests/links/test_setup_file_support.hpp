@@ -3,7 +3,8 @@
 // What the tests of the setup file share: every variable of the state by its path, and the file as the layout
 // in golden/setup/layout.txt describes it, put together without the reader or the writer.
 
-#include "shell/simulator_state.hpp"
+#include "shell/state/simulator_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <fstream>
 #include <iterator>
@@ -76,8 +77,8 @@ inline Simulator_State Filled_State(int Bit) {
         else
             Value = static_cast<T>(Number % 2 ? Number : -Number);
     });
-    State.Open_Form_Count = 20;
-    State.Start_With_Last_Navdata = true;
+    State.Of<Shell_State>().Open_Form_Count = 20;
+    State.Of<Shell_State>().Start_With_Last_Navdata = true;
     return State;
 }
 

@@ -1,6 +1,9 @@
-#include "links/frm_iec61162.hpp"
-#include "links/tag_block.hpp"
+#include "dialogs/iec61162/frm_iec61162.hpp"
+#include "shell/transmit/tag_block.hpp"
 #include "tests/support/virtual_simulator.hpp"
+#include "shell/state/iec450_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "sentences/utc_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -25,43 +28,43 @@ struct Tag_Block : testing::Test, Virtual_Simulator {
 };
 
 TEST_F(Tag_Block, Tags_In_Their_Order) {
-    S.s_Tag = "Brinewright";
-    S.d_Tag = "Listener 1";
-    S.d2_Tag = "Listener 2";
-    S.t_Tag = "Text";
-    S.Use_s_Tag = S.Use_n_Tag = true;
-    S.Transmit.UdPbC_Sequence[18] = 11;
+    S.Of<IEC450_State>().s_Tag = "Brinewright";
+    S.Of<IEC450_State>().d_Tag = "Listener 1";
+    S.Of<IEC450_State>().d2_Tag = "Listener 2";
+    S.Of<IEC450_State>().t_Tag = "Text";
+    S.Of<IEC450_State>().Use_s_Tag = S.Of<IEC450_State>().Use_n_Tag = true;
+    S.Of<Link_State>().Transmit.UdPbC_Sequence[18] = 11;
     EXPECT_EQ(Header(), "\\s:Brinewright,n:12*77\\");
 
-    S.Use_d_Tag = S.Use_d2_Tag = S.Use_g_Tag = S.Use_c_Tag = S.Use_t_Tag = true;
+    S.Of<IEC450_State>().Use_d_Tag = S.Of<IEC450_State>().Use_d2_Tag = S.Of<IEC450_State>().Use_g_Tag = S.Of<IEC450_State>().Use_c_Tag = S.Of<IEC450_State>().Use_t_Tag = true;
     EXPECT_EQ(Header(18, 2, 3),
               Block("s:Brinewright,d:Listener 1,d:Listener 2,n:13,g:2-3-0,c:1767261600,t:Text"));
-    S.UTC_Offset_Hours = -90; // signed minutes
+    S.Of<UTC_State>().UTC_Offset_Hours = -90; // signed minutes
     EXPECT_EQ(Header(), Block("s:Brinewright,d:Listener 1,d:Listener 2,n:14,c:1767256200,t:Text"));
 
-    S.UdPbC_Header_Enabled = true;
-    S.Use_s_Tag = S.Use_d_Tag = S.Use_d2_Tag = S.Use_n_Tag = S.Use_c_Tag = false;
+    S.Of<IEC450_State>().UdPbC_Header_Enabled = true;
+    S.Of<IEC450_State>().Use_s_Tag = S.Of<IEC450_State>().Use_d_Tag = S.Of<IEC450_State>().Use_d2_Tag = S.Of<IEC450_State>().Use_n_Tag = S.Of<IEC450_State>().Use_c_Tag = false;
     EXPECT_EQ(Header(), std::string("UdPbC\0", 6) + Block("t:Text"));
-    S.t_Tag = "";
+    S.Of<IEC450_State>().t_Tag = "";
     EXPECT_EQ(Header(), std::string("UdPbC\0", 6) + Block("t:"));
 
     // Without any tag the opening backslash goes, and the checksum of nothing stands there.
-    S.Use_t_Tag = false;
+    S.Of<IEC450_State>().Use_t_Tag = false;
     EXPECT_EQ(Header(), std::string("UdPbC\0*XX\\", 10));
-    S.UdPbC_Header_Enabled = false;
+    S.Of<IEC450_State>().UdPbC_Header_Enabled = false;
     EXPECT_EQ(Header(), "*XX\\");
 }
 
 TEST_F(Tag_Block, Counters_Run_By_Port_And_Start_Over) {
-    S.Use_n_Tag = S.Use_g_Tag = true;
+    S.Of<IEC450_State>().Use_n_Tag = S.Of<IEC450_State>().Use_g_Tag = true;
     for (int N = 1; N <= 999; ++N) ASSERT_EQ(Header(1), Block("n:" + std::to_string(N)));
     EXPECT_EQ(Header(1), Block("n:1"));
     EXPECT_EQ(Header(28), Block("n:1"));     // every port has its own
-    EXPECT_EQ(S.Transmit.UdPbC_Group[1], 0); // sentences that stand alone leave the groups alone
+    EXPECT_EQ(S.Of<Link_State>().Transmit.UdPbC_Group[1], 0); // sentences that stand alone leave the groups alone
 
     for (int Group = 1; Group <= 99; ++Group)
         for (int Line = 1; Line <= 3; ++Line) Header(28, Line, 3);
-    EXPECT_EQ(S.Transmit.UdPbC_Sequence[28], 298);
+    EXPECT_EQ(S.Of<Link_State>().Transmit.UdPbC_Sequence[28], 298);
     EXPECT_EQ(Header(28, 1, 3), Block("n:299,g:1-3-1"));
     EXPECT_EQ(Header(28, 2, 3), Block("n:300,g:2-3-1"));
     EXPECT_EQ(Header(28, 3, 3), Block("n:301,g:3-3-1"));
@@ -75,19 +78,19 @@ TEST_F(Tag_Block, Counters_Run_By_Port_And_Start_Over) {
 }
 
 TEST_F(Tag_Block, Stands_In_Front_Of_Every_Sentence_And_Faults_Act_On_The_Whole) {
-    S.IEC450_Enabled = S.UdPbC_Header_Enabled = S.Use_t_Tag = true;
-    S.t_Tag = "A";
+    S.Of<IEC450_State>().IEC450_Enabled = S.Of<IEC450_State>().UdPbC_Header_Enabled = S.Of<IEC450_State>().Use_t_Tag = true;
+    S.Of<IEC450_State>().t_Tag = "A";
     Use({18, 28});
     Open_Form(1);
     for (const int Port : {18, 28, 29, -5, 0}) {
-        S.Sensor_Table[1].Port = static_cast<std::int16_t>(Port);
+        S.Of<Link_State>().Sensor_Table[1].Port = static_cast<std::int16_t>(Port);
         Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", *Sim.frmPosition_Instance[1]); });
     }
     const std::string Framed = std::string("UdPbC\0", 6) + Block("t:A") + "$GPHDT*5A\r\n";
     EXPECT_EQ(Sent_On("UDP 255.255.255.255:60001"), Texts{Framed});
     EXPECT_EQ(Sent_On("UDP 255.255.255.255:60011"), Texts{Framed});
     Sim.Main->mnuOptionsFaultyChecksum.Checked = true;
-    S.Sensor_Table[1].Port = 18;
+    S.Of<Link_State>().Sensor_Table[1].Port = 18;
     Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", *Sim.frmPosition_Instance[1]); });
     EXPECT_EQ(World.Sent.back().second, std::string("UdPbC\0", 6) + Block("t:A") + "$GPHDT*5F\r\n");
     EXPECT_EQ(World.Sent.size(), 3u);
@@ -95,9 +98,9 @@ TEST_F(Tag_Block, Stands_In_Front_Of_Every_Sentence_And_Faults_Act_On_The_Whole)
 }
 
 TEST_F(Tag_Block, The_Dialog) {
-    S.IEC450_Enabled = true;
-    S.Use_g_Tag = true;
-    S.d2_Tag = "Mine";
+    S.Of<IEC450_State>().IEC450_Enabled = true;
+    S.Of<IEC450_State>().Use_g_Tag = true;
+    S.Of<IEC450_State>().d2_Tag = "Mine";
     Click(Sim.Main->mnuOptionIEC450);
     ASSERT_TRUE(Sim.IEC61162);
     frmIEC61162& F = *Sim.IEC61162;
@@ -132,12 +135,12 @@ TEST_F(Tag_Block, The_Dialog) {
     Click(*F.chkIEC61162[0]);
     Click(F.cmdCancel);
     EXPECT_FALSE(Sim.IEC61162);
-    EXPECT_TRUE(S.IEC450_Enabled);
-    EXPECT_FALSE(S.Use_s_Tag);
-    EXPECT_EQ(S.s_Tag, "");
+    EXPECT_TRUE(S.Of<IEC450_State>().IEC450_Enabled);
+    EXPECT_FALSE(S.Of<IEC450_State>().Use_s_Tag);
+    EXPECT_EQ(S.Of<IEC450_State>().s_Tag, "");
 
     for (const bool On : {true, false}) {
-        S.IEC450_Enabled = !On;
+        S.Of<IEC450_State>().IEC450_Enabled = !On;
         Click(Sim.Main->mnuOptionIEC450);
         EXPECT_EQ(*Sim.Main->mnuOptionIEC450.Checked, false); // choosing the item is no toggle
         frmIEC61162& D = *Sim.IEC61162;
@@ -149,13 +152,13 @@ TEST_F(Tag_Block, The_Dialog) {
         EXPECT_EQ(Take_Boxes(),
                   Texts{On ? "IEC 61162-450 option enabled." : "IEC 61162-450 option disabled."});
         EXPECT_FALSE(Sim.IEC61162);
-        EXPECT_EQ(S.IEC450_Enabled, On);
+        EXPECT_EQ(S.Of<IEC450_State>().IEC450_Enabled, On);
         EXPECT_EQ(*Sim.Main->mnuOptionIEC450.Checked, On);
-        for (const bool Used : {S.UdPbC_Header_Enabled, S.Use_s_Tag, S.Use_d_Tag, S.Use_d2_Tag, S.Use_n_Tag,
-                                !S.Use_g_Tag, S.Use_c_Tag, S.Use_t_Tag})
+        for (const bool Used : {S.Of<IEC450_State>().UdPbC_Header_Enabled, S.Of<IEC450_State>().Use_s_Tag, S.Of<IEC450_State>().Use_d_Tag, S.Of<IEC450_State>().Use_d2_Tag, S.Of<IEC450_State>().Use_n_Tag,
+                                !S.Of<IEC450_State>().Use_g_Tag, S.Of<IEC450_State>().Use_c_Tag, S.Of<IEC450_State>().Use_t_Tag})
             EXPECT_EQ(Used, On);
-        EXPECT_EQ(S.s_Tag, On ? "Source" : "Other");
-        EXPECT_EQ(S.d_Tag + S.d2_Tag + S.t_Tag, "Listener 1MineType your text string here");
+        EXPECT_EQ(S.Of<IEC450_State>().s_Tag, On ? "Source" : "Other");
+        EXPECT_EQ(S.Of<IEC450_State>().d_Tag + S.Of<IEC450_State>().d2_Tag + S.Of<IEC450_State>().t_Tag, "Listener 1MineType your text string here");
         Sim.Main->mnuOptionIEC450.Checked = false;
     }
 }

@@ -1,5 +1,5 @@
-#include "ownship/angles.hpp"
-#include "ownship/geodetic_constants.hpp"
+#include "ownship/geodesy/angles.hpp"
+#include "ownship/geodesy/geodetic_constants.hpp"
 
 #include <gtest/gtest.h>
 

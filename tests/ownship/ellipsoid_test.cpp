@@ -1,5 +1,5 @@
-#include "ownship/ellipsoid.hpp"
-#include "ownship/geodetic_constants.hpp"
+#include "ownship/geodesy/ellipsoid.hpp"
+#include "ownship/geodesy/geodetic_constants.hpp"
 #include "tests/ownship/golden_rows.hpp"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "ownship/format_position.hpp"
+#include "ownship/geodesy/format_position.hpp"
 
 #include <gtest/gtest.h>
 

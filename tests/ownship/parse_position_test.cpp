@@ -1,5 +1,5 @@
-#include "ownship/format_position.hpp"
-#include "ownship/parse_position.hpp"
+#include "ownship/geodesy/format_position.hpp"
+#include "ownship/geodesy/parse_position.hpp"
 
 #include <gtest/gtest.h>
 

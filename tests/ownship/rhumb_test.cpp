@@ -1,5 +1,5 @@
-#include "ownship/geodetic_constants.hpp"
-#include "ownship/rhumb.hpp"
+#include "ownship/geodesy/geodetic_constants.hpp"
+#include "ownship/geodesy/rhumb.hpp"
 #include "tests/ownship/golden_rows.hpp"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "sensors/frm_echosounder.hpp"
-#include "sensors/frm_gyro.hpp"
-#include "sensors/frm_log.hpp"
-#include "sensors/frm_wind.hpp"
+#include "sensors/echosounder/frm_echosounder.hpp"
+#include "sensors/gyro/frm_gyro.hpp"
+#include "sensors/log/frm_log.hpp"
+#include "sensors/wind/frm_wind.hpp"
 #include "tests/support/virtual_simulator.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <cstdint>
 #include <initializer_list>
@@ -24,9 +26,9 @@ struct Sensor_Bench : Virtual_Simulator {
 
     explicit Sensor_Bench(const std::string& Mode = "Sensor") : Virtual_Simulator(0) {
         Load_Default_Data(S);
-        S.Mode = Mode;
+        S.Of<Shell_State>().Mode = Mode;
         for (int Link = 0; Link < 8; ++Link)
-            S.Sensor_Table[form_index::Gyro_1 + Link].Port = static_cast<std::int16_t>(18 + Link);
+            S.Of<Link_State>().Sensor_Table[form_index::Gyro_1 + Link].Port = static_cast<std::int16_t>(18 + Link);
         Use({18, 19, 20, 21, 22, 23, 24, 25});
         Sim.On_Sent.push_back([this](std::string_view Text, int Port) {
             EXPECT_TRUE(Text.ends_with("\r\n")) << Text;
@@ -49,7 +51,7 @@ struct Sensor_Bench : Virtual_Simulator {
     template <class Window>
     Window& Open(int First, int Instance, std::shared_ptr<Sensor_Form> (*Load)(Simulator&),
                  Per_Instance<std::shared_ptr<Window>>& Places) {
-        S.Open_Form_Index = static_cast<std::int16_t>(First + Instance - 1);
+        S.Of<Shell_State>().Open_Form_Index = static_cast<std::int16_t>(First + Instance - 1);
         Sim.Windows.Event([&] { Sim.Windows.Show(Load(Sim)); });
         return *Places[Instance];
     }

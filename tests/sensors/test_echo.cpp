@@ -1,6 +1,9 @@
 // The echo sounder: its depth, its offset, its noise and what it sends.
 
 #include "sensor_bench.hpp"
+#include "sensors/echosounder/echo_state.hpp"
+#include "shell/state/iec450_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -20,8 +23,8 @@ TEST(Echosounder, Sends_Feet_Metres_And_No_Fathoms) {
     Bench.Type(W.txtTalker, "yx");
     Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
     EXPECT_EQ(Bench.Tick(W.timer_DBT), "$YXDBT,32.81,f,10.0,M,,F");
-    EXPECT_EQ(Bench.S.Echo_Talker[1], "YX");
-    Bench.S.IEC450_Enabled = Bench.S.Use_n_Tag = true;
+    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Talker[1], "YX");
+    Bench.S.Of<IEC450_State>().IEC450_Enabled = Bench.S.Of<IEC450_State>().Use_n_Tag = true;
     EXPECT_EQ(Bench.Tick(W.timer_DPT), "\\" + Framed("n:1").substr(1) + "\\$YXDPT,10.0,0.0,400.0");
 }
 
@@ -42,7 +45,7 @@ TEST(Echosounder, Typed_Depths_Outlive_The_Bar_And_Stay_Numbers) {
                                  {"400", 400, "400.0", 4000}}) {
         Bench.Type(W.txtDepth, T.Text);
         EXPECT_EQ(W.Depth_Value, T.Depth_m) << T.Text;
-        EXPECT_EQ(Bench.S.Echo_Depth, T.Depth_m) << T.Text;
+        EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, T.Depth_m) << T.Text;
         EXPECT_EQ(W.scrDepth.Value(), T.Bar) << T.Text;
         EXPECT_EQ(*W.lblDepth.Caption, T.Shown) << T.Text;
         EXPECT_EQ(W.txtDepth.Text(), T.Shown) << T.Text;
@@ -52,29 +55,29 @@ TEST(Echosounder, Typed_Depths_Outlive_The_Bar_And_Stay_Numbers) {
     for (const float Number : {W.DBT_Record.Depth_Metres, W.DBT_Record.Depth_Feet, W.DPT_Record.Depth})
         EXPECT_TRUE(std::isfinite(Number));
     W.scrDepth.Set_Value(81);
-    EXPECT_EQ(Bench.S.Echo_Depth, 8.1F);
+    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 8.1F);
     EXPECT_EQ(W.txtDepth.Text(), "8.1");
     EXPECT_TRUE(Bench.Take_Boxes().empty());
 }
 
 TEST(Echosounder, Both_Start_From_The_Kept_Depth_And_Only_The_First_Writes_It) {
     Sensor_Bench Bench;
-    Bench.S.Echo_Depth = 512.25F;
+    Bench.S.Of<Echo_State>().Echo_Depth = 512.25F;
     frmEchosounder& First = Bench.Open_Echo(1);
     frmEchosounder& Second = Bench.Open_Echo(2);
-    EXPECT_EQ(Bench.S.Echo_Depth, 512.25F) << "showing it has changed it";
+    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 512.25F) << "showing it has changed it";
     EXPECT_EQ(First.scrDepth.Value(), 4000);
     EXPECT_EQ(Second.Depth_Value, 512.25F);
     Second.scrDepth.Set_Value(70);
     EXPECT_EQ(Second.Depth_Value, 7);
-    EXPECT_EQ(Bench.S.Echo_Depth, 512.25F);
+    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 512.25F);
     First.scrDepth.Set_Value(90);
-    EXPECT_EQ(Bench.S.Echo_Depth, 9);
+    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 9);
     EXPECT_EQ(Bench.Tick(Second.timer_DPT), Framed("SDDPT,7.0,0.0,400.0"));
     EXPECT_EQ(Bench.Sent[0].Port, 23);
 
     Bench.Close(First);
-    Bench.S.Echo_Depth = -3;
+    Bench.S.Of<Echo_State>().Echo_Depth = -3;
     EXPECT_EQ(Bench.Tick(Bench.Open_Echo(1).timer_DPT), Framed("SDDPT,0.0,0.0,400.0"));
 }
 
@@ -105,8 +108,8 @@ TEST(Echosounder, Offset_Is_Read_As_It_Is_Typed_And_Written_Back_On_Leaving) {
 
 TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
     Sensor_Bench Bench;
-    Bench.S.Echo_Noise_Enabled[2] = true;
-    Bench.S.Echo_Noise_Level[2] = 8;
+    Bench.S.Of<Echo_State>().Echo_Noise_Enabled[2] = true;
+    Bench.S.Of<Echo_State>().Echo_Noise_Level[2] = 8;
     frmEchosounder& W = Bench.Open_Echo(2);
     EXPECT_TRUE(W.chkNoise.Value());
     EXPECT_EQ(W.cmbNoise.Text(), "8");
@@ -133,8 +136,8 @@ TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
 
     Bench.Click(W.chkNoise);
     W.cmbNoise.Set_List_Index(20);
-    EXPECT_FALSE(Bench.S.Echo_Noise_Enabled[2]);
-    EXPECT_EQ(Bench.S.Echo_Noise_Level[2], 20);
+    EXPECT_FALSE(Bench.S.Of<Echo_State>().Echo_Noise_Enabled[2]);
+    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Noise_Level[2], 20);
     EXPECT_EQ(W.Depth_Value, 1);
     EXPECT_EQ(Bench.Tick(W.timer_DPT), Framed("SDDPT,1.0,0.0,400.0"));
 }
@@ -142,10 +145,10 @@ TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
 TEST(Echosounder, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     Sensor_Bench Bench;
     Simulator_State& S = Bench.S;
-    S.DBT_Enabled[1] = S.DPT_Enabled[1] = true;
-    S.DBT_Interval[1] = 1;
-    S.DPT_Interval[1] = 77;     // no such entry
-    S.Echo_Noise_Level[1] = -4; // neither
+    S.Of<Echo_State>().DBT_Enabled[1] = S.Of<Echo_State>().DPT_Enabled[1] = true;
+    S.Of<Echo_State>().DBT_Interval[1] = 1;
+    S.Of<Echo_State>().DPT_Interval[1] = 77;     // no such entry
+    S.Of<Echo_State>().Echo_Noise_Level[1] = -4; // neither
     const std::int64_t Before_us = Bench.Now_us();
     frmEchosounder& W = Bench.Open_Echo();
     EXPECT_GT(Bench.Now_us() - Before_us, 150'000) << "the second sentence starts at once";
@@ -162,7 +165,7 @@ TEST(Echosounder, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     Bench.Sent.clear();
     Bench.Run_s(10);
     EXPECT_EQ(Bench.Sent.size(), 30U);
-    S.Mode = "Sensor"; // the modes differ in nothing here
+    S.Of<Shell_State>().Mode = "Sensor"; // the modes differ in nothing here
     EXPECT_EQ(Bench.Open_Echo(2).cmbDBTInterval.Text(), " 1 sec");
 }
 

@@ -1,22 +1,26 @@
 // The wind gauge: what it sends, its true wind, units, noise and what it keeps.
 
 #include "sensor_bench.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "sensors/wind/wind_state.hpp"
 
 namespace brinewright {
 namespace {
 
 void Set_Wind(Sensor_Bench& Bench, int k, float Speed, float From_deg) {
-    Bench.S.Wind_Speed[k] = Speed;
-    Bench.S.Wind_Direction[k] = From_deg;
+    Bench.S.Of<Wind_State>().Wind_Speed[k] = Speed;
+    Bench.S.Of<Wind_State>().Wind_Direction[k] = From_deg;
 }
 
 TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
     Sensor_Bench Bench;
     Simulator_State& S = Bench.S;
     for (const int k : {1, 2}) Set_Wind(Bench, k, 10, 0);
-    S.Log_Speed[1] = 5;
-    S.Gyro_HDG[2] = 180;
-    S.Wind_Relative_Ref[1] = S.Wind_Relative_Ref[2] = true;
+    S.Of<Log_State>().Log_Speed[1] = 5;
+    S.Of<Gyro_State>().Gyro_HDG[2] = 180;
+    S.Of<Wind_State>().Wind_Relative_Ref[1] = S.Of<Wind_State>().Wind_Relative_Ref[2] = true;
     frmWind& First = Bench.Open_Wind(1);
     frmWind& Second = Bench.Open_Wind(2);
     EXPECT_EQ(Bench.Tick(First.timer_MWV), Framed("WIMWV,000.0,R,015.0,N,A"));
@@ -30,12 +34,12 @@ TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
     EXPECT_EQ(*Second.lblRelativeWind.Caption, "log 2 and gyro 2");
 
     // The label follows the ship by itself, in both modes.
-    S.Log_Speed[1] = 7;
+    S.Of<Log_State>().Log_Speed[1] = 7;
     Bench.Run_s(1.5);
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "15");
     Bench.Run_s(1);
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "17");
-    S.Log_Speed[1] = -30; // faster astern than the wind blows from ahead
+    S.Of<Log_State>().Log_Speed[1] = -30; // faster astern than the wind blows from ahead
     EXPECT_EQ(Bench.Tick(First.timer_MWV), Framed("WIMWV,000.0,R,-020.0,N,A"));
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "-20");
     EXPECT_EQ(*First.lblWindSpeed.Caption, "-20.0");
@@ -44,8 +48,8 @@ TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
 TEST(Wind_Gauge, Sends_True_Wind_Status_And_Talker) {
     Sensor_Bench Bench;
     Set_Wind(Bench, 1, 12.34F, 270.5F);
-    Bench.S.Gyro_HDG[1] = 33;
-    Bench.S.Log_Speed[1] = 20;
+    Bench.S.Of<Gyro_State>().Gyro_HDG[1] = 33;
+    Bench.S.Of<Log_State>().Log_Speed[1] = 20;
     frmWind& W = Bench.Open_Wind();
     EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,270.5,T,012.34,N,A"));
     EXPECT_EQ(*W.lblWindAngle.Caption, "270.5");
@@ -55,10 +59,10 @@ TEST(Wind_Gauge, Sends_True_Wind_Status_And_Talker) {
     EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("XXMWV,270.5,T,012.34,N,V"));
     Bench.Click(W.chkInvalid);
     Bench.Click(*W.optRef.Buttons[0]);
-    EXPECT_TRUE(Bench.S.Wind_Relative_Ref[1]);
+    EXPECT_TRUE(Bench.S.Of<Wind_State>().Wind_Relative_Ref[1]);
     EXPECT_NE(Bench.Tick(W.timer_MWV).find(",R,"), std::string::npos);
     Bench.Click(*W.optRef.Buttons[1]);
-    EXPECT_FALSE(Bench.S.Wind_Relative_Ref[1]);
+    EXPECT_FALSE(Bench.S.Of<Wind_State>().Wind_Relative_Ref[1]);
     Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
     EXPECT_EQ(Bench.Tick(W.timer_MWV), "$XXMWV,270.5,T,012.34,N,A");
     EXPECT_EQ(Bench.Tick(W.timer_MWD), "$XXMWD,270.5,T,270.5,M,012.34,N,006.35,M");
@@ -67,9 +71,9 @@ TEST(Wind_Gauge, Sends_True_Wind_Status_And_Talker) {
 TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
     Sensor_Bench Bench;
     Set_Wind(Bench, 1, 3600, 90); // enough for every digit of the factors to show
-    Bench.S.Gyro_HDG[1] = 90;
-    Bench.S.Log_Speed[1] = 10;
-    Bench.S.Wind_Relative_Ref[1] = true;
+    Bench.S.Of<Gyro_State>().Gyro_HDG[1] = 90;
+    Bench.S.Of<Log_State>().Log_Speed[1] = 10;
+    Bench.S.Of<Wind_State>().Wind_Relative_Ref[1] = true;
     frmWind& W = Bench.Open_Wind();
     EXPECT_EQ(Entries(W.cmbUnits), (Texts{"knots", "m/s", "km/h"}));
     // 3600 m/s are 6997.840 knots; 3600 km/h are 1000 m/s, 1943.844 knots. The log adds 10 knots.
@@ -88,13 +92,13 @@ TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
         EXPECT_EQ(*W.lblRelativeSpeed.Caption, Row.Shown) << "worked out at once";
         EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed(std::string("WIMWD,090.0,T,090.0,M,") + Row.MWD));
         EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed(std::string("WIMWV,000.0,R,") + Row.MWV + ",A"));
-        EXPECT_EQ(Bench.S.Wind_Speed[1], 3600);
+        EXPECT_EQ(Bench.S.Of<Wind_State>().Wind_Speed[1], 3600);
     }
 }
 
 TEST(Wind_Gauge, Magnetic_Direction_Wraps_And_The_Variation_Shows) {
     Sensor_Bench Bench;
-    Bench.S.Magnetic_Variation = -2.5F;
+    Bench.S.Of<Navdata_State>().Magnetic_Variation = -2.5F;
     frmWind& W = Bench.Open_Wind();
     EXPECT_EQ(*W.lblMagDev.Caption, "-2.5 deg");
     const struct {
@@ -107,7 +111,7 @@ TEST(Wind_Gauge, Magnetic_Direction_Wraps_And_The_Variation_Shows) {
                 {20.25F, 0, "020.25,T,020.25,M", " 0 deg"}};
     for (const auto& Row : Rows) {
         Set_Wind(Bench, 1, 0, Row.From_deg);
-        Bench.S.Magnetic_Variation = Row.Variation_deg;
+        Bench.S.Of<Navdata_State>().Magnetic_Variation = Row.Variation_deg;
         EXPECT_EQ(Bench.Tick(W.timer_MWD),
                   Framed(std::string("WIMWD,") + Row.Directions + ",000.0,N,000.0,M"));
         EXPECT_EQ(*W.lblMagDev.Caption, Row.Shown);
@@ -117,9 +121,9 @@ TEST(Wind_Gauge, Magnetic_Direction_Wraps_And_The_Variation_Shows) {
 TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
     Sensor_Bench Bench;
     Simulator_State& S = Bench.S;
-    S.Wind_Noise_Enabled[2] = true;
-    S.Wind_Noise_Level[2][0] = 10;
-    S.Wind_Noise_Level[2][1] = 4;
+    S.Of<Wind_State>().Wind_Noise_Enabled[2] = true;
+    S.Of<Wind_State>().Wind_Noise_Level[2][0] = 10;
+    S.Of<Wind_State>().Wind_Noise_Level[2][1] = 4;
     Set_Wind(Bench, 2, 1, 3);
     frmWind& W = Bench.Open_Wind(2);
     EXPECT_EQ(W.cmbNoise[0].Text(), "10");
@@ -140,13 +144,13 @@ TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
     EXPECT_EQ(Least, 0);
     EXPECT_TRUE(Most <= 5 && Most > 4.8) << Most;
     EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed("WIMWD,003.0,T,003.0,M,001.0,N,000.51,M"));
-    EXPECT_EQ(S.Wind_Direction[2], 3);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Direction[2], 3);
 
     W.cmbNoise[1].Set_List_Index(20);
     Bench.Click(W.chkNoise);
-    EXPECT_EQ(S.Wind_Noise_Level[2][1], 20);
-    EXPECT_EQ(S.Wind_Noise_Level[2][0], 10);
-    EXPECT_FALSE(S.Wind_Noise_Enabled[2]);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Noise_Level[2][1], 20);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Noise_Level[2][0], 10);
+    EXPECT_FALSE(S.Of<Wind_State>().Wind_Noise_Enabled[2]);
     EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,003.0,T,001.0,N,A"));
 }
 
@@ -161,7 +165,7 @@ struct Typed_Wind {
 TEST(Wind_Gauge, Bars_And_Boxes_Set_The_True_Wind) {
     Sensor_Bench Bench;
     Simulator_State& S = Bench.S;
-    S.Wind_Direction[1] = 359.97F; // its bar stands at 0
+    S.Of<Wind_State>().Wind_Direction[1] = 359.97F; // its bar stands at 0
     frmWind& W = Bench.Open_Wind();
     for (const Typed_Wind& T : {Typed_Wind{"0", 0, "000.0", 0},
                                 {"123.4", 123.4F, "123.4", 1234},
@@ -178,7 +182,7 @@ TEST(Wind_Gauge, Bars_And_Boxes_Set_The_True_Wind) {
         EXPECT_EQ(Bench.Take_Boxes(),
                   T.Refused ? Texts{"Wind direction must be 0.0 to 360.0 degrees. Try again!"} : Texts{})
             << T.Text;
-        EXPECT_EQ(S.Wind_Direction[1], T.Value) << T.Text;
+        EXPECT_EQ(S.Of<Wind_State>().Wind_Direction[1], T.Value) << T.Text;
         EXPECT_EQ(W.scrHDG.Value(), T.Bar) << T.Text;
         EXPECT_EQ(W.txtHDG.Text(), T.Shown) << T.Text;
     }
@@ -187,24 +191,24 @@ TEST(Wind_Gauge, Bars_And_Boxes_Set_The_True_Wind) {
                                 {"64", 64, "64.0", 400},
                                 {"calm", 0, "0.0", 0}}) {
         Bench.Type(W.txtSpeed, T.Text);
-        EXPECT_EQ(S.Wind_Speed[1], T.Value) << T.Text;
+        EXPECT_EQ(S.Of<Wind_State>().Wind_Speed[1], T.Value) << T.Text;
         EXPECT_EQ(W.scrSpeed.Value(), T.Bar) << T.Text;
         EXPECT_EQ(W.txtSpeed.Text(), T.Shown) << T.Text;
         EXPECT_EQ(*W.lblSpeed.Caption, T.Shown) << T.Text;
     }
     Bench.Set(W.scrHDG, std::int64_t{-1});
-    EXPECT_EQ(S.Wind_Direction[1], 359.9F);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Direction[1], 359.9F);
     Bench.Set(W.scrHDG, std::int64_t{3600});
-    EXPECT_EQ(S.Wind_Direction[1], 0);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Direction[1], 0);
     W.scrSpeed.Set_Value(255);
-    EXPECT_EQ(S.Wind_Speed[1], 25.5F);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Speed[1], 25.5F);
     EXPECT_EQ(*W.lblRelativeSpeed.Caption, "26") << "worked out at once";
     Bench.Set(W.scrHDG, std::int64_t{900});
     EXPECT_EQ(*W.lblRelativeDir.Caption, "090") << "worked out at once";
-    EXPECT_EQ(S.Wind_Speed[2], 0);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Speed[2], 0);
 
-    S.Gyro_HDG[1] = 90; // a wind from right ahead
-    S.Log_Speed[1] = 3e38F;
+    S.Of<Gyro_State>().Gyro_HDG[1] = 90; // a wind from right ahead
+    S.Of<Log_State>().Log_Speed[1] = 3e38F;
     Bench.Type(W.txtSpeed, "1e300");
     for (const char* Unit : {"knots", "m/s", "km/h"}) {
         Bench.Type(W.cmbUnits, Unit);
@@ -238,11 +242,11 @@ TEST(Wind_Gauge, Directions_Outside_The_Circle_Are_Shown_And_Sent_Within_It) {
         const std::string Sent = Row.Sent;
         EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV," + Sent + ",T,010.0,N,A"));
         EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed("WIMWD," + Sent + ",T," + Sent + ",M,010.0,N,005.14,M"));
-        Bench.S.Log_Speed[1] = 5;
-        Bench.S.Gyro_HDG[1] = W.MWD_Record.Dir_True; // right ahead
+        Bench.S.Of<Log_State>().Log_Speed[1] = 5;
+        Bench.S.Of<Gyro_State>().Gyro_HDG[1] = W.MWD_Record.Dir_True; // right ahead
         Bench.Click(*W.optRef.Buttons[0]);
         EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,000.0,R,015.0,N,A"));
-        EXPECT_EQ(Bench.S.Wind_Direction[1], Row.Kept_deg);
+        EXPECT_EQ(Bench.S.Of<Wind_State>().Wind_Direction[1], Row.Kept_deg);
     }
 }
 
@@ -250,17 +254,17 @@ TEST(Wind_Gauge, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     Sensor_Bench Bench;
     Simulator_State& S = Bench.S;
     Set_Wind(Bench, 2, 55.55F, 359.97F);
-    S.Wind_Relative_Ref[2] = true;
-    S.MWV_Enabled[2] = S.MWD_Enabled[2] = true;
-    S.MWV_Interval[2] = 3;
-    S.MWD_Interval[2] = -1;        // no such entry
-    S.Wind_Noise_Level[2][0] = 21; // neither
+    S.Of<Wind_State>().Wind_Relative_Ref[2] = true;
+    S.Of<Wind_State>().MWV_Enabled[2] = S.Of<Wind_State>().MWD_Enabled[2] = true;
+    S.Of<Wind_State>().MWV_Interval[2] = 3;
+    S.Of<Wind_State>().MWD_Interval[2] = -1;        // no such entry
+    S.Of<Wind_State>().Wind_Noise_Level[2][0] = 21; // neither
     const std::int64_t Before_us = Bench.Now_us();
     frmWind& W = Bench.Open_Wind(2);
     EXPECT_GT(Bench.Now_us() - Before_us, 150'000) << "the second sentence starts at once";
     EXPECT_EQ(W.Tag, "10");
-    EXPECT_EQ(S.Wind_Speed[2], 55.55F) << "showing it has changed it";
-    EXPECT_EQ(S.Wind_Direction[2], 359.97F);
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Speed[2], 55.55F) << "showing it has changed it";
+    EXPECT_EQ(S.Of<Wind_State>().Wind_Direction[2], 359.97F);
     EXPECT_EQ(W.scrHDG.Value(), 0);
     EXPECT_EQ(W.scrSpeed.Value(), 400);
     EXPECT_EQ(W.optRef.Selected(), 0);

@@ -1,6 +1,6 @@
 // The relative wind: exact cases, the whole compass against a vector sum, places where geodesy ends.
 
-#include "sensors/relative_wind.hpp"
+#include "sensors/wind/relative_wind.hpp"
 
 #include <gtest/gtest.h>
 

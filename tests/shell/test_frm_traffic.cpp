@@ -1,7 +1,8 @@
-#include "shell/frm_traffic.hpp"
+#include "shell/monitors/traffic/frm_traffic.hpp"
 
-#include "shell/record_format.hpp"
+#include "shell/transmit/record_format.hpp"
 #include "tests/support/virtual_simulator.hpp"
+#include "shell/state/link_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -80,7 +81,7 @@ TEST_F(Traffic, Filters_By_Port_Type_And_Text) {
 
     // A link that comes into use, and one whose number has changed.
     Virtual_Simulator::Set_Up_Link(Sim.State, 19);
-    Sim.State.UDP_Port_Number[0] = 61000;
+    Sim.State.Of<Link_State>().UDP_Port_Number[0] = 61000;
     Init();
     Send(GGA, 19);
     Rebuild_Port_List(Sim, F());

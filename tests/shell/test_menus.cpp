@@ -1,5 +1,7 @@
 #include "ownship/ship/frm_ship.hpp"
 #include "tests/support/virtual_simulator.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -10,8 +12,8 @@ constexpr const char* Saved_Box = "Setup saved as /data/Brinewright.ini";
 struct Menus : testing::Test, Virtual_Simulator {
     void SetUp() override {
         Load_Default_Data(Setup);
-        Setup.Mode = "Sensor";
-        Setup.Comport_Count = 1;
+        Setup.Of<Shell_State>().Mode = "Sensor";
+        Setup.Of<Link_State>().Comport_Count = 1;
         Start(Setup);
     }
     frmMain& Main() { return *Sim.Main; }
@@ -103,13 +105,13 @@ TEST_F(Menus, Fault_Options_And_The_Start_Option_Tell_What_They_Do) {
         EXPECT_TRUE(*O.Item.Checked);
         EXPECT_EQ(Take_Boxes(), Texts{O.On});
         if (&O.Item == &Main().mnuSetupStartOption) {
-            EXPECT_TRUE(Sim.State.Start_With_Last_Navdata);
+            EXPECT_TRUE(Sim.State.Of<Shell_State>().Start_With_Last_Navdata);
         }
         Click(O.Item);
         EXPECT_FALSE(*O.Item.Checked);
         EXPECT_EQ(Take_Boxes(), O.Off ? Texts{O.Off} : Texts{});
     }
-    EXPECT_FALSE(Sim.State.Start_With_Last_Navdata);
+    EXPECT_FALSE(Sim.State.Of<Shell_State>().Start_With_Last_Navdata);
 }
 
 TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
@@ -119,12 +121,12 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     const std::weak_ptr<Form> Old = Sim.frmPosition_Instance[1];
     EXPECT_FALSE(*Sim.frmPosition_Instance[1]->lblShipControl.Visible);
     Click(Main().mnuMode_Sensor); // checked already: nothing at all
-    EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_EQ(Old.lock(), Sim.frmPosition_Instance[1]);
 
     Sim.frmPosition_Instance[1]->Set_Place(11, 12, 13, 14);
     Click(Main().mnuMode_Ship);
-    EXPECT_EQ(Sim.State.Mode, "Ship");
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
     EXPECT_TRUE(*Main().mnuMode_Ship.Checked);
     EXPECT_FALSE(*Main().mnuMode_Sensor.Checked);
     EXPECT_TRUE(Old.expired());
@@ -135,17 +137,17 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     }
     EXPECT_EQ(Sim.frmPosition_Instance[1]->Left, 11);
     EXPECT_EQ(Sim.Windows.Active_Form, static_cast<Form*>(Sim.Ship.get()));
-    EXPECT_EQ(Sim.State.Open_Form_Count, 0); // they stand again
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0); // they stand again
     EXPECT_TRUE(Sim.Monitor);
 
     // The list of kept windows is left as it is, also when it is full.
-    Sim.State.Open_Form_Count = 20;
-    Sim.State.Open_Form_List[20].Name = "the last";
+    Sim.State.Of<Shell_State>().Open_Form_Count = 20;
+    Sim.State.Of<Shell_State>().Open_Form_List[20].Name = "the last";
     Click(Main().mnuMode_Sensor);
     EXPECT_EQ(Take_Boxes(), Texts{});
-    EXPECT_EQ(Sim.State.Open_Form_Count, 20);
-    EXPECT_EQ(Sim.State.Open_Form_List[20].Name, "the last");
-    EXPECT_EQ(Sim.State.Mode, "Sensor");
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 20);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_List[20].Name, "the last");
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Sensor");
     for (const int I : {1, 2}) {
         ASSERT_TRUE(Sim.frmPosition_Instance[I]);
         EXPECT_FALSE(*Sim.frmPosition_Instance[I]->lblShipControl.Visible);
@@ -157,7 +159,7 @@ TEST_F(Menus, A_Second_Choice_Of_A_Window_Gives_It_The_Focus) {
     Open_Form(2);
     Click(*Main().mnuOpenForm(1));
     EXPECT_EQ(Sim.Windows.Active_Form, Sim.frmPosition_Instance[1].get());
-    EXPECT_EQ(Sim.State.Open_Form_Index, 1);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Index, 1);
     EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
     Open_Form(0); // a setup can name any window
     Open_Form(12);
@@ -172,7 +174,7 @@ TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
         Click(Main().mnuFileSave);
         EXPECT_EQ(Take_Boxes(), Texts{Saved_Box});
         EXPECT_EQ(Saved().Open_Form_Count, 2 * Save);
-        EXPECT_EQ(Sim.State.Open_Form_Count, 2 * Save);
+        EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 2 * Save);
     }
     const std::string Before = Disk.Content.at(Setup_Name);
     Click(Main().mnuFileSave);
@@ -196,11 +198,11 @@ TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
         EXPECT_EQ(Take_Boxes(), Texts{"Setup saved as /tmp/mine.ini"});
         EXPECT_EQ(Saved("/tmp/mine.ini").Open_Form_Count, 1);
         EXPECT_EQ(Saved("/tmp/mine.ini").Open_Form_List[1].Index, 2);
-        EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+        EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     }
     Click(Main().mnuFileSaveAs);
     Answer_File("");
-    EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_TRUE(Told.empty());
 
     Disk.Refuse_Writing = true;
@@ -225,7 +227,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     EXPECT_TRUE(Sim.frmPosition_Instance[1]);
 
     // A file that is not there changes nothing but the check of the start option.
-    Sim.State.Start_With_Last_Navdata = true;
+    Sim.State.Of<Shell_State>().Start_With_Last_Navdata = true;
     Click(Main().mnuFileOpen);
     Answer_File("/tmp/none.ini");
     EXPECT_EQ(Take_Boxes(), Texts{"File /tmp/none.ini do not exist."});
@@ -235,11 +237,11 @@ TEST_F(Menus, Open_Replaces_The_Session) {
 
     // Ports 1 to 10 are closed; without ports in the new setup the others stay as they are.
     Simulator_State Other = Setup;
-    Other.Mode = "Ship";
-    Other.Comport_Count = 0;
-    Other.Sensor_Table[1].Name = "As in the file";
-    Other.Open_Form_List[++Other.Open_Form_Count] = {"frmPosition", 2, 210, 220, 5230, 7240};
-    Other.Open_Form_List[++Other.Open_Form_Count] = {"frmShip", 0, 1, 2, 3, 4};
+    Other.Of<Shell_State>().Mode = "Ship";
+    Other.Of<Link_State>().Comport_Count = 0;
+    Other.Of<Link_State>().Sensor_Table[1].Name = "As in the file";
+    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmPosition", 2, 210, 220, 5230, 7240};
+    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmShip", 0, 1, 2, 3, 4};
     Disk.Content["/tmp/other.ini"] = Write_Setup(Other);
     const auto Before_us = Now_us();
     Click(Main().mnuFileOpen);
@@ -249,14 +251,14 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     EXPECT_FALSE(Sim.frmPosition_Instance[1]);
     ASSERT_TRUE(Sim.frmPosition_Instance[2]);
     EXPECT_EQ(Sim.frmPosition_Instance[2]->Top, 210);
-    EXPECT_EQ(Sim.State.Open_Form_Count, 0);
-    EXPECT_EQ(Sim.State.Mode, "Ship");
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
     EXPECT_TRUE(*Main().mnuMode_Ship.Checked);
     EXPECT_FALSE(*Main().mnuMode_Sensor.Checked);
-    EXPECT_EQ(Sim.State.Sensor_Table[1].Name, "As in the file");
+    EXPECT_EQ(Sim.State.Of<Link_State>().Sensor_Table[1].Name, "As in the file");
 
     // With ports they are brought to the new state; port 11 is not used any more and is let go.
-    Other.Comport_Count = 2;
+    Other.Of<Link_State>().Comport_Count = 2;
     Set_Up_Link(Other, 10);
     Disk.Content["/tmp/other.ini"] = Write_Setup(Other);
     World.Log.clear();
@@ -267,7 +269,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Disk.Content["/tmp/other.ini"] = "\"REM UTCOffset\"\r\n99999\r\n";
     Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
     EXPECT_EQ(Take_Boxes(), Texts{"Overflow  Default data loaded"});
-    EXPECT_EQ(Sim.State.Mode, "Ship");
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
     Stop();
     EXPECT_EQ(Saved().TCP_Port, 8040);
 }

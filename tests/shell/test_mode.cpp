@@ -1,7 +1,14 @@
 #include "ownship/ship/frm_ship.hpp"
 #include "sentences/number_pattern.hpp"
-#include "shell/sensor_form.hpp"
+#include "shell/kit/sensor_form.hpp"
 #include "tests/support/virtual_simulator.hpp"
+#include "gnss/gnss_state.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "sensors/wind/wind_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -12,16 +19,16 @@ constexpr int Windows = 10;
 struct Modes : testing::Test, Virtual_Simulator {
     void SetUp() override { Load_Default_Data(Setup); }
     void Begin(const std::string& Mode, std::initializer_list<std::int16_t> Indices) {
-        Setup.Mode = Mode;
-        Setup.Comport_Count = 1;
+        Setup.Of<Shell_State>().Mode = Mode;
+        Setup.Of<Link_State>().Comport_Count = 1;
         for (const std::int16_t Index : Indices)
-            Setup.Open_Form_List[++Setup.Open_Form_Count] = {
+            Setup.Of<Shell_State>().Open_Form_List[++Setup.Of<Shell_State>().Open_Form_Count] = {
                 Index == 0 ? "frmShip" : "frmX", Index, 100.0F + Index, 200.0F + Index, 4000, 5000};
         Start(Setup);
     }
     void Send_On_TCP(std::initializer_list<int> Indices) {
         Set_Up_Link(Setup, 17);
-        for (const int Index : Indices) Setup.Sensor_Table[Index].Port = 17;
+        for (const int Index : Indices) Setup.Of<Link_State>().Sensor_Table[Index].Port = 17;
     }
     Sensor_Form& Window(int Index) { return *Sensor_Window(Sim, static_cast<std::int16_t>(Index)); }
     std::vector<std::string> Open_Names() const {
@@ -37,7 +44,7 @@ TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmShip", "frmGyro[1]", "frmLog[1]"}));
     EXPECT_EQ(Sim.Ship->Left, 200); // its place in the list counts, wherever in it it stands
     EXPECT_EQ(Window(3).Left, 203);
-    EXPECT_EQ(Sim.State.Open_Form_Count, 0);
+    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_NEAR(static_cast<double>(Now_us()), 2 * 350'000, 2000);
     EXPECT_TRUE(*Sim.Main->mnuShip.Checked);
     EXPECT_TRUE(*Sim.Main->mnuShip.Enabled);
@@ -48,13 +55,13 @@ TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
     Stop();
     EXPECT_EQ(Take_Boxes(), Texts{});
     const Simulator_State Kept = Saved();
-    ASSERT_EQ(Kept.Open_Form_Count, 3);
+    ASSERT_EQ(Kept.Of<Shell_State>().Open_Form_Count, 3);
     // In the order in which they lay upon each other: the log was opened last, the ship before it.
-    EXPECT_EQ(Kept.Open_Form_List[2].Name, "frmShip");
-    EXPECT_EQ(Kept.Open_Form_List[2].Index, 0);
-    EXPECT_EQ(Kept.Open_Form_List[2].Left, 777);
-    EXPECT_EQ(Kept.Open_Form_List[3].Name, "frmLog");
-    EXPECT_EQ(Kept.Mode, "Ship");
+    EXPECT_EQ(Kept.Of<Shell_State>().Open_Form_List[2].Name, "frmShip");
+    EXPECT_EQ(Kept.Of<Shell_State>().Open_Form_List[2].Index, 0);
+    EXPECT_EQ(Kept.Of<Shell_State>().Open_Form_List[2].Left, 777);
+    EXPECT_EQ(Kept.Of<Shell_State>().Open_Form_List[3].Name, "frmLog");
+    EXPECT_EQ(Kept.Of<Shell_State>().Mode, "Ship");
 }
 
 TEST_F(Modes, In_Sensor_Mode_There_Is_No_Ship_Window) {
@@ -125,9 +132,9 @@ TEST_F(Modes, Changing_Back_And_Forth_Keeps_All_Windows_And_Places) {
 TEST_F(Modes, Opening_A_Setup_Exchanges_The_Ship_Window_Too) {
     Begin("Ship", {0, 3});
     Simulator_State Other = Setup;
-    Other.Open_Form_Count = 0;
-    Other.Mode = "Sensor";
-    Other.Open_Form_List[++Other.Open_Form_Count] = {"frmWind", 9, 1, 2, 3, 4};
+    Other.Of<Shell_State>().Open_Form_Count = 0;
+    Other.Of<Shell_State>().Mode = "Sensor";
+    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmWind", 9, 1, 2, 3, 4};
     Disk.Content["/other.ini"] = Write_Setup(Other);
     Click(Sim.Main->mnuFileOpen);
     Answer_File("/other.ini");
@@ -157,11 +164,11 @@ double Last_Value(const Virtual_Simulator& V, const std::string& Type, int Numbe
 
 TEST_F(Modes, The_First_Sentence_Tells_Where_The_Ship_Is_Even_When_It_Is_Frozen) {
     Send_On_TCP({1, 3});
-    Setup.Start_With_Last_Navdata = Setup.Freeze_Active = true;
-    Setup.Nav_Lat = 54;
-    Setup.Nav_HDG = 77;
-    Setup.GLL_Enabled[1] = Setup.HDT_Enabled[1] = true;
-    Setup.HDT_Interval[1] = 0; // 0.1 s
+    Setup.Of<Shell_State>().Start_With_Last_Navdata = Setup.Of<Shell_State>().Freeze_Active = true;
+    Setup.Of<Navdata_State>().Nav_Lat = 54;
+    Setup.Of<Navdata_State>().Nav_HDG = 77;
+    Setup.Of<GNSS_State>().GLL_Enabled[1] = Setup.Of<Gyro_State>().HDT_Enabled[1] = true;
+    Setup.Of<Gyro_State>().HDT_Interval[1] = 0; // 0.1 s
     Begin("Ship", {0, 1, 3});
     Run_s(0.5);
     EXPECT_EQ(Last_Value(*this, "HDT", 1), 77);
@@ -171,7 +178,7 @@ TEST_F(Modes, The_First_Sentence_Tells_Where_The_Ship_Is_Even_When_It_Is_Frozen)
 
 TEST_F(Modes, A_Pause_Ends_With_The_Window_That_Could_End_It) {
     Send_On_TCP({3});
-    Setup.HDT_Enabled[1] = true;
+    Setup.Of<Gyro_State>().HDT_Enabled[1] = true;
     Begin("Ship", {0, 3});
     Click(Sim.Ship->cmdPause);
     Run_s(3);
@@ -183,15 +190,15 @@ TEST_F(Modes, A_Pause_Ends_With_The_Window_That_Could_End_It) {
 
 TEST_F(Modes, One_Ship_Drives_All_Sensors) {
     Send_On_TCP({1, 3, 5, 9});
-    Setup.VTG_Enabled[1] = Setup.HDT_Enabled[1] = Setup.ROT_Enabled[1] = Setup.VHW_Enabled[1] = true;
-    Setup.GLL_Enabled[1] = Setup.MWV_Enabled[1] = true;
-    Setup.Start_With_Last_Navdata = true;
-    Setup.Nav_SOG = 12;
-    Setup.Nav_HDG = Setup.Nav_COG = 350;
-    Setup.Nav_Rudder = 6;
-    Setup.Nav_Lat = 10;
-    Setup.Nav_Lon = 20;
-    Setup.Wind_Relative_Ref[1] = true;
+    Setup.Of<GNSS_State>().VTG_Enabled[1] = Setup.Of<Gyro_State>().HDT_Enabled[1] = Setup.Of<Gyro_State>().ROT_Enabled[1] = Setup.Of<Log_State>().VHW_Enabled[1] = true;
+    Setup.Of<GNSS_State>().GLL_Enabled[1] = Setup.Of<Wind_State>().MWV_Enabled[1] = true;
+    Setup.Of<Shell_State>().Start_With_Last_Navdata = true;
+    Setup.Of<Navdata_State>().Nav_SOG = 12;
+    Setup.Of<Navdata_State>().Nav_HDG = Setup.Of<Navdata_State>().Nav_COG = 350;
+    Setup.Of<Navdata_State>().Nav_Rudder = 6;
+    Setup.Of<Navdata_State>().Nav_Lat = 10;
+    Setup.Of<Navdata_State>().Nav_Lon = 20;
+    Setup.Of<Wind_State>().Wind_Relative_Ref[1] = true;
     Begin("Ship", {0, 1, 3, 5, 9});
     Run_s(300.5); // 6 degrees a minute: 30 degrees on
     EXPECT_NEAR(Last_Value(*this, "HDT", 1), 20, 0.21);
@@ -202,8 +209,8 @@ TEST_F(Modes, One_Ship_Drives_All_Sensors) {
     EXPECT_EQ(Last_Value(*this, "VHW", 5), 12);
     EXPECT_EQ(Last_Value(*this, "MWV", 3), 12); // no wind: what is felt is the ship's own speed
     // About a nautical mile to the north, and hardly to the east: the mean course is 005.
-    EXPECT_NEAR(Sim.State.Nav_Lat, 10 + 0.985 / 60, 0.01 / 60);
-    EXPECT_EQ(Sim.State.GNSS_Lat[1], Sim.State.Nav_Lat);
+    EXPECT_NEAR(Sim.State.Of<Navdata_State>().Nav_Lat, 10 + 0.985 / 60, 0.01 / 60);
+    EXPECT_EQ(Sim.State.Of<GNSS_State>().GNSS_Lat[1], Sim.State.Of<Navdata_State>().Nav_Lat);
     EXPECT_EQ(Take_Boxes(), Texts{});
 }
 

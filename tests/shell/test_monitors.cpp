@@ -1,4 +1,6 @@
 #include "tests/support/virtual_simulator.hpp"
+#include "shell/state/iec450_state.hpp"
+#include "shell/state/link_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -12,8 +14,8 @@ std::string Sentences(std::initializer_list<int> Numbers) {
 TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
     Virtual_Simulator V;
     V.Use({2, 16, 17, 18, 28});
-    V.Sim.State.Port_Table[5].Enabled = true; // ticked, yet not there: it has its pane
-    V.Sim.State.Port_Table[6].Present = true;
+    V.Sim.State.Of<Link_State>().Port_Table[5].Enabled = true; // ticked, yet not there: it has its pane
+    V.Sim.State.Of<Link_State>().Port_Table[6].Present = true;
     V.Click(V.Sim.Main->mnuMonitor);
     ASSERT_TRUE(V.Sim.Monitor);
     EXPECT_TRUE(*V.Sim.Main->mnuMonitor.Checked);
@@ -81,7 +83,7 @@ TEST(Monitor, A_Pane_Starts_Over_With_Every_Fourth_Sentence) {
 TEST(Monitor, The_NUL_Of_The_Header_Becomes_A_Blank) {
     Virtual_Simulator V;
     V.Use({18});
-    V.Sim.State.Extended_Monitor_Port = 18;
+    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
     V.Click(V.Sim.Main->mnuMonitor);
     V.Click(V.Sim.Main->mnuExtendedMonitor);
     const std::string Framed("UdPbC\0\\s:A*11\\$M", 16);
@@ -93,22 +95,22 @@ TEST(Monitor, The_NUL_Of_The_Header_Becomes_A_Blank) {
         EXPECT_EQ(V.Sim.Extended_Monitor->txtOutput.Text(), V.Sim.Monitor->txtCom[18].Text());
         return V.Sim.Monitor->txtCom[18].Text();
     };
-    V.Sim.State.UdPbC_Header_Enabled = true;
+    V.Sim.State.Of<IEC450_State>().UdPbC_Header_Enabled = true;
     EXPECT_EQ(Shown(Framed), Framed + "\r\n");
-    V.Sim.State.IEC450_Enabled = true;
+    V.Sim.State.Of<IEC450_State>().IEC450_Enabled = true;
     EXPECT_EQ(Shown(Framed), "UdPbC \\s:A*11\\$M\r\n");
     EXPECT_EQ(Shown("UdP"), "UdP\r\n");       // five characters have no sixth
     EXPECT_EQ(Shown("$GPGGA"), "$GPGG \r\n"); // whatever it is
-    V.Sim.State.UdPbC_Header_Enabled = false;
+    V.Sim.State.Of<IEC450_State>().UdPbC_Header_Enabled = false;
     EXPECT_EQ(Shown(Framed), Framed + "\r\n");
 }
 
 TEST(Monitor, A_Pane_That_No_Count_Empties_Stays_Bounded) {
     Virtual_Simulator V;
     V.Use({18});
-    V.Sim.State.Extended_Monitor_Port = 18;
+    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
     V.Click(V.Sim.Main->mnuExtendedMonitor);
-    V.Sim.State.Extended_Monitor_Lines = 0;
+    V.Sim.State.Of<Link_State>().Extended_Monitor_Lines = 0;
     const std::string Long(5000, 'x');
     for (int I = 0; I < 100; ++I) V.Send(Long, 18);
     EXPECT_LE(V.Sim.Extended_Monitor->txtOutput.Text().size(), 65536u);
@@ -118,7 +120,7 @@ TEST(Monitor, A_Pane_That_No_Count_Empties_Stays_Bounded) {
 TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     Virtual_Simulator V;
     V.Use({2, 17, 18, 28});
-    V.Sim.State.Port_Table[5].Enabled = true;
+    V.Sim.State.Of<Link_State>().Port_Table[5].Enabled = true;
     V.Click(V.Sim.Main->mnuExtendedMonitor);
     frmExtendedMonitor* F = V.Sim.Extended_Monitor.get();
     EXPECT_TRUE(*V.Sim.Main->mnuExtendedMonitor.Checked);
@@ -137,11 +139,11 @@ TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     F->txtOutput.Set_Text("old");
     F->txtInput.Set_Text("old");
     F->cmbComPort.Set_List_Index(1);
-    EXPECT_EQ(V.Sim.State.Extended_Monitor_Port, 17);
+    EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Port, 17);
     EXPECT_EQ(F->txtOutput.Text(), "");
     EXPECT_EQ(F->txtInput.Text(), "TCP/IP Input not implemented");
     F->cmbComPort.Set_List_Index(3);
-    EXPECT_EQ(V.Sim.State.Extended_Monitor_Port, 28);
+    EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Port, 28);
     EXPECT_EQ(F->txtInput.Text(), "");
 
     V.Close(*F);
@@ -153,16 +155,16 @@ TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     V.Click(V.Sim.Main->mnuExtendedMonitor);
     EXPECT_EQ(V.Sim.Windows.Active_Form, F);
     V.Close(*F);
-    V.Sim.State.Extended_Monitor_Port = 5;
+    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 5;
     V.Click(V.Sim.Main->mnuExtendedMonitor);
     EXPECT_EQ(V.Sim.Extended_Monitor->cmbComPort.Text(), "Select comport");
-    EXPECT_EQ(V.Sim.State.Extended_Monitor_Port, 5);
+    EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Port, 5);
 }
 
 TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
     Virtual_Simulator V;
     V.Use({2, 18});
-    V.Sim.State.Extended_Monitor_Port = 18;
+    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
     V.Click(V.Sim.Main->mnuExtendedMonitor);
     frmExtendedMonitor& F = *V.Sim.Extended_Monitor;
     // A pane of 200 holds none, and every 200 more one; halves go to the even number. Beside the two panes
@@ -170,7 +172,7 @@ TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
     for (const auto& [Pane, Lines] :
          {std::pair(0, -1), {200, 0}, {500, 2}, {700, 2}, {900, 4}, {1040, 4}, {2000, 9}}) {
         F.Resize(9000, static_cast<float>(1500 + 2 * Pane));
-        EXPECT_EQ(V.Sim.State.Extended_Monitor_Lines, Lines) << Pane;
+        EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Lines, Lines) << Pane;
     }
 
     F.Resize(9000, 1500 + 2 * 800); // 3 lines
@@ -202,10 +204,10 @@ TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
 TEST(Extended_Monitor, Received_Texts_Count_As_One_Line_Each) {
     Virtual_Simulator V;
     V.Use({18});
-    V.Sim.State.Extended_Monitor_Port = 18;
+    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
     V.Click(V.Sim.Main->mnuExtendedMonitor);
     frmExtendedMonitor& F = *V.Sim.Extended_Monitor;
-    V.Sim.State.Extended_Monitor_Lines = 3;
+    V.Sim.State.Of<Link_State>().Extended_Monitor_Lines = 3;
     const auto Expect_After = [&](const std::string& Text, const std::string& Pane) {
         Extended_Monitor_Rx(V.Sim, Text);
         EXPECT_EQ(F.txtInput.Text(), Pane);

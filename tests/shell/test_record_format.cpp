@@ -1,4 +1,4 @@
-#include "shell/record_format.hpp"
+#include "shell/transmit/record_format.hpp"
 
 #include <gtest/gtest.h>
 

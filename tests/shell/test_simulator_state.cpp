@@ -1,5 +1,10 @@
 #include "platform/run_time_error.hpp"
-#include "shell/simulator_state.hpp"
+#include "shell/state/simulator_state.hpp"
+#include "extra/extra_state.hpp"
+#include "gnss/gnss_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "radar/radar_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -98,24 +103,24 @@ TEST(Simulator_State, Tables_Have_The_Told_Bounds) {
         EXPECT_THROW(Table[First - 1], Run_Time_Error);
         EXPECT_THROW(Table[Last + 1], Run_Time_Error);
     };
-    Expect_Bounds(S.Port_Table, 1, 28);
-    Expect_Bounds(S.Sensor_Table, 1, 11);
-    Expect_Bounds(S.Open_Form_List, 1, 20);
-    Expect_Bounds(S.UDP_Port_Number, 0, 10);
-    Expect_Bounds(S.ARPA_Target, 1, 50);
-    Expect_Bounds(S.Sky_Table, 1, 88);
-    Expect_Bounds(S.Svs_In_Use, 1, 88);
-    Expect_Bounds(S.GNSS_Lat, 1, 2);
-    Expect_Bounds(S.GGA_Enabled, 1, 2);
-    Expect_Bounds(S.Extra_GNSS, 0, 3);
-    Expect_Bounds(S.Sync_GGA, 1, 2);
-    Expect_Bounds(S.Sync_GGA[2], 0, 3);
-    Expect_Bounds(S.GNSS_System_Mode, 1, 6);
-    Expect_Bounds(S.GNSS_System_Mode[6], 1, 6);
-    Expect_Bounds(S.Transmit.Last_Tx_Time, 0, 17);
-    Expect_Bounds(S.Transmit.Monitor_Line_Count, 0, 27);
-    Expect_Bounds(S.Transmit.UdPbC_Sequence, 0, 28); // every port has its counters
-    Expect_Bounds(S.Transmit.UdPbC_Group, 0, 28);
+    Expect_Bounds(S.Of<Link_State>().Port_Table, 1, 28);
+    Expect_Bounds(S.Of<Link_State>().Sensor_Table, 1, 11);
+    Expect_Bounds(S.Of<Shell_State>().Open_Form_List, 1, 20);
+    Expect_Bounds(S.Of<Link_State>().UDP_Port_Number, 0, 10);
+    Expect_Bounds(S.Of<Radar_State>().ARPA_Target, 1, 50);
+    Expect_Bounds(S.Of<GNSS_State>().Sky_Table, 1, 88);
+    Expect_Bounds(S.Of<GNSS_State>().Svs_In_Use, 1, 88);
+    Expect_Bounds(S.Of<GNSS_State>().GNSS_Lat, 1, 2);
+    Expect_Bounds(S.Of<GNSS_State>().GGA_Enabled, 1, 2);
+    Expect_Bounds(S.Of<Extra_State>().Extra_GNSS, 0, 3);
+    Expect_Bounds(S.Of<Extra_State>().Sync_GGA, 1, 2);
+    Expect_Bounds(S.Of<Extra_State>().Sync_GGA[2], 0, 3);
+    Expect_Bounds(S.Of<GNSS_State>().GNSS_System_Mode, 1, 6);
+    Expect_Bounds(S.Of<GNSS_State>().GNSS_System_Mode[6], 1, 6);
+    Expect_Bounds(S.Of<Link_State>().Transmit.Last_Tx_Time, 0, 17);
+    Expect_Bounds(S.Of<Link_State>().Transmit.Monitor_Line_Count, 0, 27);
+    Expect_Bounds(S.Of<Link_State>().Transmit.UdPbC_Sequence, 0, 28); // every port has its counters
+    Expect_Bounds(S.Of<Link_State>().Transmit.UdPbC_Group, 0, 28);
 }
 
 } // namespace

@@ -1,4 +1,13 @@
 #include "tests/support/virtual_simulator.hpp"
+#include "sensors/echosounder/echo_state.hpp"
+#include "gnss/gnss_state.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "shell/state/iec450_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "radar/radar_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "sensors/wind/wind_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -6,22 +15,22 @@ namespace {
 Simulator_State Default_Setup(const std::string& Mode = "Sensor") {
     Simulator_State S;
     Load_Default_Data(S);
-    S.Mode = Mode;
+    S.Of<Shell_State>().Mode = Mode;
     return S;
 }
 
 void Add_Window(Simulator_State& S, const Open_Form_Entry& Entry) {
-    S.Open_Form_List[++S.Open_Form_Count] = Entry;
+    S.Of<Shell_State>().Open_Form_List[++S.Of<Shell_State>().Open_Form_Count] = Entry;
 }
 
 // GNSS 1 and 2 on UDP links, each with a GGA every second.
 Simulator_State Two_Windows() {
     Simulator_State S = Default_Setup();
-    S.Comport_Count = 1;
+    S.Of<Link_State>().Comport_Count = 1;
     for (const int I : {1, 2}) {
         Virtual_Simulator::Set_Up_Link(S, 17 + I);
-        S.Sensor_Table[I].Port = static_cast<std::int16_t>(17 + I);
-        S.GGA_Enabled[I] = true;
+        S.Of<Link_State>().Sensor_Table[I].Port = static_cast<std::int16_t>(17 + I);
+        S.Of<GNSS_State>().GGA_Enabled[I] = true;
     }
     Add_Window(S, {"frmPosition", 1, 110, 120, 5130, 7140});
     Add_Window(S, {"frmPosition", 2, 210, 220, 5230, 7240});
@@ -30,20 +39,20 @@ Simulator_State Two_Windows() {
 
 std::vector<std::int16_t> Saved_Indices(const Simulator_State& S) {
     std::vector<std::int16_t> Indices;
-    for (int I = 1; I <= S.Open_Form_Count; ++I) Indices.push_back(S.Open_Form_List[I].Index);
+    for (int I = 1; I <= S.Of<Shell_State>().Open_Form_Count; ++I) Indices.push_back(S.Of<Shell_State>().Open_Form_List[I].Index);
     return Indices;
 }
 
 TEST(Start, Saved_Windows_Open_One_After_The_Other_In_Their_Places) {
     Simulator_State Setup = Two_Windows();
-    Setup.Open_Form_List[3] = Setup.Open_Form_List[2];
-    Setup.Open_Form_List[2] = Setup.Open_Form_List[1];
-    Setup.Open_Form_List[1] = {"frmShip", 0, 1, 2, 3, 4}; // the ship window waits for nothing
-    Setup.Open_Form_Count = 3;
+    Setup.Of<Shell_State>().Open_Form_List[3] = Setup.Of<Shell_State>().Open_Form_List[2];
+    Setup.Of<Shell_State>().Open_Form_List[2] = Setup.Of<Shell_State>().Open_Form_List[1];
+    Setup.Of<Shell_State>().Open_Form_List[1] = {"frmShip", 0, 1, 2, 3, 4}; // the ship window waits for nothing
+    Setup.Of<Shell_State>().Open_Form_Count = 3;
     Virtual_Simulator V;
     V.Start(Setup);
     EXPECT_NEAR(static_cast<double>(V.Now_us()), 700'000, 100);
-    EXPECT_EQ(V.Sim.State.Open_Form_Count, 0);
+    EXPECT_EQ(V.Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_TRUE(V.Take_Boxes().empty());
     for (const int I : {1, 2}) {
         const frmPosition& W = *V.Sim.frmPosition_Instance[I];
@@ -78,26 +87,26 @@ TEST(Start, Without_A_Setup_File) {
                      "The Brinewright will automatic detect available comports. It might take e few seconds. "
                      "Please be pasient!"}));
     EXPECT_TRUE(V.Sim.Windows.Find_Form("frmSetup"));
-    EXPECT_EQ(V.Sim.State.Mode, "Ship");
+    EXPECT_EQ(V.Sim.State.Of<Shell_State>().Mode, "Ship");
     EXPECT_TRUE(*V.Sim.Main->mnuMode_Ship.Checked);
     EXPECT_FALSE(*V.Sim.Main->mnuMode_Sensor.Checked);
-    EXPECT_EQ(V.Sim.State.TCP_Port, 8040);
+    EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Port, 8040);
     EXPECT_TRUE(V.World.Log.empty());
     EXPECT_EQ(*V.Sim.Main->sbStatusBar[1].Caption, "No comports enabled");
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*V.Sim.Main->sbStatusBar[Port].Visible, Port == 1);
-    EXPECT_EQ(V.Sim.State.Data_Folder, "/data/");
+    EXPECT_EQ(V.Sim.State.Of<Shell_State>().Data_Folder, "/data/");
     EXPECT_EQ(V.Sim.Main->timer_Sky.Interval_ms(), 10000);
 }
 
 TEST(Start, What_The_Setup_Says_And_What_Is_Repaired) {
     Simulator_State Setup = Default_Setup();
-    Setup.Start_With_Last_Navdata = Setup.IEC450_Enabled = true;
+    Setup.Of<Shell_State>().Start_With_Last_Navdata = Setup.Of<IEC450_State>().IEC450_Enabled = true;
     Virtual_Simulator::Set_Up_Link(Setup, 3); // yet Comport_Count is 0: no link is opened
-    Setup.Sensor_Table[5].Name = "Mine";
-    Setup.Sensor_Table[9].Name = "Ninth";
-    Setup.GNSS_Talker[1] = "";
-    Setup.Gyro_Talker[2] = "XX";
-    Setup.ARPA_Talker = "";
+    Setup.Of<Link_State>().Sensor_Table[5].Name = "Mine";
+    Setup.Of<Link_State>().Sensor_Table[9].Name = "Ninth";
+    Setup.Of<GNSS_State>().GNSS_Talker[1] = "";
+    Setup.Of<Gyro_State>().Gyro_Talker[2] = "XX";
+    Setup.Of<Radar_State>().ARPA_Talker = "";
     Virtual_Simulator V;
     V.Start(Setup);
     EXPECT_TRUE(V.World.Log.empty());
@@ -107,23 +116,23 @@ TEST(Start, What_The_Setup_Says_And_What_Is_Repaired) {
     EXPECT_TRUE(*V.Sim.Main->mnuMode_Sensor.Checked);
     const char* Names[] = {"GNSS1", "GNSS2",      "Gyro1", "Gyro2", "Log", "Echosounder",
                            "ARPA",  "Wind Gauge", "Ninth", "",      ""};
-    for (int Slot = 1; Slot <= 11; ++Slot) EXPECT_EQ(V.Sim.State.Sensor_Table[Slot].Name, Names[Slot - 1]);
+    for (int Slot = 1; Slot <= 11; ++Slot) EXPECT_EQ(V.Sim.State.Of<Link_State>().Sensor_Table[Slot].Name, Names[Slot - 1]);
 
     // A file of one section: all else is zero, but for the talkers.
     Virtual_Simulator Bare;
     Bare.Disk.Content[Setup_Name] = "\"REM Mode\"\r\n\"Sensor\"\r\n";
     Bare.Start();
     EXPECT_TRUE(Bare.Told.empty());
-    EXPECT_EQ(Bare.Sim.State.TCP_Port, 0);
+    EXPECT_EQ(Bare.Sim.State.Of<Link_State>().TCP_Port, 0);
     for (auto* Sim : {&V.Sim, &Bare.Sim}) {
         for (const int I : {1, 2}) {
-            EXPECT_EQ(Sim->State.GNSS_Talker[I], "GP");
-            EXPECT_EQ(Sim->State.Gyro_Talker[I], Sim == &V.Sim && I == 2 ? "XX" : "HE");
-            EXPECT_EQ(Sim->State.Log_Talker[I], "VW");
-            EXPECT_EQ(Sim->State.Echo_Talker[I], "SD");
-            EXPECT_EQ(Sim->State.Wind_Talker[I], "WI");
+            EXPECT_EQ(Sim->State.Of<GNSS_State>().GNSS_Talker[I], "GP");
+            EXPECT_EQ(Sim->State.Of<Gyro_State>().Gyro_Talker[I], Sim == &V.Sim && I == 2 ? "XX" : "HE");
+            EXPECT_EQ(Sim->State.Of<Log_State>().Log_Talker[I], "VW");
+            EXPECT_EQ(Sim->State.Of<Echo_State>().Echo_Talker[I], "SD");
+            EXPECT_EQ(Sim->State.Of<Wind_State>().Wind_Talker[I], "WI");
         }
-        EXPECT_EQ(Sim->State.ARPA_Talker, "RA");
+        EXPECT_EQ(Sim->State.Of<Radar_State>().ARPA_Talker, "RA");
     }
 }
 
@@ -139,14 +148,14 @@ TEST(Start, Every_Copy_Has_Its_Own_File_And_Caption) {
     for (const auto& C : Cases) {
         Virtual_Simulator V(0, {C.Setup_Option, false, "", C.Instance});
         Simulator_State Setup = Default_Setup();
-        Setup.TCP_Port = 4711;
+        Setup.Of<Link_State>().TCP_Port = 4711;
         V.Disk.Content[C.File] = Write_Setup(Setup);
         V.Start();
         EXPECT_TRUE(V.Told.empty());
-        EXPECT_EQ(V.Sim.State.TCP_Port, 4711);
-        EXPECT_EQ(V.Sim.State.Instance_Number, C.Instance);
+        EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Port, 4711);
+        EXPECT_EQ(V.Sim.State.Of<Shell_State>().Instance_Number, C.Instance);
         EXPECT_EQ(V.Sim.Main->Caption, C.Caption);
-        V.Sim.State.TCP_Port = 4712;
+        V.Sim.State.Of<Link_State>().TCP_Port = 4712;
         V.Stop();
         EXPECT_EQ(V.Saved(C.File).TCP_Port, 4712);
         EXPECT_EQ(V.Disk.Content.size(), 1u);
@@ -180,21 +189,21 @@ TEST(Stop, Windows_Add_Themselves_And_The_Setup_Is_Written) {
     V.Start(Two_Windows());
     V.Sim.frmPosition_Instance[2]->Set_Place(1, 2, 3, 4);
     mnuMonitor_Click(V.Sim);
-    V.Sim.State.UDP_Remote_Host = "10.1.2.3";
+    V.Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
     V.Stop();
     EXPECT_TRUE(V.Sim.Ended);
     EXPECT_TRUE(V.World.Quitting);
     EXPECT_TRUE(V.Sim.Windows.Forms.empty());
     EXPECT_TRUE(V.Told.empty());
     const Simulator_State S = V.Saved();
-    EXPECT_EQ(S.UDP_Remote_Host, "10.1.2.3");
+    EXPECT_EQ(S.Of<Link_State>().UDP_Remote_Host, "10.1.2.3");
     EXPECT_EQ(Saved_Indices(S), (std::vector<std::int16_t>{1, 2}));
-    EXPECT_EQ(S.Open_Form_List[1].Name, "frmPosition");
-    EXPECT_EQ(S.Open_Form_List[1].Top, 110);
-    EXPECT_EQ(S.Open_Form_List[2].Left, 1);
-    EXPECT_EQ(S.Open_Form_List[2].Top, 2);
-    EXPECT_EQ(S.Open_Form_List[2].Width, 3);
-    EXPECT_EQ(S.Open_Form_List[2].Height, 4);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[1].Name, "frmPosition");
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[1].Top, 110);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Left, 1);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Top, 2);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Width, 3);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Height, 4);
     const auto Ended_us = V.Now_us();
     V.Run_s(5);
     EXPECT_EQ(V.Now_us(), Ended_us); // nothing runs on
@@ -202,7 +211,7 @@ TEST(Stop, Windows_Add_Themselves_And_The_Setup_Is_Written) {
     Virtual_Simulator Kept(0, {"", true, "", 0});
     Kept.Start(Two_Windows());
     const std::string Before = Kept.Disk.Content.at(Setup_Name);
-    Kept.Sim.State.UDP_Remote_Host = "10.1.2.3";
+    Kept.Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
     Kept.Stop();
     EXPECT_TRUE(Kept.Sim.Ended);
     EXPECT_EQ(Kept.Disk.Content.at(Setup_Name), Before);
@@ -229,7 +238,7 @@ TEST(Stop, Whatever_Fails_Is_Told_And_The_Program_Ends) {
     // A full list of windows: told for each window that finds no place, and the rest is saved.
     Virtual_Simulator V;
     V.Start(Two_Windows());
-    V.Sim.State.Open_Form_Count = 19;
+    V.Sim.State.Of<Shell_State>().Open_Form_Count = 19;
     V.Stop();
     EXPECT_EQ(V.Take_Boxes(), Texts{"Subscript out of range"});
     EXPECT_TRUE(V.Sim.Ended);
@@ -266,12 +275,12 @@ TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
         V.Disk.Content[Setup_Name] = Broken;
         V.Start();
         EXPECT_EQ(V.Take_Boxes(), Texts{"Type mismatch  Default data loaded"});
-        EXPECT_EQ(V.Sim.State.Mode, "Ship"); // the defaults lie over what had been read
+        EXPECT_EQ(V.Sim.State.Of<Shell_State>().Mode, "Ship"); // the defaults lie over what had been read
         // Another setup that cannot be read does not make the first one forgotten.
         V.Disk.Content["/other.ini"] = Broken;
         V.Sim.Windows.Event([&] { Open_Setup(V.Sim, "/other.ini"); });
         V.Take_Boxes();
-        V.Sim.State.TCP_Port = 4711;
+        V.Sim.State.Of<Link_State>().TCP_Port = 4711;
         V.Stop();
         EXPECT_EQ(V.Disk.Content.at(Setup_Name), Broken);
         EXPECT_EQ(V.Saved(Beside).TCP_Port, 4711);
@@ -285,7 +294,7 @@ TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
         V.Start();
         V.Click(As ? V.Sim.Main->mnuFileSaveAs : V.Sim.Main->mnuFileSave);
         if (As) V.Answer_File(Setup_Name);
-        V.Sim.State.TCP_Port = 4711;
+        V.Sim.State.Of<Link_State>().TCP_Port = 4711;
         V.Stop();
         EXPECT_EQ(V.Saved().TCP_Port, 4711);
         EXPECT_FALSE(V.Disk.Content.contains(Beside));

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "ownship/ship/frm_set_sog.hpp"
+#include "ownship/set_sog/frm_set_sog.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "ownship/ship/frm_ship_setup.hpp"
+#include "ownship/setup/frm_ship_setup.hpp"
 #include "ownship/ship/joystick.hpp"
 #include "sentences/number_pattern.hpp"
 #include "tests/support/virtual_simulator.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <functional>
 #include <optional>
@@ -25,7 +26,7 @@ struct Ship_Bench : Virtual_Simulator {
         if (Stick) World.Its_Joystick.reset(Stick);
         Simulator_State Setup;
         Load_Default_Data(Setup);
-        Setup.Start_With_Last_Navdata = true;
+        Setup.Of<Shell_State>().Start_With_Last_Navdata = true;
         if (Change) Change(Setup);
         Start(Setup);
         Told.clear();

@@ -1,6 +1,11 @@
 // The ship window: opening, throttle, rate of turn, heading, noise, labels, freeze and pause.
 
 #include "ship_bench.hpp"
+#include "gnss/gnss_state.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -13,13 +18,13 @@ namespace {
 
 TEST(Frm_Ship, Opening_Shows_The_State_And_Takes_What_The_Sliders_Hold) {
     Ship_Bench B([](Simulator_State& S) {
-        S.Nav_SOG = 12.3F;
-        S.Nav_Rudder = 7.25F;
-        S.Nav_HDG = 45.678;
-        S.Nav_COG = 46.25;
-        S.Gyro_Offset[1] = 1.5F;
-        S.Ship_SOG_Noise_Index = 3;
-        S.Ship_ROT_Noise_Index = 10;
+        S.Of<Navdata_State>().Nav_SOG = 12.3F;
+        S.Of<Navdata_State>().Nav_Rudder = 7.25F;
+        S.Of<Navdata_State>().Nav_HDG = 45.678;
+        S.Of<Navdata_State>().Nav_COG = 46.25;
+        S.Of<Gyro_State>().Gyro_Offset[1] = 1.5F;
+        S.Of<Navdata_State>().Ship_SOG_Noise_Index = 3;
+        S.Of<Navdata_State>().Ship_ROT_Noise_Index = 10;
     });
     const frmShip& W = B.Ship();
     EXPECT_EQ(B.State().Nav_SOG, 12.4F); // 31 % of 40
@@ -55,8 +60,8 @@ TEST(Frm_Ship, Opening_Shows_The_State_And_Takes_What_The_Sliders_Hold) {
 TEST(Frm_Ship, Opening_Brings_Speed_And_Rate_Of_Turn_Within_Their_Limits) {
     for (const float Sign : {1.0F, -1.0F}) {
         Ship_Bench B([&](Simulator_State& S) {
-            S.Nav_SOG = 45 * Sign;
-            S.Nav_Rudder = 31 * Sign;
+            S.Of<Navdata_State>().Nav_SOG = 45 * Sign;
+            S.Of<Navdata_State>().Nav_Rudder = 31 * Sign;
         });
         EXPECT_EQ(B.State().Nav_SOG, Sign > 0 ? 40 : -5);
         EXPECT_EQ(B.State().Nav_Rudder, 30 * Sign);
@@ -66,12 +71,12 @@ TEST(Frm_Ship, Opening_Brings_Speed_And_Rate_Of_Turn_Within_Their_Limits) {
 TEST(Frm_Ship, Starts_At_The_Start_Position_Unless_Told_Otherwise) {
     for (const bool Last : {false, true}) {
         Ship_Bench B([&](Simulator_State& S) {
-            S.Start_With_Last_Navdata = Last;
-            S.Start_Lat = -10;
-            S.Start_Lon = 20.5;
-            S.Nav_Lat = 50;
-            S.Nav_SOG = -2.5F;
-            S.LatLon_Format = 1;
+            S.Of<Shell_State>().Start_With_Last_Navdata = Last;
+            S.Of<Navdata_State>().Start_Lat = -10;
+            S.Of<Navdata_State>().Start_Lon = 20.5;
+            S.Of<Navdata_State>().Nav_Lat = 50;
+            S.Of<Navdata_State>().Nav_SOG = -2.5F;
+            S.Of<Shell_State>().LatLon_Format = 1;
         });
         EXPECT_EQ(B.State().Nav_Lat, Last ? 50 : -10);
         EXPECT_EQ(Shown(B.Ship().lblLat[0]), Last ? "50\xB0"
@@ -193,9 +198,9 @@ TEST(Frm_Ship, Heading_List_Takes_What_Is_A_Heading) {
 
 TEST(Frm_Ship, Labels_After_A_Step) {
     Ship_Bench B([](Simulator_State& S) {
-        S.Log_Offset[1] = 1;
-        S.Gyro_Offset[2] = -10.25F;
-        S.Lat_Offset = 1852;
+        S.Of<Log_State>().Log_Offset[1] = 1;
+        S.Of<Gyro_State>().Gyro_Offset[2] = -10.25F;
+        S.Of<Navdata_State>().Lat_Offset = 1852;
     });
     frmShip& W = B.Ship();
     B.Place(W.sldThrottle, -30);
@@ -275,13 +280,13 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
     EXPECT_EQ(Shown(W.cmdFreeze), "continue");
     EXPECT_TRUE(*W.lblFreeze.Visible);
     const Simulator_State& S = B.State();
-    const double Lat = S.Nav_Lat, Heading_deg = S.Nav_HDG;
-    const float SOG_kn = S.GNSS_SOG[1];
+    const double Lat = S.Of<Navdata_State>().Nav_Lat, Heading_deg = S.Of<Navdata_State>().Nav_HDG;
+    const float SOG_kn = S.Of<GNSS_State>().GNSS_SOG[1];
     const std::string Label = Shown(W.lblSOG), Position = Shown(W.lblLat[0]);
     B.Run_s(100);
-    EXPECT_EQ(S.Nav_Lat, Lat);
-    EXPECT_EQ(S.Nav_HDG, Heading_deg);
-    EXPECT_EQ(S.GNSS_SOG[1], SOG_kn);
+    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, Lat);
+    EXPECT_EQ(S.Of<Navdata_State>().Nav_HDG, Heading_deg);
+    EXPECT_EQ(S.Of<GNSS_State>().GNSS_SOG[1], SOG_kn);
     EXPECT_EQ(Shown(W.lblSOG), Label);
     EXPECT_EQ(Shown(W.lblLat[0]), Position);
     EXPECT_EQ(B.Send("$A", 18), "$A\r\n") << "sentences go on";
@@ -296,7 +301,7 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
     B.Send("$B", 18);
     EXPECT_EQ(B.Left.size(), Sent);
     B.Run_s(1);
-    EXPECT_NE(S.Nav_Lat, Lat) << "the ship goes on";
+    EXPECT_NE(S.Of<Navdata_State>().Nav_Lat, Lat) << "the ship goes on";
     B.Click(W.cmdPause);
     EXPECT_EQ(Shown(W.cmdPause), "TX PAUSE");
     EXPECT_FALSE(*W.lblPause.Visible);
@@ -306,8 +311,8 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
 
 TEST(Frm_Ship, A_Freeze_Of_The_Last_Session_Is_Kept) {
     Ship_Bench B([](Simulator_State& S) {
-        S.Freeze_Active = true;
-        S.Nav_SOG = 20;
+        S.Of<Shell_State>().Freeze_Active = true;
+        S.Of<Navdata_State>().Nav_SOG = 20;
     });
     EXPECT_EQ(Shown(B.Ship().cmdFreeze), "continue");
     EXPECT_TRUE(*B.Ship().lblFreeze.Visible);

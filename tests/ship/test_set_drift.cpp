@@ -2,6 +2,9 @@
 
 #include "ownship/ship/set_drift.hpp"
 #include "ship_bench.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "ownship/navdata_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -18,13 +21,13 @@ struct Current {
 
 Current Computed(float SOG_kn, double COG_deg, float Log_kn, float Heading_deg) {
     Simulator_State S;
-    S.Nav_SOG = SOG_kn;
-    S.Nav_COG = COG_deg;
-    S.Log_Speed[1] = Log_kn;
-    S.Gyro_HDG[1] = Heading_deg;
-    S.Current_Drift = -77;
+    S.Of<Navdata_State>().Nav_SOG = SOG_kn;
+    S.Of<Navdata_State>().Nav_COG = COG_deg;
+    S.Of<Log_State>().Log_Speed[1] = Log_kn;
+    S.Of<Gyro_State>().Gyro_HDG[1] = Heading_deg;
+    S.Of<Navdata_State>().Current_Drift = -77;
     Compute_Set_Drift(S);
-    return {S.Current_Set, S.Current_Drift};
+    return {S.Of<Navdata_State>().Current_Set, S.Of<Navdata_State>().Current_Drift};
 }
 
 Current By_Vectors(double SOG_kn, double COG_deg, double Log_kn, double Heading_deg) {

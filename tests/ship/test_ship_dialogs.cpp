@@ -1,6 +1,10 @@
 // "Set SOG/COG" and "Ship & Environment Setup".
 
 #include "ship_bench.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "sentences/utc_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -117,17 +121,17 @@ TEST(Set_SOG, Without_A_Limit_And_Without_The_Window) {
 
 TEST(Ship_Setup, Shows_What_Is_Stored) {
     Ship_Bench B([](Simulator_State& S) {
-        S.Start_Lat = 59.5;
-        S.Start_Lon = -10.25;
-        S.Magnetic_Variation = -3;
-        S.Lat_Offset = -12.34;
-        S.Gyro_Offset[2] = -5.5F;
-        S.Log_Offset[1] = 0.25F;
-        S.Use_UTC = true;
-        S.UTC_Offset_Hours = 120;
-        S.UTC_Offset_Minutes = 59;
-        S.GNSS2_UTC_Offset_Hours = -210;
-        S.GNSS2_UTC_Offset_Seconds = 7;
+        S.Of<Navdata_State>().Start_Lat = 59.5;
+        S.Of<Navdata_State>().Start_Lon = -10.25;
+        S.Of<Navdata_State>().Magnetic_Variation = -3;
+        S.Of<Navdata_State>().Lat_Offset = -12.34;
+        S.Of<Gyro_State>().Gyro_Offset[2] = -5.5F;
+        S.Of<Log_State>().Log_Offset[1] = 0.25F;
+        S.Of<UTC_State>().Use_UTC = true;
+        S.Of<UTC_State>().UTC_Offset_Hours = 120;
+        S.Of<UTC_State>().UTC_Offset_Minutes = 59;
+        S.Of<UTC_State>().GNSS2_UTC_Offset_Hours = -210;
+        S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds = 7;
     });
     frmShipSetup& F = Open_Setup(B);
     Expect_Tips(F);
@@ -180,30 +184,30 @@ TEST(Ship_Setup, Apply_Takes_All_And_Moves_The_Ship_Only_For_A_New_Start) {
     Type(B, F.txtStartLat, F.txtStartLat.Text()); // the same
     B.Click(F.cmdApply);
     const Simulator_State& S = B.State();
-    EXPECT_EQ(S.Nav_Lat, Lat);
-    EXPECT_EQ(S.Max_Speed_Ahead, 25);
-    EXPECT_EQ(S.Max_Speed_Astern, 12);
-    EXPECT_EQ(S.Max_Rudder, 60);
-    EXPECT_EQ(S.Magnetic_Variation, -10);
-    EXPECT_EQ(S.UTC_Offset_Hours, -210);
-    EXPECT_EQ(S.UTC_Offset_Minutes, 30);
-    EXPECT_EQ(S.GNSS2_UTC_Offset_Hours, 345);
-    EXPECT_EQ(S.GNSS2_UTC_Offset_Minutes, 45);
-    EXPECT_EQ(S.GNSS2_UTC_Offset_Seconds, 59);
-    EXPECT_TRUE(S.Use_UTC);
-    EXPECT_EQ(S.Lat_Offset, 12.3);
-    EXPECT_EQ(S.Lon_Offset, -7.5);
-    EXPECT_EQ(S.Gyro_Offset[1], 360);
-    EXPECT_EQ(S.Log_Offset[1], -1.3F);
-    EXPECT_EQ(S.Log_Offset[2], 2);
+    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, Lat);
+    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Ahead, 25);
+    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Astern, 12);
+    EXPECT_EQ(S.Of<Navdata_State>().Max_Rudder, 60);
+    EXPECT_EQ(S.Of<Navdata_State>().Magnetic_Variation, -10);
+    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Hours, -210);
+    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Minutes, 30);
+    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Hours, 345);
+    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Minutes, 45);
+    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds, 59);
+    EXPECT_TRUE(S.Of<UTC_State>().Use_UTC);
+    EXPECT_EQ(S.Of<Navdata_State>().Lat_Offset, 12.3);
+    EXPECT_EQ(S.Of<Navdata_State>().Lon_Offset, -7.5);
+    EXPECT_EQ(S.Of<Gyro_State>().Gyro_Offset[1], 360);
+    EXPECT_EQ(S.Of<Log_State>().Log_Offset[1], -1.3F);
+    EXPECT_EQ(S.Of<Log_State>().Log_Offset[2], 2);
     Type(B, F.txtStartLat, "10 30 S");
     EXPECT_EQ(F.txtStartLat.Text(), "10\xB0 30.0000' S");
     Type(B, F.txtStartLon, "170 15.5 W");
-    EXPECT_EQ(S.Nav_Lat, Lat) << "not before Apply";
+    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, Lat) << "not before Apply";
     B.Click(F.cmdOK);
-    EXPECT_EQ(S.Start_Lat, -10.5);
-    EXPECT_EQ(S.Nav_Lat, -10.5);
-    EXPECT_NEAR(S.Nav_Lon, -170.258333333, 1e-9);
+    EXPECT_EQ(S.Of<Navdata_State>().Start_Lat, -10.5);
+    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, -10.5);
+    EXPECT_NEAR(S.Of<Navdata_State>().Nav_Lon, -170.258333333, 1e-9);
     EXPECT_EQ(B.Sim.ShipSetup, nullptr);
     EXPECT_EQ(B.Take_Boxes(), Texts{});
 }
@@ -239,14 +243,14 @@ TEST(Ship_Setup, Limits_Move_The_Scale_And_Hold_The_Rate) {
 // What the lists do not have shows nothing, and Apply leaves it as it is.
 TEST(Ship_Setup, Stored_Values_Beyond_The_Lists) {
     Ship_Bench B([](Simulator_State& S) {
-        S.Max_Speed_Ahead = 1e30F;
-        S.Max_Speed_Astern = -4;
-        S.Max_Rudder = 720;
-        S.Magnetic_Variation = 25;
-        S.UTC_Offset_Hours = -32768;
-        S.UTC_Offset_Minutes = -1;
-        S.GNSS2_UTC_Offset_Seconds = 32767;
-        S.GNSS2_UTC_Offset_Minutes = 32767;
+        S.Of<Navdata_State>().Max_Speed_Ahead = 1e30F;
+        S.Of<Navdata_State>().Max_Speed_Astern = -4;
+        S.Of<Navdata_State>().Max_Rudder = 720;
+        S.Of<Navdata_State>().Magnetic_Variation = 25;
+        S.Of<UTC_State>().UTC_Offset_Hours = -32768;
+        S.Of<UTC_State>().UTC_Offset_Minutes = -1;
+        S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds = 32767;
+        S.Of<UTC_State>().GNSS2_UTC_Offset_Minutes = 32767;
     });
     frmShipSetup& F = Open_Setup(B);
     for (const Combo_Box* List :
@@ -256,14 +260,14 @@ TEST(Ship_Setup, Stored_Values_Beyond_The_Lists) {
     B.Set(F.cmbUTCOffsetHours[1], std::string("+13"));
     B.Click(F.cmdApply);
     const Simulator_State& S = B.State();
-    EXPECT_EQ(S.Max_Speed_Ahead, 1e30F);
-    EXPECT_EQ(S.Max_Speed_Astern, -4);
-    EXPECT_EQ(S.Max_Rudder, 720);
-    EXPECT_EQ(S.Magnetic_Variation, 25);
-    EXPECT_EQ(S.UTC_Offset_Hours, -32768);
-    EXPECT_EQ(S.UTC_Offset_Minutes, -1);
-    EXPECT_EQ(S.GNSS2_UTC_Offset_Seconds, 32767);
-    EXPECT_EQ(S.GNSS2_UTC_Offset_Hours, 32767) << "held within its 16 bits";
+    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Ahead, 1e30F);
+    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Astern, -4);
+    EXPECT_EQ(S.Of<Navdata_State>().Max_Rudder, 720);
+    EXPECT_EQ(S.Of<Navdata_State>().Magnetic_Variation, 25);
+    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Hours, -32768);
+    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Minutes, -1);
+    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds, 32767);
+    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Hours, 32767) << "held within its 16 bits";
     EXPECT_EQ(B.Take_Boxes(), Texts{});
 }
 

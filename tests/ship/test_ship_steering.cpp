@@ -1,6 +1,7 @@
 // Steering by keyboard and game controller.
 
 #include "ship_bench.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -129,7 +130,7 @@ struct Stick_Bench {
 };
 
 TEST(Ship_Joystick, Takes_The_Place_Of_Freeze_And_Pause) {
-    Stick_Bench T([](Simulator_State& S) { S.Freeze_Active = true; });
+    Stick_Bench T([](Simulator_State& S) { S.Of<Shell_State>().Freeze_Active = true; });
     const frmShip& W = T.B.Ship();
     EXPECT_FALSE(T.B.State().Freeze_Active);
     EXPECT_TRUE(*W.frameJoystick.Visible);

@@ -1,18 +1,19 @@
 #pragma once
 
-#include "gnss/frm_position.hpp"
+#include "gnss/position/frm_position.hpp"
 #include "links/port_list.hpp"
 #include "links/serial_ports.hpp"
-#include "links/setup_file.hpp"
+#include "links/setup_file/setup_file.hpp"
 #include "links/tcp_server.hpp"
 #include "links/udp_links.hpp"
-#include "shell/file_menu.hpp"
-#include "shell/frm_extended_monitor.hpp"
-#include "shell/frm_main.hpp"
-#include "shell/frm_monitor.hpp"
-#include "shell/send_nmea.hpp"
-#include "shell/simulator.hpp"
+#include "shell/main/file_menu.hpp"
+#include "shell/monitors/extended_monitor/frm_extended_monitor.hpp"
+#include "shell/main/frm_main.hpp"
+#include "shell/monitors/monitor/frm_monitor.hpp"
+#include "shell/transmit/send_nmea.hpp"
+#include "shell/state/simulator.hpp"
 #include "tests/support/played_platform.hpp"
+#include "shell/state/link_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -85,9 +86,9 @@ struct Virtual_Simulator {
         Sim.Windows.Event([&] { Init_Comports(Sim, Count); });
     }
     static void Set_Up_Link(Simulator_State& S, int Port) {
-        S.Port_Table[Port] = {true, true, 4800, 8, "none", 1};
-        if (Port >= 18) S.UDP_Port_Number[Port - 18] = 60001 + Port - 18;
-        if (Port == 17) S.TCP_Port = 8040;
+        S.Of<Link_State>().Port_Table[Port] = {true, true, 4800, 8, "none", 1};
+        if (Port >= 18) S.Of<Link_State>().UDP_Port_Number[Port - 18] = 60001 + Port - 18;
+        if (Port == 17) S.Of<Link_State>().TCP_Port = 8040;
     }
 
     // The text as it is after Send_NMEA, which changes it.

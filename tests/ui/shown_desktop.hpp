@@ -1,20 +1,28 @@
 #pragma once
 
-#include "dialogs/frm_geo_format.hpp"
-#include "gnss/frm_gnss.hpp"
-#include "links/frm_iec61162.hpp"
-#include "links/frm_setup.hpp"
-#include "links/port_detection.hpp"
-#include "ownship/ship/frm_set_sog.hpp"
+#include "dialogs/geo_format/frm_geo_format.hpp"
+#include "gnss/configuration/frm_gnss.hpp"
+#include "dialogs/iec61162/frm_iec61162.hpp"
+#include "links/port_setup/frm_setup.hpp"
+#include "links/port_setup/port_detection.hpp"
+#include "ownship/set_sog/frm_set_sog.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "ownship/ship/frm_ship_setup.hpp"
-#include "sensors/frm_echosounder.hpp"
-#include "sensors/frm_gyro.hpp"
-#include "sensors/frm_log.hpp"
-#include "sensors/frm_wind.hpp"
-#include "shell/frm_traffic.hpp"
+#include "ownship/setup/frm_ship_setup.hpp"
+#include "sensors/echosounder/frm_echosounder.hpp"
+#include "sensors/gyro/frm_gyro.hpp"
+#include "sensors/log/frm_log.hpp"
+#include "sensors/wind/frm_wind.hpp"
+#include "shell/monitors/traffic/frm_traffic.hpp"
 #include "tests/support/virtual_simulator.hpp"
 #include "ui/desktop_view.hpp"
+#include "sensors/echosounder/echo_state.hpp"
+#include "gnss/gnss_state.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "sensors/wind/wind_state.hpp"
 
 #include <QApplication>
 #include <QScrollArea>
@@ -33,20 +41,20 @@ struct Shown_Desktop : Virtual_Simulator {
     static Simulator_State Full_Setup(const char* Mode = "Sensor") {
         Simulator_State S;
         Load_Default_Data(S);
-        S.Mode = Mode;
-        S.Comport_Count = 1;
+        S.Of<Shell_State>().Mode = Mode;
+        S.Of<Link_State>().Comport_Count = 1;
         Set_Up_Link(S, port_number::TCP);
-        for (int I = form_index::GNSS_1; I < form_index::ARPA; ++I) S.Sensor_Table[I].Port = port_number::TCP;
-        S.Start_With_Last_Navdata = true;
-        S.Nav_SOG = 12.5F;
-        S.Nav_HDG = 123.4F;
-        S.Nav_Rudder = -15;
+        for (int I = form_index::GNSS_1; I < form_index::ARPA; ++I) S.Of<Link_State>().Sensor_Table[I].Port = port_number::TCP;
+        S.Of<Shell_State>().Start_With_Last_Navdata = true;
+        S.Of<Navdata_State>().Nav_SOG = 12.5F;
+        S.Of<Navdata_State>().Nav_HDG = 123.4F;
+        S.Of<Navdata_State>().Nav_Rudder = -15;
         for (const int I : {1, 2}) {
-            S.HDT_Enabled[I] = S.PRDID_Enabled[I] = S.VHW_Enabled[I] = S.DBT_Enabled[I] = true;
-            S.MWV_Enabled[I] = S.MWD_Enabled[I] = true;
-            S.Wind_Speed[I] = 14.5F;
-            S.GGA_Enabled[I] = S.GSA_Enabled[I] = S.GSV_Enabled[I] = S.GST_Enabled[I] = true;
-            S.Open_Form_List[++S.Open_Form_Count] = {"frmPosition", static_cast<std::int16_t>(I), 0, 0, 9330,
+            S.Of<Gyro_State>().HDT_Enabled[I] = S.Of<Gyro_State>().PRDID_Enabled[I] = S.Of<Log_State>().VHW_Enabled[I] = S.Of<Echo_State>().DBT_Enabled[I] = true;
+            S.Of<Wind_State>().MWV_Enabled[I] = S.Of<Wind_State>().MWD_Enabled[I] = true;
+            S.Of<Wind_State>().Wind_Speed[I] = 14.5F;
+            S.Of<GNSS_State>().GGA_Enabled[I] = S.Of<GNSS_State>().GSA_Enabled[I] = S.Of<GNSS_State>().GSV_Enabled[I] = S.Of<GNSS_State>().GST_Enabled[I] = true;
+            S.Of<Shell_State>().Open_Form_List[++S.Of<Shell_State>().Open_Form_Count] = {"frmPosition", static_cast<std::int16_t>(I), 0, 0, 9330,
                                                      20150};
         }
         return S;
@@ -74,13 +82,13 @@ struct Shown_Desktop : Virtual_Simulator {
             if (!*Item->Checked) Click(*Item);
         for (const int I : {1, 2}) Click(Sim.frmPosition_Instance[I]->cmdGNSS);
         for (int I = form_index::Gyro_1; I < form_index::ARPA; ++I) Click(*M.mnuOpenForm(I));
-        if (Sim.State.Mode == "Ship") {
+        if (Sim.State.Of<Shell_State>().Mode == "Ship") {
             if (!Sim.Ship) Click(M.mnuShip);
             Click(Sim.Ship->cmdSetSOG);
             Click(M.mnuSetupShip);
         }
         Run_s(2); // something to show
-        Sim.State.Ports_Initialised = false;
+        Sim.State.Of<Link_State>().Ports_Initialised = false;
         Click(M.mnuSetupPort);
         Click(Sim.Setup->cmdComInfo);
         Run_s(0.0775);

@@ -1,6 +1,7 @@
 // Message boxes, file dialogs, and how windows and the program are closed by hand.
 
 #include "tests/ui/shown_desktop.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <QFileDialog>
 #include <QMdiSubWindow>
@@ -65,7 +66,7 @@ TEST_F(Boxes_And_Ends, Boxes_Stand_One_At_A_Time_Until_Answered) {
 
 TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
     Simulator_State Other = Full_Setup();
-    Other.Open_Form_Count = 1;
+    Other.Of<Shell_State>().Open_Form_Count = 1;
     Disk.Content["/data/other.ini"] = Write_Setup(Other);
 
     // Cancelled by hand.
@@ -159,14 +160,14 @@ TEST_F(Boxes_And_Ends, Closing_The_Main_Window_Saves_And_Ends) {
     EXPECT_TRUE(Sim.Ended);
     EXPECT_TRUE(World.Quitting);
     const Simulator_State S = Saved();
-    ASSERT_EQ(S.Open_Form_Count, 2);
-    EXPECT_EQ(S.Open_Form_List[2].Left, 60 * 15);
-    EXPECT_EQ(S.Open_Form_List[2].Top, 75 * 15);
-    EXPECT_EQ(S.Open_Form_List[2].Width, 900 * 15);
-    EXPECT_EQ(S.Open_Form_List[2].Height, 600 * 15);
+    ASSERT_EQ(S.Of<Shell_State>().Open_Form_Count, 2);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Left, 60 * 15);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Top, 75 * 15);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Width, 900 * 15);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[2].Height, 600 * 15);
     // The window that nobody touched keeps what the setup said.
-    EXPECT_EQ(S.Open_Form_List[1].Width, 20150);
-    EXPECT_EQ(S.Open_Form_List[1].Height, 9330);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[1].Width, 20150);
+    EXPECT_EQ(S.Of<Shell_State>().Open_Form_List[1].Height, 9330);
 }
 
 } // namespace

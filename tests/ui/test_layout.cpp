@@ -1,6 +1,7 @@
 // Every window is shown whole on a small bench display, at every scaling. Runs at 150 and 200 % as well.
 
 #include "tests/ui/shown_desktop.hpp"
+#include "shell/state/shell_state.hpp"
 
 #include <QMdiSubWindow>
 #include <QScrollBar>
@@ -53,7 +54,7 @@ TEST_P(In_Mode, No_Caption_Is_Cut) {
 TEST_P(In_Mode, Every_Window_Fits_The_Display) {
     if (!At_Full_Size()) GTEST_SKIP() << "a display of 1366 x 768 is meant at 100 %";
     Simulator_State Setup = Full_Setup(GetParam());
-    Setup.Open_Form_Count = 0;
+    Setup.Of<Shell_State>().Open_Form_Count = 0;
     Open(Setup);
     View->showMaximized();
     Settle();

@@ -1,5 +1,5 @@
-#include "dialogs/frm_geo_format.hpp"
-#include "links/frm_iec61162.hpp"
+#include "dialogs/geo_format/frm_geo_format.hpp"
+#include "dialogs/iec61162/frm_iec61162.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
 namespace brinewright {

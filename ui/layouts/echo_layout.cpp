@@ -1,4 +1,4 @@
-#include "sensors/frm_echosounder.hpp"
+#include "sensors/echosounder/frm_echosounder.hpp"
 #include "ui/layouts/layout_parts.hpp"
 #include "ui/layouts/sensor_parts.hpp"
 

@@ -1,4 +1,4 @@
-#include "gnss/frm_gnss.hpp"
+#include "gnss/configuration/frm_gnss.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
 namespace brinewright {

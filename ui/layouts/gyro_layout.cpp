@@ -1,6 +1,6 @@
-#include "sensors/frm_gyro.hpp"
+#include "sensors/gyro/frm_gyro.hpp"
 #include "sentences/number_pattern.hpp"
-#include "shell/control_text.hpp"
+#include "shell/kit/control_text.hpp"
 #include "ui/instruments/attitude_indicator.hpp"
 #include "ui/layouts/layout_parts.hpp"
 #include "ui/layouts/sensor_parts.hpp"

@@ -1,4 +1,4 @@
-#include "sensors/frm_log.hpp"
+#include "sensors/log/frm_log.hpp"
 #include "ui/layouts/layout_parts.hpp"
 #include "ui/layouts/sensor_parts.hpp"
 

@@ -1,6 +1,6 @@
 #include "links/tcp_server.hpp"
-#include "shell/frm_extended_monitor.hpp"
-#include "shell/frm_monitor.hpp"
+#include "shell/monitors/extended_monitor/frm_extended_monitor.hpp"
+#include "shell/monitors/monitor/frm_monitor.hpp"
 #include "ui/layouts/layout_parts.hpp"
 #include "ui/verdict_highlighter.hpp"
 

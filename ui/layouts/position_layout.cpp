@@ -1,5 +1,6 @@
-#include "gnss/frm_position.hpp"
-#include "gnss/gnss_satellites.hpp"
+#include "gnss/gnss_state.hpp"
+#include "gnss/position/frm_position.hpp"
+#include "gnss/position/gnss_satellites.hpp"
 #include "ui/instruments/countdown_bar.hpp"
 #include "ui/instruments/sky_plot.hpp"
 #include "ui/layouts/layout_parts.hpp"
@@ -204,9 +205,10 @@ std::vector<Sky_Mark> Read_Sky(const Simulator_State& State, const frmPosition& 
     for (int Row_Number = 1; Row_Number <= F.hfgGSV.Rows() && Row_Number <= 88; ++Row_Number) {
         const bool Used = Row_Number <= In_Use;
         const std::int16_t Identifier =
-            Used ? State.Svs_In_Use[Row_Number] : State.Svs_In_View[std::max(Row_Number - In_Use, 1)];
+            Used ? State.Of<GNSS_State>().Svs_In_Use[Row_Number]
+                 : State.Of<GNSS_State>().Svs_In_View[std::max(Row_Number - In_Use, 1)];
         if (!Is_In_Sky(State, Identifier)) continue;
-        const Sky_Satellite& S = State.Sky_Table[Identifier];
+        const Sky_Satellite& S = State.Of<GNSS_State>().Sky_Table[Identifier];
         Marks.push_back(
             {To_Screen(F.hfgGSV.At(Row_Number - 1, 0).Text), S.Elevation, S.Azimuth, S.SNR, Used});
     }

@@ -1,6 +1,8 @@
 #include "ui/layouts/sensor_parts.hpp"
 
 #include "links/port_list.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
 #include "ui/instruments/countdown_bar.hpp"
 #include "ui/instruments/slider_scale.hpp"
 #include "ui/layouts/layout_parts.hpp"
@@ -16,11 +18,13 @@ namespace brinewright {
 namespace {
 
 QString Port_Text(const Simulator& Sim, int Form_Index) {
-    const int Port = Sim.State.Sensor_Table[Form_Index].Port;
+    const int Port = Sim.State.Of<Link_State>().Sensor_Table[Form_Index].Port;
     if (!Link_In_Use(Sim, Port)) return QStringLiteral("no link chosen");
     if (Port <= port_number::Last_Serial) return QStringLiteral("COM %1").arg(Port);
-    if (Port == port_number::TCP) return QStringLiteral("TCP port %1").arg(Sim.State.TCP_Port);
-    return QStringLiteral("UDP port %1").arg(Sim.State.UDP_Port_Number[Port - port_number::First_UDP]);
+    if (Port == port_number::TCP)
+        return QStringLiteral("TCP port %1").arg(Sim.State.Of<Link_State>().TCP_Port);
+    return QStringLiteral("UDP port %1")
+        .arg(Sim.State.Of<Link_State>().UDP_Port_Number[Port - port_number::First_UDP]);
 }
 
 QString State_Text(const Form_View& View, const char* State, int Form_Index) {
@@ -33,7 +37,7 @@ QWidget* State_Line(Form_View& View, Button& Start, Button& Pause, const Timer& 
     auto* Line = new QLabel;
     Line->setTextFormat(Qt::PlainText);
     View.When_Shown([&View, &Start, &Pause, &Simulation, Form_Index, Line] {
-        const bool Ship = View.Sim.State.Mode == "Ship";
+        const bool Ship = View.Sim.State.Of<Shell_State>().Mode == "Ship";
         const bool Running = Simulation.Interval_ms() > 0;
         const bool Paused = !Running && *Pause.Enabled;
         const char* State = Ship ? "Ship control" : Running ? "Running" : Paused ? "Paused" : "Not started";
@@ -49,7 +53,7 @@ QWidget* State_Line(Form_View& View, const Sentence_Family& Sentences, bool Foll
     auto* Line = new QLabel;
     Line->setTextFormat(Qt::PlainText);
     View.When_Shown([&View, &Sentences, Follows_Ship, Form_Index, Line] {
-        const bool Ship = Follows_Ship && View.Sim.State.Mode == "Ship";
+        const bool Ship = Follows_Ship && View.Sim.State.Of<Shell_State>().Mode == "Ship";
         const bool Running = std::any_of(Sentences.Lines.begin(), Sentences.Lines.end(),
                                          [](const auto& L) { return L.Clock->Interval_ms() > 0; });
         const char* State = !Running ? "No sentence is on" : Ship ? "Ship control" : "Running";

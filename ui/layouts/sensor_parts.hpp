@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/sentence_family.hpp"
+#include "shell/kit/sentence_family.hpp"
 #include "ui/form_view.hpp"
 
 #include <functional>

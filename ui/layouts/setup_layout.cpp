@@ -1,5 +1,5 @@
-#include "links/frm_setup.hpp"
-#include "links/port_detection.hpp"
+#include "links/port_setup/frm_setup.hpp"
+#include "links/port_setup/port_detection.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
 #include <QProgressBar>

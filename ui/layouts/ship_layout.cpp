@@ -1,4 +1,7 @@
+#include "ownship/navdata_state.hpp"
 #include "ownship/ship/frm_ship.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "shell/state/shell_state.hpp"
 #include "ui/instruments/compass_rose.hpp"
 #include "ui/instruments/rate_of_turn_bar.hpp"
 #include "ui/instruments/slider_scale.hpp"
@@ -13,15 +16,17 @@ constexpr int Beside_Slider = 9; // so that its scale stands below that of the b
 
 Compass_Reading Read_Compass(const Simulator_State& S) {
     Compass_Reading Now;
-    Now.Heading_deg = static_cast<float>(S.Nav_HDG);
-    if (S.Nav_SOG != 0) Now.Course_deg = static_cast<float>(S.Nav_COG);
+    Now.Heading_deg = static_cast<float>(S.Of<Navdata_State>().Nav_HDG);
+    if (S.Of<Navdata_State>().Nav_SOG != 0)
+        Now.Course_deg = static_cast<float>(S.Of<Navdata_State>().Nav_COG);
     return Now;
 }
 
 // With noise what the sensors were given, otherwise what the slider says.
 Turn_Reading Read_Turn(const Simulator_State& S, const frmShip& F) {
     const bool Noisy = F.cmbROTNoise.List_Index() > 0;
-    return {static_cast<float>(Noisy ? S.Gyro_ROT[1] : S.Nav_Rudder), static_cast<float>(S.Max_Rudder)};
+    return {static_cast<float>(Noisy ? S.Of<Gyro_State>().Gyro_ROT[1] : S.Of<Navdata_State>().Nav_Rudder),
+            static_cast<float>(S.Of<Navdata_State>().Max_Rudder)};
 }
 
 QLayout* Ship_State_Line(Form_View& View, frmShip& F) {
@@ -33,11 +38,13 @@ QLayout* Ship_State_Line(Form_View& View, frmShip& F) {
     Line->addWidget(View.Make(F.lblPause, "warn"));
     View.When_Shown([&View, &F, State] {
         const Simulator_State& S = View.Sim.State;
-        const bool Moves = S.Nav_SOG != 0;
-        State->setText(QString::fromLatin1(S.Freeze_Active ? "Frozen" : Moves ? "Under way" : "Stopped"));
-        Show_State(State, "role", S.Freeze_Active ? "warn" : Moves ? "good" : "dim");
-        for (const auto& [Key, Active] :
-             {std::pair(&F.cmdFreeze, S.Freeze_Active), {&F.cmdPause, S.Pause_Active}})
+        const bool Moves = S.Of<Navdata_State>().Nav_SOG != 0;
+        State->setText(QString::fromLatin1(S.Of<Shell_State>().Freeze_Active ? "Frozen"
+                                           : Moves                           ? "Under way"
+                                                                             : "Stopped"));
+        Show_State(State, "role", S.Of<Shell_State>().Freeze_Active ? "warn" : Moves ? "good" : "dim");
+        for (const auto& [Key, Active] : {std::pair(&F.cmdFreeze, S.Of<Shell_State>().Freeze_Active),
+                                          {&F.cmdPause, S.Of<Shell_State>().Pause_Active}})
             Show_State(View.Widget_Of(*Key), "state", Active ? "warn" : "");
     });
     return Line;

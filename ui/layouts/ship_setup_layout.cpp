@@ -1,5 +1,5 @@
-#include "ownship/ship/frm_set_sog.hpp"
-#include "ownship/ship/frm_ship_setup.hpp"
+#include "ownship/set_sog/frm_set_sog.hpp"
+#include "ownship/setup/frm_ship_setup.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
 namespace brinewright {

@@ -1,4 +1,4 @@
-#include "shell/frm_traffic.hpp"
+#include "shell/monitors/traffic/frm_traffic.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
 #include <QFontMetrics>

@@ -1,4 +1,6 @@
-#include "sensors/frm_wind.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "sensors/wind/frm_wind.hpp"
+#include "sensors/wind/wind_state.hpp"
 #include "ui/instruments/wind_dial.hpp"
 #include "ui/layouts/layout_parts.hpp"
 #include "ui/layouts/sensor_parts.hpp"
@@ -8,8 +10,12 @@ namespace brinewright {
 namespace {
 
 Wind_Reading Read_Wind(const Simulator_State& S, const frmWind& F) {
-    return {F.Relative_Dir,           F.Relative_Speed,       S.Wind_Direction[F.Instance],
-            S.Wind_Speed[F.Instance], S.Gyro_HDG[F.Instance], To_Screen(F.cmbUnits.Text())};
+    return {F.Relative_Dir,
+            F.Relative_Speed,
+            S.Of<Wind_State>().Wind_Direction[F.Instance],
+            S.Of<Wind_State>().Wind_Speed[F.Instance],
+            S.Of<Gyro_State>().Gyro_HDG[F.Instance],
+            To_Screen(F.cmbUnits.Text())};
 }
 
 // Follows the list of units, as the labels of the window do that stand beside other speeds.

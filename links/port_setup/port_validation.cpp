@@ -1,0 +1,122 @@
+#include "links/port_setup/port_validation.hpp"
+
+#include "links/port_setup/frm_setup.hpp"
+#include "sentences/number_pattern.hpp"
+#include "sentences/number_text.hpp"
+#include "shell/state/simulator.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+namespace brinewright {
+
+namespace {
+
+constexpr std::int32_t First_TCP_Port = 1024, First_UDP_Port = 1, Last_Port = 65535;
+constexpr std::size_t Longest_Address = 15;
+
+// Gives the message for an invalid text, or nothing; a valid text may be put into its plain form.
+using Rule = std::function<std::string(std::string& Text)>;
+
+std::string Check_TCP_Port(std::string& Text) {
+    const auto Port = Parse_Port_Number(Text, First_TCP_Port, Last_Port);
+    if (!Port)
+        return Text + " is not a valid port number! Has to be an integer value in the range 1024-65535";
+    Text = std::to_string(*Port);
+    return {};
+}
+
+std::string Check_UDP_Port(const Extra_State& Extra, std::string& Text) {
+    // A link without a port shows a blank box, so a blank one takes the port away.
+    if (Text.find_first_not_of(' ') == std::string::npos) {
+        Text.clear();
+        return {};
+    }
+    const auto Port = Parse_Port_Number(Text, First_UDP_Port, Last_Port);
+    if (!Port) return Text + " is not a valid port number! Has to be an integer value in the range 1-65535";
+    std::string Conflict = UDP_Port_Conflict(Extra, *Port);
+    if (Conflict.empty()) Text = std::to_string(*Port);
+    return Conflict;
+}
+
+std::string Check_Remote_Host(std::string& Text) {
+    if (Is_Host_Address(Text)) return {};
+    return Text + " is not a valid IP address! Has to be in the range 1.0.0.1 to 255.255.255.255";
+}
+
+void Check_When_Left(Simulator& Sim, Text_Box& Box, std::string& Valid, Rule Its_Rule) {
+    Valid = Box.Text();
+    Box.Got_Focus = [&Box] { Box.Select_All(); };
+    Box.Lost_Focus = [&Sim, &Box, &Valid, Its_Rule = std::move(Its_Rule)] {
+        if (Box.Text() == Valid) return;
+        std::string Text = Box.Text();
+        const std::string Message = Its_Rule(Text);
+        if (Message.empty()) Valid = Text;
+        Box.Set_Text(Valid);
+        if (!Message.empty()) Sim.Windows.Boxes.Show(Message, "", Box_Icon::Stop);
+    };
+}
+
+// Takes a group of at most three digits off the head of Text; nothing when there is none.
+std::optional<int> Take_Group(std::string_view& Text) {
+    const auto End = std::min(Text.find('.'), Text.size());
+    const std::string_view Group = Text.substr(0, End);
+    if (Group.empty() || Group.size() > 3) return std::nullopt;
+    int Value = 0;
+    for (const char C : Group) {
+        if (C < '0' || C > '9') return std::nullopt;
+        Value = Value * 10 + (C - '0');
+    }
+    Text.remove_prefix(End);
+    return Value;
+}
+
+template <class Records>
+bool Any_Has_Port(const Records& All, std::int32_t Port) {
+    return std::any_of(All.begin(), All.end(), [&](const auto& R) { return R.UDP_Port == Port; });
+}
+
+} // namespace
+
+std::optional<std::int32_t> Parse_Port_Number(std::string_view Text, std::int32_t First, std::int32_t Last) {
+    while (!Text.empty() && Text.front() == ' ') Text.remove_prefix(1);
+    while (!Text.empty() && Text.back() == ' ') Text.remove_suffix(1);
+    const bool Is_Number =
+        Text.find_first_not_of("0123456789.,") == std::string_view::npos &&
+        std::count_if(Text.begin(), Text.end(), [](char C) { return C == '.' || C == ','; }) <= 1;
+    const double Value = Val_Dot(Text);
+    if (!Is_Number || Value != std::floor(Value) || Value < First || Value > Last) return std::nullopt;
+    return static_cast<std::int32_t>(Value);
+}
+
+bool Is_Host_Address(std::string_view Text) {
+    if (Text.size() > Longest_Address) return false;
+    for (int Which = 1; Which <= 4; ++Which) {
+        const auto Group = Take_Group(Text);
+        const int Least = Which == 1 || Which == 4 ? 1 : 0;
+        if (!Group || *Group < Least || *Group > 255) return false;
+        if (Text.starts_with('.') != (Which < 4)) return false;
+        if (Which < 4) Text.remove_prefix(1);
+    }
+    return Text.empty();
+}
+
+std::string UDP_Port_Conflict(const Extra_State& Extra, std::int32_t Port) {
+    const char* Owner = Any_Has_Port(Extra.Extra_GNSS, Port)   ? "GNSS"
+                        : Any_Has_Port(Extra.Extra_Gyro, Port) ? "Gyro"
+                                                               : nullptr;
+    if (!Owner) return {};
+    return "Port " + Number_Text(Port) + " is already in use for Additional " + Owner + ". Select another.";
+}
+
+void Wire_Validation(Simulator& Sim, frmSetup& F) {
+    Check_When_Left(Sim, F.txtPort, F.Valid_Port, Check_TCP_Port);
+    for (int K = 1; K <= UDP_Link_Count; ++K)
+        Check_When_Left(Sim, F.txtUDP_port[K], F.Valid_UDP_Port[K], [&Sim](std::string& Text) {
+            return Check_UDP_Port(Sim.State.Of<Extra_State>(), Text);
+        });
+    Check_When_Left(Sim, F.txtUDP_RemoteHost, F.Valid_Remote_Host, Check_Remote_Host);
+}
+
+} // namespace brinewright

@@ -1,0 +1,70 @@
+#include "links/setup_file/setup_file.hpp"
+#include "links/setup_file/setup_sections.hpp"
+#include "links/setup_file/setup_sentences.hpp"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace brinewright {
+
+namespace {
+
+constexpr std::string_view UTF8_Mark = "\xEF\xBB\xBF"; // some editors put it in front of what they save
+
+// The section of a sentence that has one of its own comes behind all others.
+std::vector<std::string_view> Later_Sections(Window_Span Windows) {
+    std::vector<std::string_view> Later = Sections_Of_Sentences(Windows);
+    for (const Setup_Section& Section : Setup_Sections()) std::erase(Later, Section.Marker);
+    return Later;
+}
+
+const Setup_Section* Find_Section(std::string_view Marker) {
+    const auto Sections = Setup_Sections();
+    const auto Found = std::find_if(Sections.begin(), Sections.end(),
+                                    [&](const Setup_Section& Section) { return Section.Marker == Marker; });
+    return Found == Sections.end() ? nullptr : &*Found;
+}
+
+void Write_Marker(Setup_Writer& Writer, std::string_view Marker) {
+    Field(Writer, std::string(Marker));
+    End_Line(Writer);
+}
+
+} // namespace
+
+bool Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Windows) {
+    bool Known = false;
+    Setup_Reader Reader{Bytes};
+    if (Bytes.starts_with(UTF8_Mark)) Reader.Position = UTF8_Mark.size();
+    const auto Later = Later_Sections(Windows);
+    while (!At_End(Reader)) {
+        // Whatever is not a known marker is passed over field by field: unknown sections, junk, surplus
+        // fields.
+        const std::string_view Text = Next_Field(Reader).Text;
+        if (!Text.starts_with("REM")) continue;
+        const Setup_Section* Section = Find_Section(Text);
+        if (!Section && std::find(Later.begin(), Later.end(), Text) == Later.end()) continue;
+        if (Section) Section->Read(Reader, State);
+        Read_Sentences(Reader, State, Windows, Text);
+        Known = true;
+    }
+    return Known;
+}
+
+std::string Write_Setup(const Simulator_State& State, Window_Span Windows) {
+    Setup_Writer Writer;
+    Simulator_State Choices = State; // their rows lead to variables, and these are not to be written to
+    for (const Setup_Section& Section : Setup_Sections()) {
+        Write_Marker(Writer, Section.Marker);
+        Section.Write(Writer, State);
+        Write_Sentences(Writer, Choices, Windows, Section.Marker);
+    }
+    for (const std::string_view Marker : Later_Sections(Windows)) {
+        Write_Marker(Writer, Marker);
+        Write_Sentences(Writer, Choices, Windows, Marker);
+    }
+    return std::move(Writer.Bytes);
+}
+
+} // namespace brinewright

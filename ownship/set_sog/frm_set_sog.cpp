@@ -1,0 +1,92 @@
+#include "ownship/set_sog/frm_set_sog.hpp"
+
+#include "ownship/navdata_state.hpp"
+#include "ownship/ship/frm_ship.hpp"
+#include "ownship/ship/ship_controls.hpp"
+#include "platform/tool_tips.hpp"
+#include "sentences/number_pattern.hpp"
+#include "shell/kit/control_text.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/state/windows.hpp"
+
+namespace brinewright {
+
+namespace {
+
+// In twentieths of a point; the place is below cmdSetSOG, from the corner of the ship window.
+constexpr float Form_Height = 2430, Form_Width = 3195;
+constexpr float Place_Left = 10600, Place_Top = 7140; // below the button, from the ship window
+
+constexpr const char* SOG_Pattern = "0.00";
+constexpr const char* COG_Pattern = "000.00";
+
+void Refuse_SOG(Simulator& Sim, const char* Way, float Most_kn) {
+    Sim.Windows.Boxes.Show(std::string("SOG ") + Way + " can't be more than Max " + Format_Dot(Most_kn, "0"),
+                           "Invalid SOG", Box_Icon::None, Box_Buttons::OK_Cancel);
+}
+
+void txtSOG_LostFocus(Simulator& Sim, frmSetSOG& F) {
+    const Simulator_State& S = Sim.State;
+    float SOG_kn = Number_Shown(F.txtSOG.Text());
+    if (SOG_kn > 0 && SOG_kn > S.Of<Navdata_State>().Max_Speed_Ahead) {
+        Refuse_SOG(Sim, "Ahead", S.Of<Navdata_State>().Max_Speed_Ahead);
+        SOG_kn = S.Of<Navdata_State>().Max_Speed_Ahead;
+    } else if (SOG_kn < 0 && SOG_kn < -S.Of<Navdata_State>().Max_Speed_Astern) {
+        Refuse_SOG(Sim, "Astern", S.Of<Navdata_State>().Max_Speed_Astern);
+        SOG_kn = -S.Of<Navdata_State>().Max_Speed_Astern;
+    }
+    F.txtSOG.Set_Text(Format_Dot(SOG_kn, SOG_Pattern));
+}
+
+void txtCOG_LostFocus(frmSetSOG& F) {
+    const double Typed_deg = Val_Dot(F.txtCOG.Text());
+    F.txtCOG.Set_Text(Format_Dot(Typed_deg < 0 || Typed_deg >= 360 ? 0 : Typed_deg, COG_Pattern));
+}
+
+// The speed first and the slider last: where the slider moves, its whole percent replaces what was typed.
+// This order is required.
+void cmdOK_Click(Simulator& Sim, frmSetSOG& F) {
+    Simulator_State& S = Sim.State;
+    S.Of<Navdata_State>().Nav_SOG = Number_Shown(F.txtSOG.Text());
+    S.Of<Navdata_State>().Nav_HDG = Val_Dot(F.txtCOG.Text());
+    if (auto* const Ship = Open_One<frmShip>(Sim)) {
+        frmShip& W = *Ship;
+        W.sldThrottle.Set_Value(Throttle_Place(S, W));
+        Show_SOG(W, S.Of<Navdata_State>().Nav_SOG, "0.0"); // a slider that stayed has not written it
+    }
+    Sim.Windows.Unload(F);
+}
+
+void frmSetSOG_Load(Simulator& Sim, Form& Opened) {
+    auto& F = static_cast<frmSetSOG&>(Opened);
+    const frmShip& W = *Open_One<frmShip>(Sim);
+    F.Set_Place(W.Left + Place_Left, W.Top + Place_Top, Form_Width, Form_Height);
+    F.txtSOG.Set_Text(Format_Dot(Sim.State.Of<Navdata_State>().Nav_SOG, SOG_Pattern));
+    F.txtCOG.Set_Text(Format_Dot(Sim.State.Of<Navdata_State>().Nav_COG, COG_Pattern));
+    F.txtSOG.Lost_Focus = [&] { txtSOG_LostFocus(Sim, F); };
+    F.txtCOG.Lost_Focus = [&] { txtCOG_LostFocus(F); };
+    F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };
+    F.cmdCancel.Click = [&] { Sim.Windows.Unload(F); };
+}
+
+} // namespace
+
+frmSetSOG::frmSetSOG(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Dialog) {
+    Caption = "Set SOG/COG";
+    const Tip_Row Tips[] = {
+        {lblSOG, "Speed over ground, knots, negative astern"},
+        {txtSOG, "Speed over ground, knots, negative astern; up to the limits of the ship setup"},
+        {lblSOGUnit, "Unit of the speed"},
+        {lblCOG, "Heading, 0 to under 360 degrees true"},
+        {txtCOG, "Heading, 0 to under 360 degrees true"},
+        {lblCOGUnit, "Unit of the heading"},
+        {cmdOK, "The ship takes this speed, to a whole percent of the throttle, and this heading"},
+        {cmdCancel, "Speed and heading stay as they are"},
+    };
+    Show_Tips(Tips);
+}
+
+const Window_Class Set_SOG_Window{
+    .Name = frmSetSOG::Class_Name, .Make = Make_Single<frmSetSOG>, .Load = frmSetSOG_Load};
+
+} // namespace brinewright

@@ -1,0 +1,57 @@
+#include "shell/kit/value_bars.hpp"
+
+#include "ownship/geodesy/angles.hpp"
+#include "shell/kit/control_text.hpp"
+#include "shell/state/simulator.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brinewright {
+
+double Signed_Draw(Simulator& Sim) { return 2 * (Sim.Services.Random.Draw() - 0.5); }
+
+int Direction_Place(const Scroll_Bar& Bar, double Angle_deg) {
+    const int Circle = Bar.Max;
+    return Bar_Place(Bar, Normalise_Direction(Angle_deg), Bar_Steps) % Circle;
+}
+
+float Bar_Value(const Scroll_Bar& Bar) { return static_cast<float>(Bar.Value()) / Bar_Steps; }
+
+std::string Direction_Shown(const Scroll_Bar& Bar) { return Format_Dot(Bar_Value(Bar), "000.0"); }
+
+void Move_Bar(Scroll_Bar& Bar, int Place) {
+    if (Bar.Value() != Place)
+        Bar.Set_Value(Place);
+    else if (Bar.Change)
+        Bar.Change();
+}
+
+void Leave_Box(Simulator& Sim, const Form& W, const Box_Of_Bar& B) {
+    const std::string& Typed = B.Box.Text();
+    const double Tenths = std::nearbyint(Val_Dot(Typed) * Bar_Steps);
+    const int Least = std::min<int>(B.Bar.Min, B.Bar.Max), Most = std::max<int>(B.Bar.Min, B.Bar.Max);
+    if (Tenths >= Least && Tenths <= Most) {
+        Move_Bar(B.Bar, static_cast<int>(Tenths));
+    } else if (Typed != B.Shown) {
+        Sim.Windows.Boxes.Show(B.Refusal, W.Caption, Box_Icon::Warning);
+        B.Box.Set_Text(B.Shown);
+    }
+}
+
+float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box) {
+    const double Typed = std::abs(Val_Dot(Box.Text()));
+    Bar.Set_Value(Bar_Place(Bar, Typed, Bar_Steps));
+    return Record_Number(Typed);
+}
+
+void Show_Size(Label& Shown, Text_Box& Box, float Value) {
+    Shown.Caption = Format_Dot(Value, "0.0");
+    Box.Set_Text(Shown.Caption);
+}
+
+void Hide(std::initializer_list<Visible_Control*> Parts) {
+    for (Visible_Control* Part : Parts) Part->Visible = false;
+}
+
+} // namespace brinewright

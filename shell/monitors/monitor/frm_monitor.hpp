@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/controls.hpp"
+#include "platform/form.hpp"
+#include "shell/state/window_class.hpp"
+
+namespace brinewright {
+
+// "Comport Monitor": one pane for each link in use, with what left. A quick look: a pane holds four sentences
+// at most.
+struct frmMonitor : Form {
+    static constexpr const char* Class_Name = "frmMonitor";
+
+    explicit frmMonitor(Desktop& Windows);
+
+    Control_Array<Label, 1, 28> lblComport;
+    Control_Array<Text_Box, 1, 28> txtCom;
+    Control_Array<Button, 1, 28> cmdFreeze;
+    Control_Array<Button, 1, 28> cmdClear;
+};
+
+extern const Window_Class Monitor_Window;
+
+} // namespace brinewright

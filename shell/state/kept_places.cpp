@@ -1,0 +1,39 @@
+#include "shell/state/kept_places.hpp"
+
+#include "sentences/number_pattern.hpp"
+#include "shell/state/shell_state.hpp"
+#include "shell/state/simulator.hpp"
+
+#include <algorithm>
+
+namespace brinewright {
+
+void Keep_Place(Simulator& Sim, const Form& Window) {
+    Simulator_State& S = Sim.State;
+    // The list is full at 20 entries: the subscript failure that follows is required.
+    Open_Form_Entry& Entry = S.Of<Shell_State>().Open_Form_List[S.Of<Shell_State>().Open_Form_Count + 1];
+    Entry.Name = Window.Name;
+    Entry.Index = static_cast<std::int16_t>(Val(Window.Tag));
+    Entry.Top = Window.Top;
+    Entry.Left = Window.Left;
+    Entry.Height = Window.Height;
+    Entry.Width = Window.Width;
+    ++S.Of<Shell_State>().Open_Form_Count;
+}
+
+void Restore_Place(const Simulator& Sim, Form& Window) {
+    const auto Form_Index = static_cast<std::int16_t>(Val(Window.Tag));
+    const Simulator_State& S = Sim.State;
+    const int Count =
+        std::min<int>(S.Of<Shell_State>().Open_Form_Count, S.Of<Shell_State>().Open_Form_List.Last_Index);
+    for (int I = 1; I <= Count; ++I) {
+        const Open_Form_Entry& Entry = S.Of<Shell_State>().Open_Form_List[I];
+        if (Entry.Index != Form_Index) continue;
+        Window.Resize(Entry.Width, Entry.Height);
+        Window.Left = Entry.Left;
+        Window.Top = Entry.Top;
+        return;
+    }
+}
+
+} // namespace brinewright

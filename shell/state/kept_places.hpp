@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/form.hpp"
+
+namespace brinewright {
+
+struct Simulator;
+
+// Appends the window's name, form index (its Tag) and place to Open_Form_List. Throws the subscript failure
+// when the list of 20 is full.
+void Keep_Place(Simulator& Sim, const Form& Window);
+
+// Applies the place of the first entry of Open_Form_List with the window's form index (its Tag); does nothing
+// when there is none.
+void Restore_Place(const Simulator& Sim, Form& Window);
+
+} // namespace brinewright

@@ -1,0 +1,96 @@
+#include "shell/state/windows.hpp"
+
+#include "platform/run_time_error.hpp"
+#include "sentences/number_text.hpp"
+#include "shell/state/kept_places.hpp"
+#include "shell/state/shell_state.hpp"
+#include "shell/state/simulator.hpp"
+
+#include <algorithm>
+#include <string>
+
+namespace brinewright {
+
+namespace {
+
+void Focus_Open(Simulator& Sim, const Window_Class& Class, Form& Window) {
+    if (!Class.Focused_Instead) return Sim.Windows.Activate(Window);
+    if (Form* Instead = Open_Form(Sim, Class.Focused_Instead, Window.Instance))
+        Sim.Windows.Activate(*Instead);
+}
+
+std::string Numbered(std::string_view Pattern, int Instance) {
+    std::string Text;
+    for (const char C : Pattern) Text += C == '#' ? Number_Text(Instance) : std::string(1, C);
+    return Text;
+}
+
+// Keeping the place comes last, since it fails when the list of places is full.
+void Watch_Closing(Simulator& Sim, Form& Window, bool Keeps_Place) {
+    Window.On_Unload = [&Sim, &Window, Keeps_Place, Own = std::move(Window.On_Unload)] {
+        if (Own) Own();
+        Sim.Told.Windows.Tell();
+        if (Keeps_Place) Keep_Place(Sim, Window);
+    };
+}
+
+} // namespace
+
+void Open_Window(Simulator& Sim, const Window_Class& Class, int Instance) {
+    if (Instance != std::clamp(Instance, Class.Count == 0 ? 0 : 1, Class.Count))
+        throw Run_Time_Error(error_text::Subscript);
+    if (Class.May_Open && !Class.May_Open(Sim)) return;
+    if (Form* Window = Open_Form(Sim, Class.Name, Instance)) return Focus_Open(Sim, Class, *Window);
+    const std::shared_ptr<Form> Window = Class.Make(Sim.Windows, Instance);
+    if (Class.Load) Class.Load(Sim, *Window);
+    const bool Keeps_Place = Class.First_Form_Index != form_index::None;
+    if (Keeps_Place) Restore_Place(Sim, *Window);
+    Watch_Closing(Sim, *Window, Keeps_Place);
+    Sim.Windows.Show(Window, Class.With_Focus);
+    if (Class.Caption) Window->Set_Caption(Numbered(Class.Caption, Instance));
+    if (Class.Width > 0) Window->Resize(Class.Width, Window->Height);
+    Sim.Told.Windows.Tell();
+    if (Class.Shown) Class.Shown(Sim, *Window);
+}
+
+void Open_Window(Simulator& Sim, std::string_view Class_Name, int Instance) {
+    if (const Window_Class* Class = Find_Class(Sim, Class_Name)) Open_Window(Sim, *Class, Instance);
+}
+
+void Open_Window_Of_Index(Simulator& Sim, std::int16_t Form_Index) {
+    const Window_Class* Class = Class_Of_Index(Sim, Form_Index);
+    if (!Class) return;
+    if (Form_Index != form_index::Ship) Sim.State.Of<Shell_State>().Open_Form_Index = Form_Index;
+    Open_Window(Sim, *Class, Instance_Of_Index(*Class, Form_Index));
+}
+
+const Window_Class* Find_Class(const Simulator& Sim, std::string_view Class_Name) {
+    for (const Window_Class* Class : Sim.Window_Table)
+        if (Class->Name == Class_Name) return Class;
+    return nullptr;
+}
+
+const Window_Class* Class_Of_Index(const Simulator& Sim, std::int16_t Form_Index) {
+    for (const Window_Class* Class : Sim.Window_Table)
+        if (Class->First_Form_Index != form_index::None && Form_Index >= Class->First_Form_Index &&
+            Form_Index < Class->First_Form_Index + std::max(Class->Count, 1))
+            return Class;
+    return nullptr;
+}
+
+int Instance_Of_Index(const Window_Class& Class, std::int16_t Form_Index) {
+    return Class.Count == 0 ? 0 : Form_Index - Class.First_Form_Index + 1;
+}
+
+Form* Open_Form(const Simulator& Sim, std::string_view Class_Name, int Instance) {
+    for (const auto& F : Sim.Windows.Forms)
+        if (F->Loaded && F->Instance == Instance && F->Name == Class_Name) return F.get();
+    return nullptr;
+}
+
+Form* Open_Form_Of_Index(const Simulator& Sim, std::int16_t Form_Index) {
+    const Window_Class* Class = Class_Of_Index(Sim, Form_Index);
+    return Class ? Open_Form(Sim, Class->Name, Instance_Of_Index(*Class, Form_Index)) : nullptr;
+}
+
+} // namespace brinewright
