@@ -22,8 +22,8 @@ struct frmMain : Form {
     Menu_Item mnuFileSave{*this, "mnuFileSave", "&Save", "File"};
     Menu_Item mnuFileSaveAs{*this, "mnuFileSaveAs", "Save &As", "File"};
     Menu_Item mnuFileExit{*this, "mnuFileExit", "E&xit", "File"};
-    Menu_Item mnuMode_Ship{*this, "mnuMode", "&Ship simulator", "Mode", 1};
-    Menu_Item mnuMode_Sensor{*this, "mnuMode", "S&ensor", "Mode", 2};
+    Menu_Item mnuMode_Ship{Stand(*this).Element(1), "mnuMode", "&Ship simulator", "Mode"};
+    Menu_Item mnuMode_Sensor{Stand(*this).Element(2), "mnuMode", "S&ensor", "Mode"};
     Menu_Item mnuSetupShip{*this, "mnuSetupShip", "Ship setup", "Setup"};
     Menu_Item mnuSetupStartOption{*this, "mnuSetupStartOption", "Start with navdata from last session",
                                   "Setup"};
