@@ -9,7 +9,7 @@ namespace {
 
 Wind_Reading Read_Wind(const Simulator_State& S, const frmWind& F) {
     return {F.Relative_Dir,           F.Relative_Speed,       S.Wind_Direction[F.Instance],
-            S.Wind_Speed[F.Instance], S.Gyro_HDG[F.Instance], To_Screen(F.cmbUnits.Text())};
+            S.Wind_Speed[F.Instance], S.Gyro_HDG[F.Instance], F.cmbUnits.Text()};
 }
 
 // Follows the list of units, as the labels of the window do that stand beside other speeds.
