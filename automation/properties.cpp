@@ -135,7 +135,7 @@ using Seen = Visible_Control;
 
 constexpr std::array Control_Properties{
     Control_Property{"Enabled", Read<Seen, &Seen::Enabled>, Settable::Never, Listed},
-    Control_Property{"Visible", Read<Seen, &Seen::Visible>, Settable::Never, Listed},
+    Control_Property{"Visible", Read<Seen, &Seen::Shown>, Settable::Never, Listed},
     Control_Property{"Caption", Read<Seen, &Seen::Caption>, Settable::Never, Listed},
     Control_Property{"Text", Read_Text, Settable::By_Text, Listed},
     Control_Property{"Value", Read_Value, Settable::Value, Listed},

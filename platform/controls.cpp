@@ -37,29 +37,35 @@ std::string_view Trim(std::string_view Text) {
 
 } // namespace
 
-Button::Button(Form& F, std::string N, std::string Text, int I)
-    : Visible_Control(F, Control_Kind::Button, std::move(N), I) {
-    Caption = std::move(Text);
+Stand::Stand(const Frame& Its_Frame) : Owner(Its_Frame.Owner), In(&Its_Frame) {}
+Stand Stand::Element(int I) const {
+    Stand One = *this;
+    One.Index = I;
+    return One;
 }
+
+Visible_Control::Visible_Control(Stand At, Control_Kind K, std::string N, std::string Text, std::string Tip)
+    : Control(At.Owner, K, std::move(N), At.Index), In(At.In) {
+    Caption = std::move(Text);
+    Tool_Tip = std::move(Tip);
+}
+bool Visible_Control::Shown() const { return *Visible && (!In || In->Shown()); }
+
+Button::Button(Stand At, std::string N, std::string Text, std::string Tip)
+    : Visible_Control(At, Control_Kind::Button, std::move(N), std::move(Text), std::move(Tip)) {}
 void Button::User_Click(Mouse_Button) { Run(Click); }
 
-Label::Label(Form& F, std::string N, std::string Text, int I)
-    : Visible_Control(F, Control_Kind::Label, std::move(N), I) {
-    Caption = std::move(Text);
-}
+Label::Label(Stand At, std::string N, std::string Text, std::string Tip)
+    : Visible_Control(At, Control_Kind::Label, std::move(N), std::move(Text), std::move(Tip)) {}
 void Label::User_Click(Mouse_Button B) {
     if (Mouse_Down) Mouse_Down(B);
 }
 
-Frame::Frame(Form& F, std::string N, std::string Text, int I)
-    : Visible_Control(F, Control_Kind::Frame, std::move(N), I) {
-    Caption = std::move(Text);
-}
+Frame::Frame(Stand At, std::string N, std::string Text, std::string Tip)
+    : Visible_Control(At, Control_Kind::Frame, std::move(N), std::move(Text), std::move(Tip)) {}
 
-Check_Box::Check_Box(Form& F, std::string N, std::string Text, int I)
-    : Visible_Control(F, Control_Kind::Check_Box, std::move(N), I) {
-    Caption = std::move(Text);
-}
+Check_Box::Check_Box(Stand At, std::string N, std::string Text, std::string Tip)
+    : Visible_Control(At, Control_Kind::Check_Box, std::move(N), std::move(Text), std::move(Tip)) {}
 void Check_Box::Set_Value(bool New) {
     if (New == Checked) return;
     Checked = New;
@@ -68,8 +74,9 @@ void Check_Box::Set_Value(bool New) {
 }
 void Check_Box::User_Set(const Control_Value& V) { Set_Value(As_Bool(V)); }
 
-Combo_Box::Combo_Box(Form& F, std::string N, std::string Text, int I)
-    : Visible_Control(F, Control_Kind::Combo_Box, std::move(N), I), Shown(std::move(Text)) {}
+Combo_Box::Combo_Box(Stand At, std::string N, std::string Text, std::string Tip)
+    : Visible_Control(At, Control_Kind::Combo_Box, std::move(N), {}, std::move(Tip)),
+      Shown_Text(std::move(Text)) {}
 
 std::int32_t Combo_Box::Item_Data() const {
     return Chosen < 0 ? 0 : Entries[static_cast<std::size_t>(Chosen)].Data;
@@ -81,19 +88,19 @@ void Combo_Box::Add_Item(std::string Text, std::int32_t Data) {
 void Combo_Box::Set_Item(int Which, std::string Text) {
     if (Which < 0 || Which >= static_cast<int>(Entries.size())) Refuse_Value();
     Entries[static_cast<std::size_t>(Which)].Text = std::move(Text);
-    if (Which == Chosen) Shown = Entries[static_cast<std::size_t>(Which)].Text;
+    if (Which == Chosen) Shown_Text = Entries[static_cast<std::size_t>(Which)].Text;
     Touch();
 }
 void Combo_Box::Clear() {
     Entries.clear();
     Chosen = -1;
-    Shown.clear();
+    Shown_Text.clear();
     Touch();
 }
 void Combo_Box::Set_List_Index(int New) {
     if (New < -1 || New >= static_cast<int>(Entries.size())) Refuse_Value();
     Chosen = New;
-    Shown = New < 0 ? std::string() : Entries[static_cast<std::size_t>(New)].Text;
+    Shown_Text = New < 0 ? std::string() : Entries[static_cast<std::size_t>(New)].Text;
     Touch();
     if (New >= 0) Run(Click);
 }
@@ -104,8 +111,8 @@ void Combo_Box::Choose_Data(std::int32_t Data) {
 }
 void Combo_Box::Set_Text(std::string New) {
     if (!Free_Text) Refuse_Value();
-    if (New == Shown) return;
-    Shown = std::move(New);
+    if (New == Shown_Text) return;
+    Shown_Text = std::move(New);
     Chosen = -1;
     Touch();
     Run(Change);
@@ -132,8 +139,9 @@ void Combo_Box::User_Set(const Control_Value& V) {
 }
 void Combo_Box::Lose_Focus() { Run(Lost_Focus); }
 
-Text_Box::Text_Box(Form& F, std::string N, std::string Text, int I)
-    : Visible_Control(F, Control_Kind::Text_Box, std::move(N), I), Content(std::move(Text)) {}
+Text_Box::Text_Box(Stand At, std::string N, std::string Text, std::string Tip)
+    : Visible_Control(At, Control_Kind::Text_Box, std::move(N), {}, std::move(Tip)),
+      Content(std::move(Text)) {}
 void Text_Box::Set_Text(std::string New) {
     if (New == Content) return;
     Content = std::move(New);
@@ -154,9 +162,10 @@ void Text_Box::User_Set(const Control_Value& V) {
 void Text_Box::Gain_Focus() { Run(Got_Focus); }
 void Text_Box::Lose_Focus() { Run(Lost_Focus); }
 
-Scroll_Bar::Scroll_Bar(Form& F, std::string N, int At_Min, int At_Max, int Large, int I)
-    : Visible_Control(F, Control_Kind::Scroll_Bar, std::move(N), I), Min(*this, At_Min), Max(*this, At_Max),
-      Large_Change(Large), Position(std::clamp(0, std::min(At_Min, At_Max), std::max(At_Min, At_Max))) {}
+Scroll_Bar::Scroll_Bar(Stand At, std::string N, int At_Min, int At_Max, int Large, std::string Tip)
+    : Visible_Control(At, Control_Kind::Scroll_Bar, std::move(N), {}, std::move(Tip)), Min(*this, At_Min),
+      Max(*this, At_Max), Large_Change(Large),
+      Position(std::clamp(0, std::min(At_Min, At_Max), std::max(At_Min, At_Max))) {}
 void Scroll_Bar::Set_Value(std::int64_t New) {
     if (New < std::min<int>(*Min, *Max) || New > std::max<int>(*Min, *Max)) Refuse_Value();
     if (New == Position) return;
@@ -181,18 +190,18 @@ std::int64_t Scroll_Bar::Limited(std::int64_t Wanted) const {
     return std::clamp<std::int64_t>(Wanted, std::min<int>(*Min, *Max), std::max<int>(*Min, *Max));
 }
 
-Slider::Slider(Form& F, std::string N, int At_Min, int At_Max, int Its_Tick_Step, int I)
-    : Scroll_Bar(F, std::move(N), At_Min, At_Max, 10, I), Tick_Step(Its_Tick_Step) {}
+Slider::Slider(Stand At, std::string N, int At_Min, int At_Max, int Its_Tick_Step, std::string Tip)
+    : Scroll_Bar(At, std::move(N), At_Min, At_Max, 10, std::move(Tip)), Tick_Step(Its_Tick_Step) {}
 void Slider::Set_Range(int At_Min, int At_Max) {
     Min = At_Min;
     Max = At_Max;
     Set_Value(Value());
 }
 
-Option_Button::Option_Button(Form& F, Option_Group& Its_Group, std::string N, std::string Text, int I)
-    : Visible_Control(F, Control_Kind::Option_Button, std::move(N), I), Group(Its_Group) {
-    Caption = std::move(Text);
-}
+Option_Button::Option_Button(Stand At, Option_Group& Its_Group, std::string N, std::string Text,
+                             std::string Tip)
+    : Visible_Control(At, Control_Kind::Option_Button, std::move(N), std::move(Text), std::move(Tip)),
+      Group(Its_Group) {}
 bool Option_Button::Value() const { return Group.Selected() == Index; }
 void Option_Button::User_Click(Mouse_Button) { Group.Select(Index); }
 void Option_Button::User_Set(const Control_Value& V) {
@@ -200,10 +209,16 @@ void Option_Button::User_Set(const Control_Value& V) {
     Group.Select(Index);
 }
 
-Option_Group::Option_Group(Form& F, const std::string& Name, const std::vector<std::string>& Captions) {
-    for (const std::string& Text : Captions)
-        Buttons.push_back(
-            std::make_unique<Option_Button>(F, *this, Name, Text, static_cast<int>(Buttons.size())));
+Option_Group::Option_Group(Stand At, const std::string& Name, std::initializer_list<Wording> Choices) {
+    for (const Wording& Choice : Choices) Add(At, Name, Choice.Caption, Choice.Tip);
+}
+Option_Group::Option_Group(Stand At, const std::string& Name, const std::vector<std::string>& Captions) {
+    for (const std::string& Text : Captions) Add(At, Name, Text, {});
+}
+void Option_Group::Add(Stand At, const std::string& Name, std::string Caption, std::string Tip) {
+    const int Index = static_cast<int>(Buttons.size());
+    Buttons.push_back(
+        std::make_unique<Option_Button>(At.Element(Index), *this, Name, std::move(Caption), std::move(Tip)));
 }
 void Option_Group::Select(int Which) {
     if (Which < 0 || Which >= static_cast<int>(Buttons.size())) Refuse_Value();
@@ -216,14 +231,14 @@ void Option_Group::Set_Enabled(bool On) {
     for (const auto& B : Buttons) B->Enabled = On;
 }
 
-Menu_Item::Menu_Item(Form& F, std::string N, std::string Text, std::string Its_Menu, int I)
-    : Visible_Control(F, Control_Kind::Menu_Item, std::move(N), I), Menu(std::move(Its_Menu)) {
-    Caption = std::move(Text);
-}
+Menu_Item::Menu_Item(Stand At, std::string N, std::string Text, std::string Its_Menu, std::string Tip)
+    : Visible_Control(At, Control_Kind::Menu_Item, std::move(N), std::move(Text), std::move(Tip)),
+      Menu(std::move(Its_Menu)) {}
 void Menu_Item::User_Click(Mouse_Button) { Run(Click); }
 
-Grid::Grid(Form& F, std::string N, std::vector<std::string> Column_Titles)
-    : Visible_Control(F, Control_Kind::Grid, std::move(N), No_Index), Columns(std::move(Column_Titles)) {}
+Grid::Grid(Stand At, std::string N, std::vector<std::string> Column_Titles, std::string Tip)
+    : Visible_Control(At, Control_Kind::Grid, std::move(N), {}, std::move(Tip)),
+      Columns(std::move(Column_Titles)) {}
 void Grid::Set_Rows(int Count) {
     if (Count < 0) Refuse_Value();
     if (Count == Row_Count) return;

@@ -3,7 +3,9 @@
 #include "platform/control.hpp"
 #include "platform/timer_queue.hpp"
 
+#include <concepts>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,10 +14,34 @@ namespace brinewright {
 
 using Handler = std::function<void()>;
 
+struct Frame;
+
+// Where a control stands: in its window, or in a frame of it; and which of its array it is. Made from a form
+// or from a frame as a control is declared: Label lblHDG{frmHeading, "lblHDG", "Heading"}.
+struct Stand {
+    Stand(Form& Its_Form) : Owner(Its_Form) {}
+    Stand(const Frame& Its_Frame);
+    Stand Element(int I) const; // one of like controls of one name
+
+    Form& Owner;
+    const Frame* In = nullptr;
+    int Index = Control::No_Index;
+};
+
+// What one of like controls says: its caption and its tool tip.
+struct Wording {
+    constexpr Wording(const char* Its_Caption, const char* Its_Tip = "")
+        : Caption(Its_Caption), Tip(Its_Tip) {}
+    const char* Caption;
+    const char* Tip;
+};
+
 // What the visible kinds have in common. Widths are in twentieths of a point; 0 leaves the width to the view.
 struct Visible_Control : Control {
-    Visible_Control(Form& F, Control_Kind K, std::string N, int I) : Control(F, K, std::move(N), I) {}
+    Visible_Control(Stand At, Control_Kind K, std::string N, std::string Text, std::string Tip);
 
+    const Frame* const In; // null: it stands in the window itself
+    bool Shown() const;    // itself, and every frame around it
     Property<bool> Enabled{*this, true};
     Property<bool> Visible{*this, true};
     Property<std::string> Caption{*this};
@@ -25,27 +51,27 @@ struct Visible_Control : Control {
 };
 
 struct Button : Visible_Control {
-    Button(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Button(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     Handler Click;
     void User_Click(Mouse_Button) override;
     bool Can_Focus() const override { return true; }
 };
 
 struct Label : Visible_Control {
-    Label(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Label(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     std::function<void(Mouse_Button)> Mouse_Down;
     void User_Click(Mouse_Button B) override;
     Control_Value Current() const override { return *Caption; }
 };
 
-// Grouping with a title. Views hide what stands in it together with the frame.
+// Grouping with a title. What stands in it is hidden together with it.
 struct Frame : Visible_Control {
-    Frame(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Frame(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
 };
 
 // Setting the value from code runs Click like a hand would, but only on a change.
 struct Check_Box : Visible_Control {
-    Check_Box(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Check_Box(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     Handler Click;
     bool Value() const { return Checked; }
     void Set_Value(bool New);
@@ -66,7 +92,7 @@ struct Combo_Box : Visible_Control {
         std::int32_t Data = 0;
     };
 
-    Combo_Box(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Combo_Box(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     Handler Click;
     Handler Change;
     Handler Lost_Focus;
@@ -74,7 +100,7 @@ struct Combo_Box : Visible_Control {
 
     const std::vector<Item>& Items() const { return Entries; }
     int List_Index() const { return Chosen; } // -1 = none
-    const std::string& Text() const { return Shown; }
+    const std::string& Text() const { return Shown_Text; }
     std::int32_t Item_Data() const; // of the chosen entry, 0 when none is
 
     void Add_Item(std::string Text, std::int32_t Data = 0);
@@ -87,19 +113,19 @@ struct Combo_Box : Visible_Control {
 
     void User_Set(
         const Control_Value& V) override; // number of the entry, or its text (blanks around it count not)
-    Control_Value Current() const override { return Shown; }
+    Control_Value Current() const override { return Shown_Text; }
     void Lose_Focus() override;
     bool Can_Focus() const override { return true; }
 
   private:
     std::vector<Item> Entries;
     int Chosen = -1;
-    std::string Shown;
+    std::string Shown_Text;
 };
 
 // Setting the text from code runs Change, but only on a change.
 struct Text_Box : Visible_Control {
-    Text_Box(Form& F, std::string N, std::string Text = {}, int I = No_Index);
+    Text_Box(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     Handler Change;
     Handler Got_Focus;
     Handler Lost_Focus;
@@ -125,7 +151,7 @@ struct Text_Box : Visible_Control {
 // Value always lies between Min and Max, whichever of them is the greater: Min stands at the top or left.
 // Setting the value from code runs Change, but only on a change.
 struct Scroll_Bar : Visible_Control {
-    Scroll_Bar(Form& F, std::string N, int At_Min, int At_Max, int Large = 10, int I = No_Index);
+    Scroll_Bar(Stand At, std::string N, int At_Min, int At_Max, int Large = 10, std::string Tip = {});
     Handler Change;
     Property<int> Min;
     Property<int> Max;
@@ -147,7 +173,7 @@ struct Scroll_Bar : Visible_Control {
 
 // A scroll bar with a scale that holds what code gives it within its range too.
 struct Slider : Scroll_Bar {
-    Slider(Form& F, std::string N, int At_Min, int At_Max, int Its_Tick_Step, int I = No_Index);
+    Slider(Stand At, std::string N, int At_Min, int At_Max, int Its_Tick_Step, std::string Tip = {});
     int Tick_Step; // of the scale
     void Set_Value(std::int64_t New) { Scroll_Bar::Set_Value(Limited(New)); }
     void Set_Range(int At_Min, int At_Max); // moves the value into it, which runs Change
@@ -157,7 +183,7 @@ struct Option_Group;
 
 // One button of a group. Selecting it clears the others.
 struct Option_Button : Visible_Control {
-    Option_Button(Form& F, Option_Group& Its_Group, std::string N, std::string Text, int I);
+    Option_Button(Stand At, Option_Group& Its_Group, std::string N, std::string Text, std::string Tip);
     bool Value() const;
     void User_Click(Mouse_Button) override;
     void User_Set(const Control_Value& V) override; // true selects it
@@ -169,7 +195,8 @@ struct Option_Button : Visible_Control {
 // Buttons of one name and indices from 0, one of which at most is selected. Selecting from code runs Click,
 // but only on a change.
 struct Option_Group {
-    Option_Group(Form& F, const std::string& Name, const std::vector<std::string>& Captions);
+    Option_Group(Stand At, const std::string& Name, std::initializer_list<Wording> Choices);
+    Option_Group(Stand At, const std::string& Name, const std::vector<std::string>& Captions);
     std::function<void(int)> Click;
     int Selected() const { return Chosen; } // -1 = none
     void Select(int Which);
@@ -177,12 +204,13 @@ struct Option_Group {
     std::vector<std::unique_ptr<Option_Button>> Buttons;
 
   private:
+    void Add(Stand At, const std::string& Name, std::string Caption, std::string Tip);
     int Chosen = -1;
 };
 
 // Setting the check from code runs nothing.
 struct Menu_Item : Visible_Control {
-    Menu_Item(Form& F, std::string N, std::string Text, std::string Its_Menu, int I = No_Index);
+    Menu_Item(Stand At, std::string N, std::string Text, std::string Its_Menu, std::string Tip = {});
     Handler Click;
     Property<bool> Checked{*this, false};
     std::string Menu; // the title of the menu that it stands in
@@ -200,7 +228,7 @@ struct Grid : Visible_Control {
         bool operator==(const Cell&) const = default;
     };
 
-    Grid(Form& F, std::string N, std::vector<std::string> Column_Titles);
+    Grid(Stand At, std::string N, std::vector<std::string> Column_Titles, std::string Tip = {});
     std::vector<std::string> Columns;
     Handler Row_Chosen;
     int Rows() const { return Row_Count; }
@@ -247,9 +275,22 @@ struct Timer : Control {
 // Like controls of one name with indices First to Last.
 template <class T, int First, int Last>
 struct Control_Array {
+    // All alike, with these arguments behind the name.
     template <class... More>
-    Control_Array(Form& F, const std::string& Name, const More&... Arguments) {
-        for (int I = First; I <= Last; ++I) Elements.push_back(std::make_unique<T>(F, Name, Arguments..., I));
+    Control_Array(Stand At, const std::string& Name, const More&... Arguments)
+        : Control_Array([&At](int) { return At; }, Name, Arguments...) {}
+    // Each where it says: Control_Array<...> chkEnable{[this](int I) { return Stand(framePort[I]); },
+    // "chkEnable"}.
+    template <std::invocable<int> Where, class... More>
+    Control_Array(const Where& Stand_Of, const std::string& Name, const More&... Arguments) {
+        for (int I = First; I <= Last; ++I)
+            Elements.push_back(std::make_unique<T>(Stand_Of(I).Element(I), Name, Arguments...));
+    }
+    // Each with its own caption and tool tip.
+    Control_Array(Stand At, const std::string& Name, const Wording (&Each)[Last - First + 1]) {
+        for (int I = First; I <= Last; ++I)
+            Elements.push_back(
+                std::make_unique<T>(At.Element(I), Name, Each[I - First].Caption, Each[I - First].Tip));
     }
     T& operator[](int I) const {
         if (I < First || I > Last) throw Run_Time_Error(error_text::Subscript);

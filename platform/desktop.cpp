@@ -77,7 +77,7 @@ bool Desktop::Usable(const Control& Target, std::string* Why) const {
     if (!Target.Owner.Loaded) return Refuse(" is in a window that is closed");
     if (Target.Kind == Control_Kind::Timer) return Refuse(" is a timer and cannot be operated");
     const auto& Seen = static_cast<const Visible_Control&>(Target);
-    if (!*Seen.Visible) return Refuse(" is hidden");
+    if (!Seen.Shown()) return Refuse(" is hidden");
     if (!*Seen.Enabled) return Refuse(" is disabled");
     return true;
 }

@@ -75,7 +75,7 @@ void Form_View::Follow_Focus(const Desktop& Windows) {
 
 void Form_View::Show_Common(const Visible_Control& C, QWidget* W) const {
     W->setEnabled(*C.Enabled);
-    W->setVisible(*C.Visible);
+    W->setVisible(C.Shown());
     W->setToolTip(To_Screen(*C.Tool_Tip));
 }
 
@@ -268,8 +268,10 @@ void Form_View::Refresh() {
     Following = true;
     Moved_To = nullptr;
     for (Binding& B : Bindings) {
-        if (B.Seen == B.Source->Revision) continue;
+        const bool Shown = B.Source->Shown();
+        if (B.Seen == B.Source->Revision && B.Was_Shown == Shown) continue;
         B.Seen = B.Source->Revision;
+        B.Was_Shown = Shown;
         B.Show();
     }
     for (const auto& Look : Looks) Look();

@@ -70,10 +70,11 @@ class Form_View : public QWidget {
 
   private:
     struct Binding {
-        Control* Source;
+        Visible_Control* Source;
         QWidget* Widget;
         std::function<void()> Show;
         std::uint64_t Seen = ~std::uint64_t{0};
+        bool Was_Shown = false; // a frame may hide it without its being touched
     };
 
     void Bind(Visible_Control& C, QWidget* W, std::function<void()> Show);

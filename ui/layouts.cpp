@@ -1,5 +1,7 @@
 #include "ui/layouts.hpp"
 
+#include "shell/state/windows.hpp"
+#include "ui/layout_builder.hpp"
 #include "ui/layouts/layout_parts.hpp"
 
 #include <stdexcept>
@@ -25,7 +27,6 @@ constexpr Layout_Row Layouts[] = {
     {"frmSetup", Lay_Out_Setup},
     {"frmProgress", Lay_Out_Progress},
     {"frmComportInfo", Lay_Out_Comport_Info},
-    {"frmGyro", Lay_Out_Gyro},
     {"frmLog", Lay_Out_Log},
     {"frmEchosounder", Lay_Out_Echosounder},
     {"frmWind", Lay_Out_Wind},
@@ -34,7 +35,7 @@ constexpr Layout_Row Layouts[] = {
     {"frmSetSOG", Lay_Out_Set_SOG},
 };
 
-const Layout_Row* Find_Layout(const std::string& Form_Name) {
+const Layout_Row* Find_Old_Layout(const std::string& Form_Name) {
     for (const Layout_Row& Row : Layouts)
         if (Form_Name == Row.Form_Name) return &Row;
     return nullptr;
@@ -42,12 +43,15 @@ const Layout_Row* Find_Layout(const std::string& Form_Name) {
 
 } // namespace
 
-bool Has_Layout(const std::string& Form_Name) { return Find_Layout(Form_Name) != nullptr; }
-
 void Lay_Out(Form_View& View, Form& Shown) {
-    const Layout_Row* Row = Find_Layout(Shown.Name);
-    if (!Row) throw std::logic_error("no layout for " + Shown.Name);
-    Row->Lay_Out(View, Shown);
+    const Window_Class* Class = Find_Class(View.Sim, Shown.Name);
+    if (Class && Class->Lay_Out) {
+        Build_Layout(View, Class->Lay_Out(View.Sim, Shown));
+    } else {
+        const Layout_Row* Old = Find_Old_Layout(Shown.Name);
+        if (!Old) throw std::logic_error("no layout for " + Shown.Name);
+        Old->Lay_Out(View, Shown);
+    }
     View.Refresh();
 }
 

@@ -31,11 +31,6 @@ inline constexpr int Token_Count = 13;
 enum class Palette_Kind { Day, Dusk, Night };
 inline constexpr std::array<const char*, 3> Palette_Names{"Day", "Dusk", "Night"};
 
-// Sizes of the one spacing rhythm, in pixels at 100 %.
-namespace rhythm {
-inline constexpr int Base = 4, Gap = 8, Margin = 12;
-} // namespace rhythm
-
 // The palette that is chosen now; tells its painters when another one is.
 class Theme : public QObject {
     Q_OBJECT

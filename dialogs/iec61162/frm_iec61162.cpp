@@ -82,8 +82,8 @@ void frmIEC61162_Load(Simulator& Sim, Form& Opened) {
 frmIEC61162::frmIEC61162(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Dialog) {
     Caption = "IEC 61162-450 Multiple talkers and listeners";
     for (const Tag_Row& Row : Tag_Rows)
-        chkIEC61162.push_back(std::make_unique<Check_Box>(*this, "chkIEC61162", Row.Caption,
-                                                          static_cast<int>(chkIEC61162.size())));
+        chkIEC61162.push_back(std::make_unique<Check_Box>(
+            Stand(*this).Element(static_cast<int>(chkIEC61162.size())), "chkIEC61162", Row.Caption));
 }
 
 const Window_Class IEC61162_Window{

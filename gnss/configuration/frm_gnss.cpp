@@ -117,14 +117,14 @@ const Window_Class GNSS_Configuration_Windows{.Name = frmGNSS::Class_Name,
 std::deque<GNSS_System_Row> System_Rows(Form& F) {
     std::deque<GNSS_System_Row> Rows;
     for (int Element = 0; Element < static_cast<int>(std::size(Known_Systems)); ++Element)
-        Rows.emplace_back(F, Element);
+        Rows.emplace_back(Stand(F).Element(Element));
     return Rows;
 }
 
-GNSS_System_Row::GNSS_System_Row(Form& F, int Element)
-    : lblGNSS_System(F, "lblGNSS_System", Known_Systems[Element].Label, Element),
-      chkUse(F, "chkUse", "Use", Element), cmbMode(F, "cmbMode", "", Element) {
-    const std::string Name = Known_Systems[Element].Name;
+GNSS_System_Row::GNSS_System_Row(Stand At)
+    : lblGNSS_System(At, "lblGNSS_System", Known_Systems[At.Index].Label), chkUse(At, "chkUse", "Use"),
+      cmbMode(At, "cmbMode") {
+    const std::string Name = Known_Systems[At.Index].Name;
     lblGNSS_System.Tool_Tip = "Mode and use of " + Name;
     chkUse.Tool_Tip = Name + " is behind the fix";
     cmbMode.Tool_Tip = "Mode of " + Name + ", a letter of the mode field of GNS";

@@ -10,7 +10,7 @@ namespace brinewright {
 
 // One constellation in the dialog. Elements count from 0, the systems of the state from 1.
 struct GNSS_System_Row {
-    GNSS_System_Row(Form& F, int Element);
+    explicit GNSS_System_Row(Stand At);
     Label lblGNSS_System;
     Check_Box chkUse;
     Combo_Box cmbMode;

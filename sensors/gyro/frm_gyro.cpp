@@ -84,6 +84,7 @@ const Window_Class Gyro_Windows{
     .Caption = "Gyro #",
     .Make = Make_Instance<frmGyro>,
     .Load = Load_Sensor<frmGyro, Form_Load>,
+    .Lay_Out = Lay_Out_Gyro,
     .Sentences = Gyro_Sentences()};
 
 // The caption stays: a pause makes it "Continue".

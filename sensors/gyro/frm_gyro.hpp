@@ -84,6 +84,8 @@ struct frmGyro : Sensor_Form {
     Label lblCurrentPitch{*this, "lblCurrentPitch"};
 };
 
+Layout Lay_Out_Gyro(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Gyro_Windows;
 
 void cmdStart_Click(Simulator& Sim, frmGyro& W);

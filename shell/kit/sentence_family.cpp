@@ -74,11 +74,15 @@ Sentence_Line::Sentence_Line(Form& W, const Sentence_Row& Its_Row)
     if (Note) Note->Tool_Tip = std::string(Row.Note_Tip);
 }
 
-Sentence_Line& Sentence_Family::operator[](std::string_view Type) {
+const Sentence_Line& Sentence_Family::operator[](std::string_view Type) const {
     const auto Found =
         std::find_if(Lines.begin(), Lines.end(), [&](const Sentence_Line& L) { return L.Row.Type == Type; });
     if (Found == Lines.end()) throw std::out_of_range(std::string(Type) + " is no sentence of this window");
     return *Found;
+}
+
+Sentence_Line& Sentence_Family::operator[](std::string_view Type) {
+    return const_cast<Sentence_Line&>(std::as_const(*this)[Type]);
 }
 
 Sentence_Lines::Sentence_Lines(Sensor_Form& W, std::span<const Sentence_Row> Rows) {

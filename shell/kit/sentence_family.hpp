@@ -100,7 +100,9 @@ struct Sentence_Family {
     Sentence_Family(const Sentence_Family&) = delete;
     Sentence_Family& operator=(const Sentence_Family&) = delete;
 
-    Sentence_Line& operator[](std::string_view Type); // throws std::out_of_range for a sentence it has not
+    // Throws std::out_of_range for a sentence that it has not.
+    Sentence_Line& operator[](std::string_view Type);
+    const Sentence_Line& operator[](std::string_view Type) const;
 
     Timer_Queue& Timers;
     bool Is_Loading = false;         // true while the window opens

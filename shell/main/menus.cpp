@@ -139,7 +139,8 @@ std::vector<std::unique_ptr<Menu_Item>> Make_Items(frmMain& F,
                                                    std::span<const Window_Class* const> Window_Table) {
     std::vector<std::unique_ptr<Menu_Item>> Items;
     for (const Entry& E : All_Entries(Window_Table))
-        Items.push_back(std::make_unique<Menu_Item>(F, E.Name(), E.Text(), E.Menu(), E.Index()));
+        Items.push_back(
+            std::make_unique<Menu_Item>(Stand(F).Element(E.Index()), E.Name(), E.Text(), E.Menu()));
     return Items;
 }
 

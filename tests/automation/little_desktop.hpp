@@ -54,7 +54,7 @@ struct Little_Form : Form {
     Label lblTip{*this, "lblTip", "5\xB0"};
     Label lblCount{*this, "lblCount"};
     Frame fraAll{*this, "fraAll", "All"};
-    Menu_Item mnuOpen{*this, "mnuOpen", "Open", "Window", 3};
+    Menu_Item mnuOpen{Stand(*this).Element(3), "mnuOpen", "Open", "Window"};
     Grid Sky{*this, "grdSky", {"SV", "Elevation"}};
     Timer timer_GGA{*this, "timer_GGA"};
 

@@ -15,11 +15,20 @@ struct Test_Form : Form {
     Text_Box txtB{*this, "txtB"};
     Scroll_Bar scrA{*this, "scrA", 400, 0};
     Option_Group optA{*this, "optA", {"One", "Two"}};
-    Menu_Item mnuA{*this, "mnuA", "A", "Menu", 3};
+    Menu_Item mnuA{Stand(*this).Element(3), "mnuA", "A", "Menu"};
     Button cmdA{*this, "cmdA", "A"};
     Grid hfgA{*this, "hfgA", {"X", "Y"}};
     Timer timer_A{*this, "timer_A"};
     Control_Array<Label, 1, 3> lblA{*this, "lblA", "text"};
+    Frame fraOuter{*this, "fraOuter", "Outer"};
+    Frame fraInner{fraOuter, "fraInner"};
+    Text_Box txtInner{fraInner, "txtInner", "5", "In metres"};
+    static constexpr Wording Rolls[] = {{"Roll", "In degrees"}, "Pitch"};
+    Control_Array<Check_Box, 0, 1> chkOuter{fraOuter, "chkOuter", Rolls};
+    Control_Array<Frame, 1, 2> fraPort{*this, "fraPort"};
+    Control_Array<Button, 1, 2> cmdPort{[this](int I) { return Stand(fraPort[I]); }, "cmdPort", "Test",
+                                        "Tests it"};
+    Option_Group optUnit{fraOuter, "optUnit", {{"knots", "In knots"}, {"km/h", "In km/h"}}};
 };
 
 struct Controls_On_A_Form : testing::Test {
@@ -165,6 +174,33 @@ TEST_F(Controls_On_A_Form, A_click_leaves_the_box_before_and_respects_what_that_
     F.cmdA.Visible = true;
     Windows.User_Click(F.cmdA);
     EXPECT_EQ(Log, "clicked;");
+}
+
+TEST_F(Controls_On_A_Form, What_hides_a_frame_hides_what_stands_in_it) {
+    Visible_Control* const Inside[] = {&F.fraInner, &F.txtInner, &F.chkOuter[1], F.optUnit.Buttons[0].get()};
+    for (const bool On : {false, true}) {
+        F.fraOuter.Visible = On;
+        for (const Visible_Control* C : Inside) {
+            EXPECT_EQ(C->Shown(), On) << C->Path();
+            EXPECT_EQ(Windows.Usable(*C), On) << C->Path();
+            EXPECT_TRUE(*C->Visible);
+        }
+        EXPECT_TRUE(F.txtA.Shown());
+    }
+    F.fraPort[2].Visible = false;
+    EXPECT_TRUE(F.cmdPort[1].Shown());
+    EXPECT_FALSE(F.cmdPort[2].Shown());
+}
+
+TEST_F(Controls_On_A_Form, Captions_and_tips_stand_in_the_declaration) {
+    const auto Says = [](const Visible_Control& C) { return *C.Caption + "/" + *C.Tool_Tip; };
+    EXPECT_EQ(Says(F.txtInner), "/In metres");
+    EXPECT_EQ(F.txtInner.Text(), "5");
+    EXPECT_EQ(Says(F.chkOuter[0]), "Roll/In degrees");
+    EXPECT_EQ(Says(F.chkOuter[1]), "Pitch/");
+    EXPECT_EQ(Says(F.cmdPort[2]), "Test/Tests it");
+    EXPECT_EQ(F.cmdPort[2].Path(), "cmdPort(2)");
+    EXPECT_EQ(Says(*F.optUnit.Buttons[1]), "km/h/In km/h");
 }
 
 TEST_F(Controls_On_A_Form, Users_set_values_as_each_control_takes_them) {

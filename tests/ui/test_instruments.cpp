@@ -150,7 +150,7 @@ TEST(Wind_Dial, Arrows_Come_From_Where_The_Wind_Comes_From) {
     IN_EVERY_WAY(How) {
         // Wind from 300 on a heading of 90 comes in 210 degrees off the bow; the apparent one from 75.
         const Picture P(How, 264, 300, [&](QPainter& Painter, const QRectF& Place, Palette_Kind Kind) {
-            Paint_Wind_Dial(Painter, Place, {75, 12, 300, 10, 90, QStringLiteral("knots")}, Kind);
+            Paint_Wind_Dial(Painter, Place, {75, 12, 300, 10, 90, "knots"}, Kind);
         });
         EXPECT_TRUE(P.Plain(Polar(Centre, On_Arrow, 75), Token::Readout)) << "apparent";
         EXPECT_TRUE(P.Plain(Polar(Centre, Radius * 0.66, 75), Token::Readout)) << "its tail";
@@ -165,7 +165,7 @@ TEST(Wind_Dial, Arrows_Come_From_Where_The_Wind_Comes_From) {
         EXPECT_TRUE(P.Plain(Polar(Centre, Radius * 0.2, 90), Token::Field));
 
         const Picture Calm(How, 264, 300, [&](QPainter& Painter, const QRectF& Place, Palette_Kind Kind) {
-            Paint_Wind_Dial(Painter, Place, {75, 0, 300, 0, 90, QStringLiteral("knots")}, Kind);
+            Paint_Wind_Dial(Painter, Place, {75, 0, 300, 0, 90, "knots"}, Kind);
         });
         EXPECT_TRUE(Calm.Plain(Polar(Centre, On_Arrow, 75), Token::Field)) << "no wind, no arrow";
         EXPECT_FALSE(Calm.Near(Polar(Polar(Centre, On_Arrow, 210), Shaft, 300), Token::Accent));

@@ -39,7 +39,7 @@ class Instrument : public QWidget {
     Instrument(const Theme& Its_Theme, Painting Its_Painting, std::function<Values()> Its_Read,
                const QSize& Its_Hint, const QString& Tip)
         : Colours(Its_Theme), Paint(Its_Painting), Read(std::move(Its_Read)), Hint(Its_Hint) {
-        setMinimumSize(Hint);
+        setMinimumSize(Hint); // may be made smaller afterwards
         setToolTip(Tip);
     }
     void Look() {

@@ -1,14 +1,9 @@
 #pragma once
 
+#include "shell/kit/instrument_readings.hpp"
 #include "ui/instruments/instrument.hpp"
 
 namespace brinewright {
-
-struct Turn_Reading {
-    float Rate_deg_min = 0;       // to starboard
-    float Full_Scale_deg_min = 0; // at either end; above 0
-    bool operator==(const Turn_Reading&) const = default;
-};
 
 // The step between the figures of a scale that ends at Full_Scale: a third of it, a half, or all of it,
 // the first of these that is a whole multiple of 5.

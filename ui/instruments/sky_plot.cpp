@@ -60,13 +60,13 @@ void Paint_Mark(QPainter& Painter, const QPointF& At, double Size, const Sky_Mar
     Painter.setBrush(Mark.In_Use ? QBrush(Colour) : QBrush(Theme::Colour_In(Kind, Token::Field)));
     Painter.drawEllipse(At, Size, Size);
     Painter.setPen(Mark.In_Use ? Theme::Colour_In(Kind, Token::Field) : Theme::Colour_In(Kind, Token::Text));
-    Painter.drawText(QRectF(At.x() - 20, At.y() - 10, 40, 20), Qt::AlignCenter, Mark.Name);
+    Painter.drawText(QRectF(At.x() - 20, At.y() - 10, 40, 20), Qt::AlignCenter,
+                     QString::fromLatin1(Mark.Name.c_str()));
 }
 
 } // namespace
 
-void Paint_Sky(QPainter& Painter, const QRectF& Place, const std::vector<Sky_Mark>& Marks,
-               Palette_Kind Kind) {
+void Paint_Sky(QPainter& Painter, const QRectF& Place, const Sky_Reading& Marks, Palette_Kind Kind) {
     Painter.setRenderHint(QPainter::Antialiasing);
     const double Radius = std::min(Place.width(), Place.height()) / 2 - Label_Room;
     if (Radius < 20) return;
@@ -78,26 +78,6 @@ void Paint_Sky(QPainter& Painter, const QRectF& Place, const std::vector<Sky_Mar
     Paint_Rose(Painter, Centre, Radius, Kind);
     for (const Sky_Mark& Mark : Marks)
         Paint_Mark(Painter, Place_Of(Centre, Radius, Mark.Elevation_deg, Mark.Azimuth_deg), Size, Mark, Kind);
-}
-
-Sky_Plot::Sky_Plot(const Theme& Its_Theme, std::function<std::vector<Sky_Mark>()> Its_Read)
-    : Colours(Its_Theme), Read(std::move(Its_Read)) {
-    setMinimumSize(150, 150);
-    setToolTip(QStringLiteral(
-        "Satellites in view, north up, the zenith in the middle; filled: in use. Green: 25 dB and "
-        "more, amber: 12 dB and more, red: less"));
-}
-
-void Sky_Plot::Look() {
-    auto Now = Read();
-    if (Now == Shown) return;
-    Shown = std::move(Now);
-    update();
-}
-
-void Sky_Plot::paintEvent(QPaintEvent*) {
-    QPainter Painter(this);
-    Paint_Sky(Painter, rect(), Shown, Colours.Chosen());
 }
 
 } // namespace brinewright

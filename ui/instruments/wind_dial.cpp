@@ -114,7 +114,7 @@ void Paint_Legend(QPainter& Painter, const Dial& D, const QRectF& Place, const W
         Write(-76, 60, Qt::AlignLeft, QString::fromLatin1(Line.Name), Token::Dim_Text);
         Write(-16, 40, Qt::AlignRight, Angle_Text(Line.Angle_deg, 0), Token::Readout);
         Write(24, 40, Qt::AlignRight, QString::fromStdString(Format_Dot(Line.Speed, "0.0")), Token::Readout);
-        Write(70, 50, Qt::AlignLeft, Shown.Speed_Unit, Token::Dim_Text);
+        Write(70, 50, Qt::AlignLeft, QString::fromLatin1(Shown.Speed_Unit.c_str()), Token::Dim_Text);
         Y += Legend_Height / 2;
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/kit/layout.hpp"
 #include "ui/form_view.hpp"
 
 #include <QGridLayout>
@@ -52,7 +53,6 @@ void Lay_Out_Setup(Form_View& View, Form& Shown);
 void Lay_Out_Progress(Form_View& View, Form& Shown);
 void Lay_Out_Comport_Info(Form_View& View, Form& Shown);
 void Lay_Out_Traffic(Form_View& View, Form& Shown);
-void Lay_Out_Gyro(Form_View& View, Form& Shown);
 void Lay_Out_Log(Form_View& View, Form& Shown);
 void Lay_Out_Echosounder(Form_View& View, Form& Shown);
 void Lay_Out_Wind(Form_View& View, Form& Shown);

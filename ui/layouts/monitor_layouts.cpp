@@ -1,4 +1,4 @@
-#include "links/tcp_server.hpp"
+#include "links/tcp_status/frm_tcpip.hpp"
 #include "shell/monitors/extended_monitor/frm_extended_monitor.hpp"
 #include "shell/monitors/monitor/frm_monitor.hpp"
 #include "ui/layouts/layout_parts.hpp"

@@ -209,8 +209,7 @@ std::vector<Sky_Mark> Read_Sky(const Simulator_State& State, const frmPosition& 
                  : State.Of<GNSS_State>().Svs_In_View[std::max(Row_Number - In_Use, 1)];
         if (!Is_In_Sky(State, Identifier)) continue;
         const Sky_Satellite& S = State.Of<GNSS_State>().Sky_Table[Identifier];
-        Marks.push_back(
-            {To_Screen(F.hfgGSV.At(Row_Number - 1, 0).Text), S.Elevation, S.Azimuth, S.SNR, Used});
+        Marks.push_back({F.hfgGSV.At(Row_Number - 1, 0).Text, S.Elevation, S.Azimuth, S.SNR, Used});
     }
     return Marks;
 }
@@ -222,7 +221,13 @@ QGroupBox* GSV_Box(Form_View& View, frmPosition& F) {
     In_View->addWidget(View.Make(F.cmbInView));
     In_View->addStretch(1);
     Column->addLayout(In_View);
-    auto* Plot = new Sky_Plot(View.Colours, [&State = View.Sim.State, &F] { return Read_Sky(State, F); });
+    auto* Plot = new Instrument<Sky_Reading>(
+        View.Colours, Paint_Sky, [&State = View.Sim.State, &F] { return Read_Sky(State, F); },
+        QSize(190, 170),
+        QStringLiteral(
+            "Satellites in view, north up, the zenith in the middle; filled: in use. Green: 25 dB and "
+            "more, amber: 12 dB and more, red: less"));
+    Plot->setMinimumSize(150, 150);
     Column->addWidget(Plot, 3);
     QTableView* Table = View.Make(F.hfgGSV);
     Table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);

@@ -55,7 +55,7 @@ QWidget* State_Line(Form_View& View, const Sentence_Family& Sentences, bool Foll
     View.When_Shown([&View, &Sentences, Follows_Ship, Form_Index, Line] {
         const bool Ship = Follows_Ship && View.Sim.State.Of<Shell_State>().Mode == "Ship";
         const bool Running = std::any_of(Sentences.Lines.begin(), Sentences.Lines.end(),
-                                         [](const auto& L) { return L.Clock->Interval_ms() > 0; });
+                                         [](const auto& L) { return L.Clock.Interval_ms() > 0; });
         const char* State = !Running ? "No sentence is on" : Ship ? "Ship control" : "Running";
         Line->setText(State_Text(View, State, Form_Index));
         Show_State(Line, "role", !Running ? "dim" : Ship ? "readout" : "good");
@@ -70,11 +70,11 @@ QGroupBox* Messages_Box(Form_View& View, Frame& Box, Sentence_Family& Sentences,
     Grid->setVerticalSpacing(3);
     int Line_Number = 0;
     for (Sentence_Line& Line : Sentences.Lines) {
-        Grid->addWidget(View.Make(*Line.Box), Line_Number, 0);
-        Grid->addWidget(View.Make(*Line.Interval_List), Line_Number, 1);
-        Grid->addWidget(new Countdown_Bar(View.Colours, View.Shown_Form(), *Line.Clock), Line_Number, 2);
+        Grid->addWidget(View.Make(Line.Box), Line_Number, 0);
+        Grid->addWidget(View.Make(Line.Interval_List), Line_Number, 1);
+        Grid->addWidget(new Countdown_Bar(View.Colours, View.Shown_Form(), Line.Clock), Line_Number, 2);
         for (const auto& [Beside, Note] : Notes)
-            if (Beside == Line.Box) Grid->addLayout(Note(), Line_Number, 3);
+            if (Beside == &Line.Box) Grid->addLayout(Note(), Line_Number, 3);
         ++Line_Number;
     }
     Grid->setColumnStretch(2, 1);

@@ -15,7 +15,7 @@ Wind_Reading Read_Wind(const Simulator_State& S, const frmWind& F) {
             S.Of<Wind_State>().Wind_Direction[F.Instance],
             S.Of<Wind_State>().Wind_Speed[F.Instance],
             S.Of<Gyro_State>().Gyro_HDG[F.Instance],
-            To_Screen(F.cmbUnits.Text())};
+            F.cmbUnits.Text()};
 }
 
 // Follows the list of units, as the labels of the window do that stand beside other speeds.
@@ -114,8 +114,8 @@ void Lay_Out_Wind(Form_View& View, Form& Shown) {
                                 {&F.lblMaxNoise[1], &F.cmbNoise[1], Unit_Now(View, F)}}));
     Right->addWidget(Sent_Box(View, F));
     Right->addWidget(Messages_Box(View, F.frameNMEAMessages, F.Sentences,
-                                  {{&F.chkMWV, [&] { return Reference_Choice(View, F); }},
-                                   {&F.chkMWD, [&] { return Variation(View, F); }}}));
+                                  {{&F.Sentences["MWV"].Box, [&] { return Reference_Choice(View, F); }},
+                                   {&F.Sentences["MWD"].Box, [&] { return Variation(View, F); }}}));
     Right->addLayout(Routing_Row(View, F.cmbComPort, F.txtTalker));
     Right->addStretch(1);
     Columns->addLayout(Right);

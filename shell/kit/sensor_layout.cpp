@@ -1,0 +1,117 @@
+#include "shell/kit/sensor_layout.hpp"
+
+#include "links/port_list.hpp"
+#include "sentences/number_text.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "shell/state/simulator.hpp"
+
+#include <algorithm>
+
+namespace brinewright {
+
+namespace {
+
+std::string Port_Text(const Simulator& Sim, int Form_Index) {
+    const int Port = Sim.State.Of<Link_State>().Sensor_Table[Form_Index].Port;
+    if (!Link_In_Use(Sim, Port)) return "no link chosen";
+    if (Port <= port_number::Last_Serial) return "COM" + Number_Text(Port);
+    if (Port == port_number::TCP) return "TCP port" + Number_Text(Sim.State.Of<Link_State>().TCP_Port);
+    return "UDP port" +
+           Number_Text(Sim.State.Of<Link_State>().UDP_Port_Number[Port - port_number::First_UDP]);
+}
+
+layout::Said State_Said(const Simulator& Sim, const Sensor_Form& W, const char* State, Role As) {
+    return {State + ("   to " + Port_Text(Sim, W.Form_Index)), As};
+}
+
+bool Runs(const Timer& Clock) { return Clock.Interval_ms() > 0; }
+bool Pauses(const Button& Pause, const Timer& Simulation) { return !Runs(Simulation) && *Pause.Enabled; }
+
+} // namespace
+
+Layout State_Line(const Simulator& Sim, const Sensor_Form& W, const Button& Pause, const Timer& Simulation) {
+    return Text([&Sim, &W, &Pause, &Simulation] {
+        if (Sim.State.Of<Shell_State>().Mode == "Ship")
+            return State_Said(Sim, W, "Ship control", Role::Readout);
+        if (Runs(Simulation)) return State_Said(Sim, W, "Running", Role::Good);
+        if (Pauses(Pause, Simulation)) return State_Said(Sim, W, "Paused", Role::Warn);
+        return State_Said(Sim, W, "Not started", Role::Dim);
+    });
+}
+
+Layout State_Line(const Simulator& Sim, const Sensor_Form& W, bool Follows_Ship) {
+    return Text([&Sim, &W, Follows_Ship] {
+        const bool Running = std::any_of(W.Sentences.Lines.begin(), W.Sentences.Lines.end(),
+                                         [](const Sentence_Line& L) { return Runs(L.Clock); });
+        if (!Running) return State_Said(Sim, W, "No sentence is on", Role::Dim);
+        if (Follows_Ship && Sim.State.Of<Shell_State>().Mode == "Ship")
+            return State_Said(Sim, W, "Ship control", Role::Readout);
+        return State_Said(Sim, W, "Running", Role::Good);
+    });
+}
+
+Layout Start_And_Pause(Button& Start, Button& Pause, const Timer& Simulation) {
+    return Row({Place(Start).Lit([&Simulation] { return Runs(Simulation) ? Role::Good : Role::Plain; }),
+                Place(Pause).Lit(
+                    [&Pause, &Simulation] { return Pauses(Pause, Simulation) ? Role::Warn : Role::Plain; })});
+}
+
+Layout Messages(Sensor_Form& W, std::vector<Message_Note> Notes) {
+    std::vector<Layout> Parts;
+    int Line_Number = 0;
+    for (Sentence_Line& Line : W.Sentences.Lines) {
+        Parts.push_back(At(Line_Number, 0, Line.Box));
+        Parts.push_back(At(Line_Number, 1, Line.Interval_List));
+        Parts.push_back(At(Line_Number, 2, Layout(layout::Countdown{&Line.Clock})));
+        if (Line.Note) Parts.push_back(At(Line_Number, 3, Row({Dim(*Line.Note)})));
+        for (auto& [Beside, Note] : Notes)
+            if (Beside == Line.Row.Type) Parts.push_back(At(Line_Number, 3, std::move(Note)));
+        ++Line_Number;
+    }
+    return Box(W.frameNMEAMessages,
+               Cells(std::move(Parts), {.Across = rhythm::Gap, .Down = 3, .Wide_Column = 2}));
+}
+
+Layout Bar_And_Box(Scroll_Bar& Bar, layout::Steps Scale, Text_Box& Typed, Layout Unit) {
+    return Cells({At(0, 0, Lying(Bar, Scale), 2, 1), At(0, 1, Place(Typed).Width(Typed_Width)),
+                  At(1, 1, std::move(Unit))},
+                 {.Across = rhythm::Gap, .Down = 0, .Wide_Column = 0});
+}
+
+Layout Noise_Row(Check_Box& On, std::vector<Noise_List> Lists) {
+    std::vector<Layout> Parts{On, Stretch()};
+    for (Noise_List& Noise : Lists) {
+        Parts.push_back(Dim(Noise.Title));
+        Parts.emplace_back(Noise.List);
+        Parts.push_back(std::move(Noise.Unit));
+    }
+    return Row(std::move(Parts));
+}
+
+Layout Routing(Sensor_Form& W, const std::vector<std::pair<Label*, Combo_Box*>>& Lists, Label* Lists_Title) {
+    constexpr int Least_Port_Width = 110, Talker_Width = 44;
+    Layout Both = Column({Row({Text("Port"), Place(W.cmbComPort).Least_Width(Least_Port_Width).Wide(),
+                               Text("Talker"), Place(W.txtTalker).Width(Talker_Width)})});
+    if (Lists.empty()) return Both;
+    std::vector<Layout> Second;
+    if (Lists_Title) Second.push_back(Dim(*Lists_Title));
+    Second.push_back(Stretch());
+    for (const auto& [Title, List] : Lists) {
+        Second.push_back(Dim(*Title));
+        Second.emplace_back(*List);
+    }
+    return Both.Then(Row(std::move(Second)));
+}
+
+Layout Ticker(const Simulator& Sim, const Sensor_Form& W) {
+    return Layout(layout::Ticker{[&Sim, Index = W.Form_Index] { return Sim.Last_Sentence[Index]; }});
+}
+
+Layout Key_Catcher(Text_Box& Box) {
+    Layout New = Place(Box);
+    New.What = layout::Key_Catcher{};
+    return New;
+}
+
+} // namespace brinewright

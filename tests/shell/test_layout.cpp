@@ -1,0 +1,34 @@
+// Every control of every window has its place, and one only.
+
+#include "shell/layouts.hpp"
+#include "tests/support/all_windows.hpp"
+
+#include <map>
+
+namespace brinewright {
+namespace {
+
+struct Layouts : All_Windows, testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(Mode, Layouts, testing::Values("Sensor", "Ship"),
+                         [](const auto& Info) { return std::string(Info.param); });
+
+TEST_P(Layouts, Place_Every_Control_Once) {
+    Start(Full_Setup(GetParam()));
+    Open_All_Windows();
+    for (const auto& F : Sim.Windows.Forms) {
+        const Layout_Function Lay_Out = Find_Layout(F->Name);
+        if (!Lay_Out) continue;
+        std::map<const Control*, int> Places;
+        For_Each_Placed(Lay_Out(Sim, *F), [&](const Visible_Control& C) {
+            EXPECT_EQ(&C.Owner, F.get()) << F->Path() << " has " << C.Owner.Path() << "." << C.Path();
+            ++Places[&C];
+        });
+        for (const Control* C : F->Controls)
+            if (C->Kind != Control_Kind::Timer && C->Kind != Control_Kind::Menu_Item) {
+                EXPECT_EQ(Places[C], 1) << "places of " << F->Path() << "." << C->Path();
+            }
+    }
+}
+
+} // namespace
+} // namespace brinewright

@@ -1,0 +1,145 @@
+// Rows, columns, grids and boxes: how the parts of a window stand in each other.
+
+#include "ui/layout_builder.hpp"
+
+#include <QBoxLayout>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QSplitter>
+
+#include <stdexcept>
+
+namespace brinewright {
+
+namespace {
+
+Qt::Alignment Alignment_Of(const layout::Manner& How) {
+    constexpr Qt::AlignmentFlag Across[] = {Qt::AlignmentFlag{}, Qt::AlignLeft, Qt::AlignHCenter,
+                                            Qt::AlignRight};
+    constexpr Qt::AlignmentFlag Upright[] = {Qt::AlignmentFlag{}, Qt::AlignTop, Qt::AlignVCenter,
+                                             Qt::AlignBottom};
+    return Across[static_cast<std::size_t>(How.Across)] | Upright[static_cast<std::size_t>(How.Upright)];
+}
+
+int Pixels(const layout::Measure& Size, const QWidget& W) {
+    const int Text_Width = Size.Text.empty() ? 0 : W.fontMetrics().horizontalAdvance(To_Screen(Size.Text));
+    return Text_Width + Size.Pixels;
+}
+
+void Give_Sizes(const layout::Manner& How, QWidget& W) {
+    if (How.Least_Width) W.setMinimumWidth(Pixels(*How.Least_Width, W));
+    if (How.Width) W.setFixedWidth(Pixels(*How.Width, W));
+    if (How.Least_Height > 0) W.setMinimumHeight(How.Least_Height);
+    if (How.Keeps_Room) {
+        QSizePolicy Kept = W.sizePolicy();
+        Kept.setRetainSizeWhenHidden(true);
+        W.setSizePolicy(Kept);
+    }
+}
+
+// What changes with every look at the form.
+void Follow(Form_View& View, const layout::Manner& How, QWidget* W) {
+    if (How.Shown) View.When_Shown([W, Shown = How.Shown] { W->setVisible(Shown()); });
+    if (How.Lit) View.When_Shown([W, Lit = How.Lit] { Show_Role(W, "state", Lit()); });
+}
+
+void Add(QBoxLayout& Line, Form_View& View, const Layout& Node) {
+    if (std::holds_alternative<layout::Room>(Node.What)) return Line.addStretch(Node.How.Share);
+    const Built Part = Make(View, Node);
+    if (Part.Widget)
+        Line.addWidget(Part.Widget, Node.How.Share, Alignment_Of(Node.How));
+    else
+        Line.addLayout(Part.Inside, Node.How.Share);
+}
+
+void Add(QGridLayout& Grid, const Built& Part, const layout::Spot& Cell, Qt::Alignment Side) {
+    if (Part.Widget)
+        Grid.addWidget(Part.Widget, Cell.Row, Cell.Column, Cell.Rows, Cell.Columns, Side);
+    else
+        Grid.addLayout(Part.Inside, Cell.Row, Cell.Column, Cell.Rows, Cell.Columns, Side);
+}
+
+// What is not to be seen leaves its place to what comes there.
+void Follow_Place(Form_View& View, QGridLayout* Grid, QWidget* W, const Layout& Node) {
+    View.When_Shown([Grid, W, Part = Node.Part, Moves_To = Node.How.Moves_To] {
+        Grid->removeWidget(W);
+        if (Part->Shown()) Add(*Grid, W, Moves_To(), {});
+    });
+}
+
+// A group box takes its margins from the style when it is made, before it had the name that the style knows.
+void Take_Style(QGroupBox* Box) {
+    Box->ensurePolished();
+    QEvent Named(QEvent::StyleChange);
+    QCoreApplication::sendEvent(Box, &Named);
+}
+
+} // namespace
+
+Built Make(Form_View& View, const Layout& Node, const layout::Line& Kind) {
+    auto* New = new QBoxLayout(Kind.Lies ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    if (Kind.Spacing != rhythm::Toolkit) New->setSpacing(Kind.Spacing);
+    if (const auto& M = Kind.Margins) New->setContentsMargins((*M)[0], (*M)[1], (*M)[2], (*M)[3]);
+    for (const Layout& Part : Node.Inside) Add(*New, View, Part);
+    return New;
+}
+
+Built Make(Form_View& View, const Layout& Node, const layout::Raster& Kind) {
+    auto* New = new QGridLayout;
+    if (Kind.Across != rhythm::Toolkit) New->setHorizontalSpacing(Kind.Across);
+    if (Kind.Down != rhythm::Toolkit) New->setVerticalSpacing(Kind.Down);
+    for (const Layout& Part : Node.Inside) {
+        const Built Cell = Make(View, Part);
+        if (Part.How.Moves_To)
+            Follow_Place(View, New, Cell.Widget, Part);
+        else
+            Add(*New, Cell, Part.How.Cell, Alignment_Of(Part.How));
+    }
+    if (Kind.Wide_Column >= 0) New->setColumnStretch(Kind.Wide_Column, 1);
+    if (Kind.High_Row >= 0) New->setRowStretch(Kind.High_Row, 1);
+    for (const int Gap : Kind.Gap_Columns) New->setColumnMinimumWidth(Gap, rhythm::Gap);
+    return New;
+}
+
+Built Make(Form_View& View, const Layout& Node, const layout::Framed& Kind) {
+    const Built Contents = Make(View, Node.Inside.at(0));
+    QGroupBox* Box =
+        Node.Part ? View.Make(static_cast<Frame&>(*Node.Part)) : new QGroupBox(To_Screen(Kind.Title));
+    if (Kind.Bare) Take_Style(Box);
+    const int Side = Kind.Side_Margin;
+    Contents.Inside->setContentsMargins(Side, Kind.Bare ? 0 : rhythm::Gap, Side, Side);
+    Box->setLayout(Contents.Inside);
+    return Box;
+}
+
+Built Make(Form_View& View, const Layout& Node, const layout::Split&) {
+    auto* New = new QSplitter(Qt::Vertical);
+    New->setChildrenCollapsible(false);
+    for (const Layout& Part : Node.Inside) {
+        New->addWidget(Make(View, Part).Widget);
+        New->setStretchFactor(New->count() - 1, Part.How.Share);
+    }
+    return New;
+}
+
+Built Make(Form_View&, const Layout&, const layout::Room&) {
+    throw std::logic_error("room that is left is for rows and columns only");
+}
+
+Built Make(Form_View& View, const Layout& Node) {
+    const Built New = std::visit([&](const auto& Kind) { return Make(View, Node, Kind); }, Node.What);
+    if (New.Main) {
+        Give_Sizes(Node.How, *New.Main);
+        Follow(View, Node.How, New.Main);
+    }
+    return New;
+}
+
+void Build_Layout(Form_View& View, const Layout& Whole) {
+    View.setLayout(Make(View, Whole).Inside);
+    Give_Sizes(Whole.How, View);
+}
+
+} // namespace brinewright
