@@ -162,7 +162,7 @@ void Form_Load(Simulator& Sim, frmPosition& W) {
 } // namespace
 
 frmPosition::frmPosition(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "GP") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "GP", "Talker of all sentences but GNS, two characters") {
     frmGGA.Width = GGA_Width;
     frmGSA.Width = GSA_Width;
     frmGSV.Width = GSV_Width;

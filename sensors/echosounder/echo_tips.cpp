@@ -25,9 +25,6 @@ void Set_Tool_Tips(frmEchosounder& W) {
         {W.cmbNoise, "Largest error to either side, 0 to 20 m"},
         {W.frmCurrentValue, "What left with the last sentence"},
         {W.lblCurrentDepth, "Depth last sent, noise included, metres"},
-        {W.frameNMEAMessages, "The sentences of this sensor and the seconds between them"},
-        {W.txtTalker, "Talker of all sentences, two characters"},
-        {W.cmbComPort, "Link on which the sentences leave: serial port 1 to 16, TCP/IP or UDP"},
     };
     Show_Tips(Tips);
 }

@@ -28,7 +28,7 @@ void Form_Load(Simulator& Sim, frmEchosounder& W) {
 } // namespace
 
 frmEchosounder::frmEchosounder(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "SD") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "SD", "Talker of all sentences, two characters") {
     Set_Caption("Echosounder x"); // until the opener numbers it
     cmbOffset.Free_Text = true;
     Set_Tool_Tips(*this);

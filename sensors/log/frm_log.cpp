@@ -42,7 +42,7 @@ void Form_Load(Simulator& Sim, frmLog& W) {
 } // namespace
 
 frmLog::frmLog(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "VW") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "VW", "Talker of all sentences, two characters") {
     Set_Caption(" Log x"); // until the opener numbers it
     lblShipControl.Visible = false;
     cmdResetVLW.Enabled = false;

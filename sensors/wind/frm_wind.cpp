@@ -42,7 +42,7 @@ void Form_Load(Simulator& Sim, frmWind& W) {
 } // namespace
 
 frmWind::frmWind(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "WI") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "WI", "Talker of all sentences, two characters") {
     Set_Caption("Wind Gauge x"); // until the opener numbers it
     Set_Tool_Tips(*this);
 }

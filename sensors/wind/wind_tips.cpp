@@ -51,9 +51,6 @@ void Set_Result_Tips(frmWind& W) {
         {W.lblMagDev,
          "Magnetic variation, degrees, east positive: magnetic direction of MWD less the true one"},
         {W.lblShipSetup, "The magnetic variation, degrees, is set in Ship Setup"},
-        {W.frameNMEAMessages, "The sentences of this sensor and the seconds between them"},
-        {W.txtTalker, "Talker of all sentences, two characters"},
-        {W.cmbComPort, "Link on which the sentences leave: serial port 1 to 16, TCP/IP or UDP"},
     };
     Show_Tips(Tips);
 }

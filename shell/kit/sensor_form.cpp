@@ -22,10 +22,10 @@ void Write_Talker(Sensor_Form& W, const std::string& Talker) {
 } // namespace
 
 Sensor_Form::Sensor_Form(Desktop& Its_Windows, std::string Class_Name, int Its_Instance, int First_Form_Index,
-                         std::string Default_Talker)
+                         std::string Default_Talker, std::string Talker_Tip)
     : Form(Its_Windows, std::move(Class_Name), Its_Instance, Form_Kind::Child),
       Form_Index(First_Form_Index + Its_Instance - 1), Sentences(Its_Windows.Timers),
-      txtTalker(*this, "txtTalker", std::move(Default_Talker)) {
+      txtTalker(*this, "txtTalker", std::move(Default_Talker), std::move(Talker_Tip)) {
     Tag = std::to_string(Form_Index);
 }
 

@@ -13,14 +13,16 @@ struct Simulator;
 // What every sensor window has: its sentences, where they go and who talks.
 struct Sensor_Form : Form {
     Sensor_Form(Desktop& Windows, std::string Class_Name, int Its_Instance, int First_Form_Index,
-                std::string Default_Talker);
+                std::string Default_Talker, std::string Talker_Tip);
 
     const int Form_Index; // 1 to 11; the window's Tag is its text
     Sentence_Family Sentences;
 
-    Frame frameNMEAMessages{*this, "frameNMEAMessages", "NMEA Messages"};
+    Frame frameNMEAMessages{*this, "frameNMEAMessages", "NMEA Messages",
+                            "The sentences of this sensor and the seconds between them"};
     Text_Box txtTalker;
-    Combo_Box cmbComPort{*this, "cmbComPort"};
+    Combo_Box cmbComPort{*this, "cmbComPort", "",
+                         "Link on which the sentences leave: serial port 1 to 16, TCP/IP or UDP"};
 };
 
 // Fills and shows port list and talker. The port list writes the window's slot and follows the links in use;

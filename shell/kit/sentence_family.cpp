@@ -71,7 +71,7 @@ Sentence_Line::Sentence_Line(Form& W, const Sentence_Row& Its_Row)
     for (const char* Entry : Row.Choices->Entries) Interval_List.Add_Item(Entry);
     Interval_List.Tool_Tip = Interval_Tip(Row);
     Box.Tool_Tip = std::string("Sends ") + Row.Type + ", " + Row.Content;
-    if (Note) Note->Tool_Tip = std::string(Row.Note_Tip);
+    if (Note) Note->Tool_Tip = std::string(Row.Type) + " is the sentence of one maker";
 }
 
 const Sentence_Line& Sentence_Family::operator[](std::string_view Type) const {
@@ -96,7 +96,9 @@ void Wire_Sentences(Simulator& Sim, Sensor_Form& W) {
         Line.Interval = &Kept.Interval;
         Line.Interval_List.Click = [&Sim, &W, &Line] { Interval_List_Click(Sim, W, Line); };
         Line.Box.Click = [&Sim, &W, &Line] { Check_Box_Click(Sim, W, Line); };
-        Line.Clock.Tick = [&Sim, &W, &Line] { Line.Row.Tick(Sim, W); };
+        Line.Clock.Tick = [&Sim, &W, &Line] {
+            if (Line.Row.Tick) Line.Row.Tick(Sim, W);
+        };
     }
 }
 

@@ -42,15 +42,15 @@ struct Sentence_Setting {
 };
 
 struct Sentence_Row {
-    const char* Type;           // "GGA"; its controls are chkGGA, cmbGGAInterval and timer_GGA
-    const char* Content;        // what it reports, for tool tips
-    const char* Note = nullptr; // a label behind the check box, lblGGA
-    const char* Note_Tip = nullptr;
-    void (*Tick)(Simulator&, Sensor_Form&); // refreshes the record, composes it and sends
-    std::string& (*Talker)(Sensor_Form&);   // of its record
-    Sentence_Setting (*Setting)(Simulator_State&, int Instance);
-    Setup_Place Kept[2]; // of instance 1 and 2
-    const Interval_Choices* Choices;
+    const char* Type = nullptr;    // "GGA"; its controls are chkGGA, cmbGGAInterval and timer_GGA
+    const char* Content = nullptr; // what it reports, for tool tips
+    const char* Note = nullptr;    // a label behind the check box, lblGGA, of a sentence that one maker has
+    // Refreshes the record, composes it and sends; null: nothing leaves.
+    void (*Tick)(Simulator&, Sensor_Form&) = nullptr;
+    std::string& (*Talker)(Sensor_Form&) = nullptr; // of its record; null: it has none
+    Sentence_Setting (*Setting)(Simulator_State&, int Instance) = nullptr;
+    Setup_Place Kept[2] = {}; // of instance 1 and 2
+    const Interval_Choices* Choices = nullptr;
     std::int16_t New_Setup_Interval = 0; // ListIndex that a new setup starts with
     float Stagger_s = 0;                 // wait before its start while the window opens
     int Start_Place = 0; // its turn when START is pressed, counted from 1; 0: START leaves it alone
@@ -82,6 +82,29 @@ struct Setting_In<Enabled, Interval> {
         return {(A.*Enabled)[Instance], (A.*Interval)[Instance]};
     }
 };
+
+// A row from the members of its window and of its state, the rest as in Common. Send refreshes the record,
+// composes it and sends. First is the line of instance 1 in the setup file, that of instance 2 follows it.
+template <auto Enabled, auto Interval>
+constexpr Sentence_Row Row(Sentence_Row Common, const char* Type, const char* Content, int Start_Place,
+                           Setup_Place First, const char* Note = nullptr) {
+    Common.Type = Type;
+    Common.Content = Content;
+    Common.Note = Note;
+    Common.Setting = Setting_In<Enabled, Interval>::Of;
+    Common.Kept[0] = First;
+    Common.Kept[1] = {First.Section, First.Line + 1};
+    Common.Start_Place = Start_Place;
+    return Common;
+}
+template <auto Record, auto Enabled, auto Interval, auto Send>
+constexpr Sentence_Row Row(const Sentence_Row& Common, const char* Type, const char* Content, int Start_Place,
+                           Setup_Place First, const char* Note = nullptr) {
+    Sentence_Row New = Row<Enabled, Interval>(Common, Type, Content, Start_Place, First, Note);
+    New.Tick = On_Window<Send>::Run;
+    New.Talker = Talker_In<Record>::Of;
+    return New;
+}
 
 // A row at work in an open window: its controls, and what of the state they show.
 struct Sentence_Line {

@@ -39,6 +39,16 @@ void Leave_Box(Simulator& Sim, const Form& W, const Box_Of_Bar& B) {
     }
 }
 
+void Wire_Typed_Bar(Simulator& Sim, const Form& W, const Typed_Bar& B) {
+    B.Box.Set_Text(B.Shown());
+    B.Bar.Change = [B] {
+        if (B.Full_Circle && Wrap_Direction_Bar(B.Bar)) return;
+        B.Take();
+        B.Box.Set_Text(B.Shown());
+    };
+    B.Box.Lost_Focus = [&Sim, &W, B] { Leave_Box(Sim, W, {B.Bar, B.Box, B.Refusal, B.Shown()}); };
+}
+
 float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box) {
     const double Typed = std::abs(Val_Dot(Box.Text()));
     Bar.Set_Value(Bar_Place(Bar, Typed, Bar_Steps));

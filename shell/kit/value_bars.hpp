@@ -2,6 +2,7 @@
 
 #include "platform/controls.hpp"
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 
@@ -40,6 +41,19 @@ struct Box_Of_Bar {
 // then the value before stays and shows again. A value that stands beyond the bar, as the ship can leave it
 // behind, may be passed by: it is refused only when it is typed.
 void Leave_Box(Simulator& Sim, const Form& W, const Box_Of_Bar& B);
+
+// A bar and the box beside it in which its value may be typed.
+struct Typed_Bar {
+    Scroll_Bar& Bar;
+    Text_Box& Box;
+    const char* Refusal;                // as in Box_Of_Bar
+    Handler Take;                       // the bar has moved: its value is to be taken
+    std::function<std::string()> Shown; // what the box shows
+    bool Full_Circle = false;           // both ends of the bar lead past north
+};
+
+// Shows the value in the box, and connects the two. The bar stands where it should already.
+void Wire_Typed_Bar(Simulator& Sim, const Form& W, const Typed_Bar& B);
 
 // The size of the number typed in a box that may go beyond its bar, which is brought as near as it gets.
 // Since the bar's handler runs in here, the caller takes the typed value last, so that it stays in effect
