@@ -20,8 +20,8 @@ class Clock {
     // 86400 s. This is the clock that sentences print.
     virtual std::int64_t Local_us() = 0;
 
-    // Passes Duration_us without giving the event loop a turn: a spin on Wide_us() in real time, a step of
-    // the clock in virtual time. It ends strictly later than Duration_us after its start.
+    // Passes Duration_us without giving the event loop a turn: a sleep and a short spin on Wide_us() in real
+    // time, a step of the clock in virtual time. It ends strictly later than Duration_us after its start.
     virtual void Spin_us(std::int64_t Duration_us) = 0;
 };
 

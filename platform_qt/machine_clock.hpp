@@ -17,15 +17,19 @@ struct Zone_Offset {
     std::int64_t At_s(std::int64_t UTC_s); // UTC_s since 1970-01-01
 };
 
-// The clock of the program in real time.
+// The clock of the program in real time, made on the thread that waits on it.
 class Machine_Clock final : public Clock {
   public:
+    Machine_Clock();
     std::int64_t Wide_us() override; // CLOCK_MONOTONIC
     std::int64_t Local_us() override;
-    void Spin_us(std::int64_t Duration_us) override;
+    void Spin_us(std::int64_t Duration_us) override; // asleep but for the last bit of it
 
   private:
+    void Sleep_Until(std::int64_t Wake_us);
+
     Zone_Offset Zone;
+    std::int64_t Margin_us; // between the end of the sleep and the end of the wait
 };
 
 } // namespace brinewright

@@ -3,6 +3,7 @@
 #include "platform_qt/wake_up.hpp"
 #include "support.hpp"
 
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <array>
@@ -26,6 +27,12 @@ struct Zone_Of_Test {
         ::tzset();
     }
 };
+
+std::int64_t Clock_ns(clockid_t Which) {
+    timespec Now{};
+    ::clock_gettime(Which, &Now);
+    return Now.tv_sec * 1'000'000'000 + Now.tv_nsec;
+}
 
 constexpr std::int64_t Summer_Start_2026 = 1774746000; // 2026-03-29 01:00:00 UTC
 constexpr std::int64_t Winter_Start_2026 = 1792890000; // 2026-10-25 01:00:00 UTC
@@ -59,15 +66,28 @@ TEST(Machine_Clock_, Local_time_is_the_systems_and_a_spin_lasts_longer_than_aske
     Machine_Clock Clock;
     const std::int64_t System_s = std::time(nullptr) - 3 * 3600 - 30 * 60;
     EXPECT_NEAR(static_cast<double>(Clock.Local_us() / us_Per_Second), static_cast<double>(System_s), 2);
-    for (const std::int64_t Duration_us : {0, 1, 2000}) {
-        timespec Before{}, After{};
-        ::clock_gettime(CLOCK_MONOTONIC, &Before);
+    for (const std::int64_t Duration_us : {0, 1, 50, 150, 151, 2000, 20'000, 2000}) {
+        const std::int64_t Start_ns = Clock_ns(CLOCK_MONOTONIC);
         Clock.Spin_us(Duration_us);
-        ::clock_gettime(CLOCK_MONOTONIC, &After);
-        const std::int64_t Passed_ns =
-            (After.tv_sec - Before.tv_sec) * 1'000'000'000 + After.tv_nsec - Before.tv_nsec;
-        EXPECT_GT(Passed_ns, Duration_us * 1000);
+        EXPECT_GT(Clock_ns(CLOCK_MONOTONIC) - Start_ns, Duration_us * 1000);
     }
+}
+
+TEST(Machine_Clock_, A_long_wait_leaves_the_processor_to_others_also_between_signals) {
+    constexpr std::int64_t Wait_us = 100'000;
+    Machine_Clock Clock;
+    const auto Usual = std::signal(SIGALRM, [](int) {});
+    const itimerval Every_5_ms{{0, 5000}, {0, 5000}};
+    ::setitimer(ITIMER_REAL, &Every_5_ms, nullptr);
+    const std::int64_t Start_ns = Clock_ns(CLOCK_MONOTONIC), Work_ns = Clock_ns(CLOCK_THREAD_CPUTIME_ID);
+    Clock.Spin_us(Wait_us);
+    const std::int64_t Worked_ns = Clock_ns(CLOCK_THREAD_CPUTIME_ID) - Work_ns;
+    const std::int64_t Passed_ns = Clock_ns(CLOCK_MONOTONIC) - Start_ns;
+    const itimerval Never{};
+    ::setitimer(ITIMER_REAL, &Never, nullptr);
+    std::signal(SIGALRM, Usual);
+    EXPECT_GT(Passed_ns, Wait_us * 1000);
+    EXPECT_LT(Worked_ns, Wait_us * 1000 / 4);
 }
 
 TEST(Wake_Up_, Timers_keep_their_rates_and_a_stopped_one_is_silent) {
