@@ -2,7 +2,7 @@
 
 #include "platform/clock.hpp"
 #include "platform/run_time_error.hpp"
-#include "platform_qt/com_table.hpp"
+#include "platform_linux/com_table.hpp"
 #include "platform_qt/ini_settings.hpp"
 #include "shell/transmit/record_format.hpp"
 

@@ -109,9 +109,25 @@ Json Close(Automation_Core& Core, const Json& Bound) {
     return true;
 }
 
+// Every window that there is, open or not, with the menu item that opens it.
+Json Window_List(const Automation_Target& Target) {
+    Json Rows = Json::array();
+    for (const Window_Class* Class : Target.Window_Table)
+        for (int I = Class->Count == 0 ? 0 : 1; I <= Class->Count; ++I) {
+            const std::string Name = Class->Name;
+            Json Row{{"path", I == 0 ? Name : Name + "[" + std::to_string(I) + "]"}};
+            if (Class->Entry.Name)
+                Row["menu"] = std::string("frmMain.") + Class->Entry.Name +
+                              (I == 0 ? "" : "(" + std::to_string(Class->First_Form_Index + I - 1) + ")");
+            Rows.push_back(std::move(Row));
+        }
+    return Rows;
+}
+
 Json List(Automation_Core& Core, const Json& Bound) {
     const std::string Path = Text_Parameter(Bound, "path");
     if (Path == "state") return State_List(Core.Target.State);
+    if (Path == "windows") return Window_List(Core.Target);
     Json Rows = Json::array();
     if (Path.empty()) {
         for (const auto& Window : Core.Target.Windows.Forms) Rows.push_back(Form_Json(*Window));
@@ -121,7 +137,7 @@ Json List(Automation_Core& Core, const Json& Bound) {
     if (Where.Kind == Address_Kind::Control && !Where.Of_Control) return Control_Json(*Where.Part, true);
     if (Where.Kind != Address_Kind::Form || Where.Of_Form)
         throw Rpc_Error{rpc_code::Unknown_Path,
-                        Path + ": only windows, controls and the word state can be listed"};
+                        Path + ": only windows, controls and the words state and windows can be listed"};
     const std::shared_ptr<Form> Window = Where.Window.lock();
     for (const Control* Part : Window->Controls) Rows.push_back(Control_Json(*Part, false));
     return Rows;

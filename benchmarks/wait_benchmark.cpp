@@ -2,7 +2,7 @@
 // sensors.
 
 #include "benchmarks/running_program.hpp"
-#include "platform_qt/machine_clock.hpp"
+#include "platform_linux/machine_clock.hpp"
 
 #include <cstring>
 #include <ctime>

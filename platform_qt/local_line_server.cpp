@@ -1,6 +1,6 @@
 #include "platform_qt/local_line_server.hpp"
 
-#include "platform_qt/local_socket.hpp"
+#include "platform_linux/local_socket.hpp"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #include "platform_qt/qt_platform.hpp"
 
-#include "platform_qt/ipv4.hpp"
-#include "platform_qt/sdl_joystick.hpp"
+#include "platform_linux/ipv4.hpp"
+#include "platform_linux/sdl_joystick.hpp"
 #include "platform_qt/serial_line.hpp"
 #include "platform_qt/tcp_server.hpp"
 #include "platform_qt/udp_link.hpp"

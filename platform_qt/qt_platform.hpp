@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/platform.hpp"
-#include "platform_qt/com_table.hpp"
-#include "platform_qt/disk_files.hpp"
+#include "platform_linux/com_table.hpp"
+#include "platform_linux/disk_files.hpp"
+#include "platform_linux/machine_clock.hpp"
 #include "platform_qt/ini_settings.hpp"
-#include "platform_qt/machine_clock.hpp"
 
 #include <cstdint>
 #include <map>

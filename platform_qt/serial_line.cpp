@@ -1,8 +1,8 @@
 #include "platform_qt/serial_line.hpp"
 
 #include "platform/run_time_error.hpp"
-#include "platform_qt/serial_settings.hpp"
-#include "platform_qt/system_error.hpp"
+#include "platform_linux/serial_settings.hpp"
+#include "platform_linux/system_error.hpp"
 
 #include <fcntl.h>
 #include <linux/serial.h>

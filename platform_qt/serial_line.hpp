@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/link_objects.hpp"
+#include "platform_linux/serial_line_filter.hpp"
+#include "platform_linux/unique_fd.hpp"
 #include "platform_qt/event_loop.hpp"
-#include "platform_qt/serial_line_filter.hpp"
-#include "platform_qt/unique_fd.hpp"
 
 #include <functional>
 #include <memory>

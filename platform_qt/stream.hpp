@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform_linux/unique_fd.hpp"
 #include "platform_qt/event_loop.hpp"
-#include "platform_qt/unique_fd.hpp"
 
 #include <cstddef>
 #include <functional>

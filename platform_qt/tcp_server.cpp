@@ -1,7 +1,7 @@
 #include "platform_qt/tcp_server.hpp"
 
-#include "platform_qt/ipv4.hpp"
-#include "platform_qt/system_error.hpp"
+#include "platform_linux/ipv4.hpp"
+#include "platform_linux/system_error.hpp"
 
 #include <netinet/in.h>
 #include <sys/socket.h>

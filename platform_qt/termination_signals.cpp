@@ -1,6 +1,6 @@
 #include "platform_qt/termination_signals.hpp"
 
-#include "platform_qt/system_error.hpp"
+#include "platform_linux/system_error.hpp"
 
 #include <sys/signalfd.h>
 

@@ -1,8 +1,8 @@
 #include "platform_qt/udp_link.hpp"
 
 #include "platform/run_time_error.hpp"
-#include "platform_qt/ipv4.hpp"
-#include "platform_qt/system_error.hpp"
+#include "platform_linux/ipv4.hpp"
+#include "platform_linux/system_error.hpp"
 
 #include <net/if.h>
 #include <sys/socket.h>

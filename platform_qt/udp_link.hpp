@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/platform.hpp"
+#include "platform_linux/unique_fd.hpp"
 #include "platform_qt/event_loop.hpp"
-#include "platform_qt/unique_fd.hpp"
 
 #include <netinet/in.h>
 

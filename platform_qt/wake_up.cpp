@@ -1,6 +1,6 @@
 #include "platform_qt/wake_up.hpp"
 
-#include "platform_qt/system_error.hpp"
+#include "platform_linux/system_error.hpp"
 
 #include <sys/timerfd.h>
 

@@ -129,7 +129,7 @@ class Automation:
         return answer["result"]
 
 
-def picture_palette(bin_dir, root, pictures, palette, setup, prepare, windows):
+def picture_palette(bin_dir, root, pictures, palette, setup, prepare, windows, then=None):
     with tempfile.TemporaryDirectory() as folder:
         screen = {"name": "bench", "x": 0, "y": 0, "width": 1366, "height": 768, "logicalDpi": 96, "dpr": 1}
         (pathlib.Path(folder) / "screen.json").write_text(json.dumps({"screens": [screen]}))
@@ -148,6 +148,8 @@ def picture_palette(bin_dir, root, pictures, palette, setup, prepare, windows):
                 for method, params in steps:
                     drive.call(method, params)
                 drive.call("grab", {"path": form, "file": f"{pictures}/{name}-{palette.lower()}.png"})
+            if then:
+                then(drive)
             drive.call("click", {"path": "frmMain.mnuFileExit"})
             program.wait(20)
         finally:
@@ -155,12 +157,38 @@ def picture_palette(bin_dir, root, pictures, palette, setup, prepare, windows):
             program.wait()
 
 
+def open_pictures(bin_dir, root, pictures, palette, done):
+    """A picture of every window that the menus open and that no scene has shown; the names of those that are left."""
+    left = []
+
+    def walk(drive):
+        for window in drive.call("list", {"path": "windows"}):
+            path = window["path"]
+            kind = path.partition("[")[0]
+            if kind in done:
+                continue
+            done.add(kind)
+            if "menu" not in window:
+                left.append(kind)
+                continue
+            drive.call("click", {"path": window["menu"]})
+            drive.call("advance", {"seconds": 2})
+            drive.call("grab", {"path": path, "file": f"{pictures}/{kind}-{palette.lower()}.png"})
+
+    picture_palette(bin_dir, root, pictures, palette, "demo.ini", SHIP_PREPARE, [], walk)
+    return left
+
+
 def main():
     bin_dir, root, pictures = sys.argv[1:]
     for palette in PALETTES:
         for setup, prepare, windows in RUNS:
             picture_palette(bin_dir, root, pictures, palette, setup, prepare, windows)
-    print(len(PALETTES) * sum(len(windows) for _, _, windows in RUNS), "pictures in", pictures)
+        done = {path.partition("[")[0] for _, _, windows in RUNS for path, _, _ in windows}
+        left = open_pictures(bin_dir, root, pictures, palette, done)
+    print(len(list(pathlib.Path(pictures).glob("*.png"))), "pictures in", pictures)
+    if left:
+        raise SystemExit("no scene shows " + ", ".join(left))
 
 
 main()

@@ -1,7 +1,7 @@
 // Any bytes and counts through the serial line filter. How the bytes are cut into chunks must not change what
 // comes out, and nothing may come out that did not come in.
 
-#include "platform_qt/serial_line_filter.hpp"
+#include "platform_linux/serial_line_filter.hpp"
 
 #include <cstddef>
 #include <cstdint>

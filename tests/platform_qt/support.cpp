@@ -1,6 +1,6 @@
 #include "support.hpp"
 
-#include "platform_qt/ipv4.hpp"
+#include "platform_linux/ipv4.hpp"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

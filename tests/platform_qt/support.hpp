@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/run_time_error.hpp"
-#include "platform_qt/unique_fd.hpp"
+#include "platform_linux/unique_fd.hpp"
 
 #include <gtest/gtest.h>
 

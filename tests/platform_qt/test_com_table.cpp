@@ -1,5 +1,5 @@
 #include "platform/virtual_platform.hpp"
-#include "platform_qt/com_table.hpp"
+#include "platform_linux/com_table.hpp"
 #include "support.hpp"
 
 #include <filesystem>

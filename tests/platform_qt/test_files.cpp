@@ -1,4 +1,4 @@
-#include "platform_qt/disk_files.hpp"
+#include "platform_linux/disk_files.hpp"
 #include "platform_qt/ini_settings.hpp"
 #include "support.hpp"
 

@@ -1,4 +1,4 @@
-#include "platform_qt/ipv4.hpp"
+#include "platform_linux/ipv4.hpp"
 #include "platform_qt/qt_platform.hpp"
 #include "support.hpp"
 

@@ -1,5 +1,5 @@
 #include "platform/virtual_platform.hpp"
-#include "platform_qt/sdl_joystick.hpp"
+#include "platform_linux/sdl_joystick.hpp"
 #include "support.hpp"
 
 #include <SDL2/SDL.h>

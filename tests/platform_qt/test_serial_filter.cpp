@@ -1,4 +1,4 @@
-#include "platform_qt/serial_line_filter.hpp"
+#include "platform_linux/serial_line_filter.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
+#include "platform_linux/serial_settings.hpp"
+#include "platform_linux/system_error.hpp"
 #include "platform_qt/serial_line.hpp"
-#include "platform_qt/serial_settings.hpp"
-#include "platform_qt/system_error.hpp"
 #include "support.hpp"
 
 #include <fcntl.h>

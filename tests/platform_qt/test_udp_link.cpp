@@ -1,5 +1,5 @@
 #include "platform/virtual_platform.hpp"
-#include "platform_qt/ipv4.hpp"
+#include "platform_linux/ipv4.hpp"
 #include "platform_qt/udp_link.hpp"
 #include "support.hpp"
 

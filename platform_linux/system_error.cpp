@@ -1,4 +1,4 @@
-#include "platform_qt/system_error.hpp"
+#include "platform_linux/system_error.hpp"
 
 #include "platform/run_time_error.hpp"
 

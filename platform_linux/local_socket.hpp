@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform_qt/unique_fd.hpp"
+#include "platform_linux/unique_fd.hpp"
 
 #include <string>
 

@@ -1,8 +1,8 @@
-#include "platform_qt/disk_files.hpp"
+#include "platform_linux/disk_files.hpp"
 
 #include "platform/run_time_error.hpp"
-#include "platform_qt/system_error.hpp"
-#include "platform_qt/unique_fd.hpp"
+#include "platform_linux/system_error.hpp"
+#include "platform_linux/unique_fd.hpp"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "platform_qt/machine_clock.hpp"
+#include "platform_linux/machine_clock.hpp"
 
 #include <sys/prctl.h>
 

@@ -1,4 +1,4 @@
-#include "platform_qt/ipv4.hpp"
+#include "platform_linux/ipv4.hpp"
 
 #include "platform/run_time_error.hpp"
 

@@ -1,4 +1,4 @@
-#include "platform_qt/sdl_joystick.hpp"
+#include "platform_linux/sdl_joystick.hpp"
 
 #include <SDL2/SDL.h>
 #include <dlfcn.h>

@@ -1,7 +1,7 @@
-#include "platform_qt/local_socket.hpp"
+#include "platform_linux/local_socket.hpp"
 
 #include "platform/run_time_error.hpp"
-#include "platform_qt/system_error.hpp"
+#include "platform_linux/system_error.hpp"
 
 #include <sys/socket.h>
 #include <sys/stat.h>

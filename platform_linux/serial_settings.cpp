@@ -1,4 +1,4 @@
-#include "platform_qt/serial_settings.hpp"
+#include "platform_linux/serial_settings.hpp"
 
 #include "platform/run_time_error.hpp"
 

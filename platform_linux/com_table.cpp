@@ -1,4 +1,4 @@
-#include "platform_qt/com_table.hpp"
+#include "platform_linux/com_table.hpp"
 
 #include "platform/run_time_error.hpp"
 
