@@ -29,6 +29,8 @@ Layout Messages(Sensor_Form& W, std::vector<Message_Note> Notes = {});
 Layout Bar_And_Box(Scroll_Bar& Bar, layout::Steps Scale, Text_Box& Typed, Layout Unit);
 inline constexpr int Typed_Width = 58; // of that box
 
+inline constexpr int Least_Standing_Bar = 130;
+
 // The box that puts noise on, and lists of how much, each behind its caption and before its unit.
 struct Noise_List {
     Label& Title;

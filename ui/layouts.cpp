@@ -2,57 +2,15 @@
 
 #include "shell/layouts.hpp"
 #include "ui/layout_builder.hpp"
-#include "ui/layouts/layout_parts.hpp"
 
 #include <stdexcept>
 
 namespace brinewright {
 
-namespace {
-
-struct Layout_Row {
-    const char* Form_Name;
-    void (*Lay_Out)(Form_View&, Form&);
-};
-
-constexpr Layout_Row Layouts[] = {
-    {"frmPosition", Lay_Out_Position},
-    {"frmGNSS", Lay_Out_GNSS_Configuration},
-    {"frmMonitor", Lay_Out_Monitor},
-    {"frmExtendedMonitor", Lay_Out_Extended_Monitor},
-    {"frmTraffic", Lay_Out_Traffic},
-    {"frmTCPIP", Lay_Out_TCPIP},
-    {"frmIEC61162", Lay_Out_IEC61162},
-    {"frmGeoFormat", Lay_Out_Geo_Format},
-    {"frmSetup", Lay_Out_Setup},
-    {"frmProgress", Lay_Out_Progress},
-    {"frmComportInfo", Lay_Out_Comport_Info},
-    {"frmLog", Lay_Out_Log},
-    {"frmEchosounder", Lay_Out_Echosounder},
-    {"frmWind", Lay_Out_Wind},
-    {"frmShip", Lay_Out_Ship},
-    {"frmShipSetup", Lay_Out_Ship_Setup},
-    {"frmSetSOG", Lay_Out_Set_SOG},
-};
-
-const Layout_Row* Find_Old_Layout(const std::string& Form_Name) {
-    for (const Layout_Row& Row : Layouts)
-        if (Form_Name == Row.Form_Name) return &Row;
-    return nullptr;
-}
-
-} // namespace
-
-bool Has_Layout(const std::string& Form_Name) { return Find_Layout(Form_Name) || Find_Old_Layout(Form_Name); }
-
 void Lay_Out(Form_View& View, Form& Shown) {
-    if (const Layout_Function Made = Find_Layout(Shown.Name)) {
-        Build_Layout(View, Made(View.Sim, Shown));
-    } else {
-        const Layout_Row* Old = Find_Old_Layout(Shown.Name);
-        if (!Old) throw std::logic_error("no layout for " + Shown.Name);
-        Old->Lay_Out(View, Shown);
-    }
+    const Layout_Function Its_Layout = Find_Layout(Shown.Name);
+    if (!Its_Layout) throw std::logic_error("no layout for " + Shown.Name);
+    Build_Layout(View, Its_Layout(View.Sim, Shown));
     View.Refresh();
 }
 
