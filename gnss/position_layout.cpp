@@ -82,10 +82,7 @@ Layout Datum_Box(frmPosition& W) {
 }
 
 Layout Satellites(std::vector<Layout> Boxes) {
-    constexpr int Columns = 8;
-    for (int I = 0; I < static_cast<int>(Boxes.size()); ++I)
-        Boxes[static_cast<std::size_t>(I)].How.Cell = {I / Columns, I % Columns};
-    return Cells(std::move(Boxes), {.Across = 2, .Down = 2});
+    return Cells_By_Lines(8, std::move(Boxes), {.Across = 2, .Down = 2});
 }
 
 Layout SBAS_Box(frmPosition& W) {

@@ -55,6 +55,15 @@ Layout Cells(std::vector<Layout> Parts, layout::Raster Manner) {
     return Layout(std::move(Manner), std::move(Parts));
 }
 
+Layout Cells_By_Lines(int Columns, std::vector<Layout> Parts, layout::Raster Manner) {
+    int Place = 0;
+    for (Layout& Part : Parts) {
+        Part.How.Cell = {Place / Columns, Place % Columns};
+        ++Place;
+    }
+    return Cells(std::move(Parts), std::move(Manner));
+}
+
 Layout Box(Frame& Around, Layout Contents, int Side_Margin) {
     Layout New = Boxed({{}, Side_Margin}, std::move(Contents));
     New.Part = &Around;

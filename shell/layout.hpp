@@ -182,6 +182,8 @@ Layout Stretch(int Share = 1);
 
 Layout At(int Row, int Column, Layout Part, int Rows = 1, int Columns = 1);
 Layout Cells(std::vector<Layout> Parts, layout::Raster Manner); // each placed by At
+// Line by line, so many side by side.
+Layout Cells_By_Lines(int Columns, std::vector<Layout> Parts, layout::Raster Manner);
 
 Layout Box(Frame& Around, Layout Contents, int Side_Margin = rhythm::Margin);
 Layout Box(std::string Title, Layout Contents, int Side_Margin = rhythm::Margin);

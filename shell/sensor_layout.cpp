@@ -53,15 +53,15 @@ Layout Start_And_Pause(Button& Start, Button& Pause, const Timer& Simulation) {
                     [&Pause, &Simulation] { return Pauses(Pause, Simulation) ? Role::Warn : Role::Plain; })});
 }
 
-Layout Messages(Sensor_Form& W, std::vector<Message_Note> Notes) {
+Layout Messages(Sensor_Form& W, const std::vector<Message_Note>& Notes) {
     std::vector<Layout> Parts;
     int Line_Number = 0;
     for (const Sentence_Line& Line : W.Sentences.Lines) {
         Parts.push_back(At(Line_Number, 0, *Line.Box));
         Parts.push_back(At(Line_Number, 1, *Line.Interval_List));
         Parts.push_back(At(Line_Number, 2, Layout(layout::Countdown{Line.Clock})));
-        for (auto& [Beside, Note] : Notes)
-            if (Beside == Line.Box) Parts.push_back(At(Line_Number, 3, std::move(Note)));
+        for (const auto& [Beside, Note] : Notes)
+            if (Beside == Line.Box) Parts.push_back(At(Line_Number, 3, Note));
         ++Line_Number;
     }
     return Box(W.frameNMEAMessages,

@@ -23,7 +23,7 @@ Layout Start_And_Pause(Button& Start, Button& Pause, const Timer& Simulation);
 // A row a sentence: box, interval, and a thin bar that fills when it leaves and empties until the next one;
 // at its end what else belongs to the sentence.
 using Message_Note = std::pair<const Check_Box*, Layout>;
-Layout Messages(Sensor_Form& W, std::vector<Message_Note> Notes = {});
+Layout Messages(Sensor_Form& W, const std::vector<Message_Note>& Notes = {});
 
 // A bar with its scale, and beside it the box to type the value in, above its unit.
 Layout Bar_And_Box(Scroll_Bar& Bar, layout::Steps Scale, Text_Box& Typed, Layout Unit);

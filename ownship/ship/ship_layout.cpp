@@ -97,26 +97,19 @@ Layout Steering_Box(frmShip& W) {
              Row({Place(W.lblArrows, Role::Good), Key_Catcher(W.txtDummy), Stretch(), Dim(W.lblJoystick)})}));
 }
 
-// In two columns, line by line.
 Layout Help_Box(Frame& Around, std::vector<Layout> Lines) {
-    int Place = 0;
-    for (Layout& Line : Lines) {
-        Line.How.Cell = {Place / 2, Place % 2};
-        ++Place;
-    }
-    return Box(Around, Cells(std::move(Lines), {.Down = 2}));
+    return Box(Around, Cells_By_Lines(2, std::move(Lines), {.Down = 2}));
 }
 
 // The help comes and goes; the boxes share what it leaves.
 Layout Right_Column(frmShip& W) {
-    const auto Noise =
-        Box("Noise", Fields({{W.lblSOGNoise, W.cmbSOGNoise}, {W.lblROTNoise, W.cmbROTNoise}}, 2));
+    Layout Noise = Box("Noise", Fields({{W.lblSOGNoise, W.cmbSOGNoise}, {W.lblROTNoise, W.cmbROTNoise}}, 2));
     const auto Help =
         Column({Help_Box(W.frameArrows, {W.lblArrowsStep, W.lblArrowsShift, W.lblArrowsAlt, W.lblArrowsCtrl}),
                 Help_Box(W.frameJoystick, Each(W.lblJoystickButton))})
             .Spaced(rhythm::Toolkit);
-    return Column({Positions_Box(W).Wide(), Sensors_Box(W).Wide(), Current_Box(W).Wide(),
-                   Layout(Noise).Wide(), Steering_Box(W).Wide(), Help});
+    return Column({Positions_Box(W).Wide(), Sensors_Box(W).Wide(), Current_Box(W).Wide(), Noise.Wide(),
+                   Steering_Box(W).Wide(), Help});
 }
 
 } // namespace
