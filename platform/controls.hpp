@@ -21,7 +21,7 @@ struct Frame;
 struct Stand {
     Stand(Form& Its_Form) : Owner(Its_Form) {}
     Stand(const Frame& Its_Frame);
-    Stand Element(int I) const; // one of like controls of one name
+    Stand Element(int I) const; // the same place for one of like controls of one name
 
     Form& Owner;
     const Frame* In = nullptr;

@@ -103,19 +103,29 @@ Built Make(Form_View& View, const Layout& Node, const layout::Raster& Kind) {
     return New;
 }
 
+// Boxes belong to the view from the start: the keyboard goes through the controls in the order in which they
+// are made, and would lose it if a box took them out of the view and back.
 Built Make(Form_View& View, const Layout& Node, const layout::Framed& Kind) {
-    const Built Contents = Make(View, Node.Inside.at(0));
-    QGroupBox* Box =
-        Node.Part ? View.Make(static_cast<Frame&>(*Node.Part)) : new QGroupBox(To_Screen(Kind.Title));
+    const auto Its_Box = [&] {
+        return Node.Part ? View.Make(static_cast<Frame&>(*Node.Part))
+                         : new QGroupBox(To_Screen(Kind.Title), &View);
+    };
+    // What is made first is shown first, and a box that is shown measures what it holds. So a box is made
+    // after its lists, which have their entries then; the bare one before them, which gives them their usual
+    // width.
+    QGroupBox* Box = Kind.Bare ? Its_Box() : nullptr;
     if (Kind.Bare) Take_Style(Box);
+    const Built Contents = Make(View, Node.Inside.at(0));
+    if (!Box) Box = Its_Box();
+    if (Contents.Widget) (new QVBoxLayout(Box))->addWidget(Contents.Widget);
+    if (Contents.Inside) Box->setLayout(Contents.Inside);
     const int Side = Kind.Side_Margin;
-    Contents.Inside->setContentsMargins(Side, Kind.Bare ? 0 : rhythm::Gap, Side, Side);
-    Box->setLayout(Contents.Inside);
+    Box->layout()->setContentsMargins(Side, Kind.Bare ? 0 : rhythm::Gap, Side, Side);
     return Box;
 }
 
 Built Make(Form_View& View, const Layout& Node, const layout::Split&) {
-    auto* New = new QSplitter(Qt::Vertical);
+    auto* New = new QSplitter(Qt::Vertical, &View);
     New->setChildrenCollapsible(false);
     for (const Layout& Part : Node.Inside) {
         New->addWidget(Make(View, Part).Widget);

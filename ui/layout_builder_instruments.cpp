@@ -1,5 +1,6 @@
 // What is painted: scales beside sliders, the time to the next sentence, instruments.
 
+#include "links/port_setup/port_detection.hpp"
 #include "ui/instruments/attitude_indicator.hpp"
 #include "ui/instruments/compass_rose.hpp"
 #include "ui/instruments/countdown_bar.hpp"
@@ -10,6 +11,7 @@
 #include "ui/layout_builder.hpp"
 
 #include <QBoxLayout>
+#include <QProgressBar>
 
 #include <algorithm>
 #include <cstdlib>
@@ -71,12 +73,23 @@ void Paint(QPainter& P, const QRectF& Place, const Sky_Reading& R, Palette_Kind 
     Paint_Sky(P, Place, R, K);
 }
 
+QWidget* Make_Port_Progress(Form_View& View, const Form& Shown) {
+    const auto& F = static_cast<const frmProgress&>(Shown);
+    auto* New = new QProgressBar;
+    New->setRange(0, 100);
+    New->setTextVisible(false);
+    View.When_Shown([&F, New] {
+        New->setValue(To_Screen(*F.lblPercent.Caption).section(QLatin1Char(' '), 0, 0).toInt());
+    });
+    return New;
+}
+
 // What only the toolkit can show, by the name under which a layout asks for it.
 struct Custom_Row {
     const char* Name;
     QWidget* (*Make)(Form_View&, const Form&);
 };
-constexpr Custom_Row Customs[] = {{"", nullptr}};
+constexpr Custom_Row Customs[] = {{"share of the ports", Make_Port_Progress}};
 
 } // namespace
 
@@ -109,10 +122,8 @@ Built Make(Form_View& View, const Layout&, const layout::Countdown& Kind) {
 Built Make(Form_View& View, const Layout&, const layout::Instrument& Kind) {
     return std::visit(
         [&]<class Values>(const std::function<Values()>& Read) -> Built {
-            auto* New = new Instrument<Values>(View.Colours, Paint, Read, QSize(Kind.Width, Kind.Height),
-                                               To_Screen(Kind.Tip));
-            New->setMinimumSize(Kind.Least_Width, Kind.Least_Height);
-            return Looking(View, New);
+            return Looking(View, new Instrument<Values>(View.Colours, Paint, Read,
+                                                        QSize(Kind.Width, Kind.Height), To_Screen(Kind.Tip)));
         },
         Kind.Read);
 }

@@ -102,8 +102,7 @@ Built Make(Form_View& View, const Layout& Node, const layout::Pane& Kind) {
 
 Built Make(Form_View& View, const Layout& Node, const layout::Listing& Kind) {
     QTableView* New = View.Make(static_cast<Grid&>(*Node.Part));
-    if (Kind.Sentence_Face) New->setFont(Sentence_Font());
-    if (Kind.Least_Width > 0) New->setMinimumWidth(Kind.Least_Width);
+    if (Node.How.Sentence_Face) New->setFont(Sentence_Font());
     if (Kind.Widest.empty()) {
         New->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
         New->verticalHeader()->setDefaultSectionSize(20);

@@ -4,9 +4,8 @@
 
 namespace brinewright {
 
-// Gives View its widgets and their places, by the layout of the form's class. Each layout is one short file
-// in ui/layouts/; a form without one is a fault that a test finds.
+// Gives View its widgets and their places, by the layout of the form's class. A form without one is a fault
+// that a test finds.
 void Lay_Out(Form_View& View, Form& Shown);
-bool Has_Layout(const std::string& Form_Name);
 
 } // namespace brinewright

@@ -1,10 +1,11 @@
 #include "ui/opening_progress.hpp"
 
+#include "shell/kit/layout.hpp"
 #include "shell/state/shell_state.hpp"
-#include "ui/layouts/layout_parts.hpp"
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -19,7 +20,9 @@ Opening_Progress::Opening_Progress(Simulator& Its_Simulator)
       Text(new QLabel(QStringLiteral("Reading the setup"))), Bar(new QProgressBar) {
     setObjectName(QStringLiteral("form"));
     setAttribute(Qt::WA_StyledBackground);
-    QVBoxLayout* Column = Column_In(this);
+    auto* Column = new QVBoxLayout(this);
+    Column->setContentsMargins(rhythm::Margin, rhythm::Margin, rhythm::Margin, rhythm::Margin);
+    Column->setSpacing(rhythm::Gap);
     Column->addWidget(Text);
     Column->addWidget(Bar);
     Bar->setTextVisible(false);

@@ -63,6 +63,7 @@ const Window_Class Geo_Format_Window{.Name = frmGeoFormat::Class_Name,
                                                .Place = 4,
                                                .Checked_While_Open = false},
                                      .Make = Make_Single<frmGeoFormat>,
-                                     .Load = frmGeoFormat_Load};
+                                     .Load = frmGeoFormat_Load,
+                                     .Lay_Out = Lay_Out_Geo_Format};
 
 } // namespace brinewright

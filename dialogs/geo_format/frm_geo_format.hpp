@@ -23,6 +23,8 @@ struct frmGeoFormat : Form {
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
 
+Layout Lay_Out_Geo_Format(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Geo_Format_Window;
 
 } // namespace brinewright

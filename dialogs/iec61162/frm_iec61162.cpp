@@ -95,6 +95,7 @@ const Window_Class IEC61162_Window{
               .Checked_While_Open = false,
               .Checked = [](const Simulator& Sim) { return Sim.State.Of<IEC450_State>().IEC450_Enabled; }},
     .Make = Make_Single<frmIEC61162>,
-    .Load = frmIEC61162_Load};
+    .Load = frmIEC61162_Load,
+    .Lay_Out = Lay_Out_IEC61162};
 
 } // namespace brinewright

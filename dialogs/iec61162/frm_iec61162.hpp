@@ -27,6 +27,8 @@ struct frmIEC61162 : Form {
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
 
+Layout Lay_Out_IEC61162(Simulator& Sim, Form& Shown);
+
 extern const Window_Class IEC61162_Window;
 
 } // namespace brinewright

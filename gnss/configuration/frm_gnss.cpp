@@ -112,7 +112,8 @@ const Window_Class GNSS_Configuration_Windows{.Name = frmGNSS::Class_Name,
                                               .Count = 2,
                                               .Caption = "GNSS# Configuration",
                                               .Make = Make_Instance<frmGNSS>,
-                                              .Load = frmGNSS_Load};
+                                              .Load = frmGNSS_Load,
+                                              .Lay_Out = Lay_Out_GNSS_Configuration};
 
 std::deque<GNSS_System_Row> System_Rows(Form& F) {
     std::deque<GNSS_System_Row> Rows;

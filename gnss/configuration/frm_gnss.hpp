@@ -37,6 +37,8 @@ struct frmGNSS : Form {
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
 
+Layout Lay_Out_GNSS_Configuration(Simulator& Sim, Form& Shown);
+
 extern const Window_Class GNSS_Configuration_Windows;
 
 // Brings the three labels to what is chosen: one mode letter a system, "N" for one that is not used, without

@@ -162,7 +162,8 @@ void Form_Load(Simulator& Sim, frmPosition& W) {
 } // namespace
 
 frmPosition::frmPosition(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "GP", "Talker of all sentences but GNS, two characters") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "GP",
+                  "Talker of all sentences but GNS, two characters") {
     frmGGA.Width = GGA_Width;
     frmGSA.Width = GSA_Width;
     frmGSV.Width = GSV_Width;
@@ -185,6 +186,7 @@ const Window_Class GNSS_Windows{
     .Caption = "GNSS #    (Global Nav Sat System#)",
     .Make = Make_Instance<frmPosition>,
     .Load = Load_Sensor<frmPosition, Form_Load>,
+    .Lay_Out = Lay_Out_Position,
     .Sentences = GNSS_Sentences()};
 
 void Fit_Width(Simulator& Sim, frmPosition& W) {

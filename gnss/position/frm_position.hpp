@@ -176,6 +176,8 @@ struct frmPosition : Sensor_Form {
     Label lblGSTDecrease{*this, "lblGSTDecrease", "Right click on label to decrease"};
 };
 
+Layout Lay_Out_Position(Simulator& Sim, Form& Shown);
+
 extern const Window_Class GNSS_Windows;
 
 // The width that shows frmGGA and, left to right, as far as the last of GSA, GSV and GST that is enabled.

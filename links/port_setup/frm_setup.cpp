@@ -186,9 +186,12 @@ const Window_Class Port_Setup_Window{.Name = frmSetup::Class_Name,
                                                .Checked_While_Open = false},
                                      .Make = Make_Single<frmSetup>,
                                      .Load = frmSetup_Load,
+                                     .Lay_Out = Lay_Out_Setup,
                                      .Shown = Show_frmSetup};
-const Window_Class Comport_Info_Window{
-    .Name = frmComportInfo::Class_Name, .Make = Make_Single<frmComportInfo>, .Load = frmComportInfo_Load};
+const Window_Class Comport_Info_Window{.Name = frmComportInfo::Class_Name,
+                                       .Make = Make_Single<frmComportInfo>,
+                                       .Load = frmComportInfo_Load,
+                                       .Lay_Out = Lay_Out_Comport_Info};
 
 frmSetup::frmSetup(Desktop& Its_Windows)
     : Form(Its_Windows, Class_Name, 0, Form_Kind::Dialog), frameCOMport(*this, "frameCOMport", ""),

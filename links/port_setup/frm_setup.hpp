@@ -72,6 +72,9 @@ struct frmComportInfo : Form {
     Button cmdOK{*this, "cmdOK", "OK"};
 };
 
+Layout Lay_Out_Setup(Simulator& Sim, Form& Shown);
+
+Layout Lay_Out_Comport_Info(Simulator& Sim, Form& Shown);
 extern const Window_Class Port_Setup_Window, Comport_Info_Window;
 
 // Shows or hides the frame of serial port Port with all that stands in it.

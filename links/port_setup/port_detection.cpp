@@ -87,8 +87,10 @@ void timer_Detection_Tick(Simulator& Sim, frmSetup& F) {
 
 } // namespace
 
-const Window_Class Progress_Window{
-    .Name = frmProgress::Class_Name, .Make = Make_Single<frmProgress>, .With_Focus = false};
+const Window_Class Progress_Window{.Name = frmProgress::Class_Name,
+                                   .Make = Make_Single<frmProgress>,
+                                   .Lay_Out = Lay_Out_Progress,
+                                   .With_Focus = false};
 
 frmProgress::frmProgress(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Tool) {
     Caption = "Detecting comports";

@@ -19,6 +19,8 @@ struct frmProgress : Form {
     Label lblTime{*this, "lblTime", "0 sec"}; // since the start
 };
 
+Layout Lay_Out_Progress(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Progress_Window;
 
 // Looks which of the serial ports 1 to 16 are there by trying them, one for each turn of the event loop, and

@@ -77,6 +77,7 @@ void frmTCPIP_Shown(Simulator& Sim, Form& Opened) {
 const Window_Class TCP_Status_Window{.Name = frmTCPIP::Class_Name,
                                      .Make = Make_Single<frmTCPIP>,
                                      .Load = frmTCPIP_Load,
+                                     .Lay_Out = Lay_Out_TCPIP,
                                      .With_Focus = false,
                                      .Shown = frmTCPIP_Shown};
 

@@ -19,6 +19,8 @@ struct frmTCPIP : Form {
     Label lblPort{*this, "lblPort"};
 };
 
+Layout Lay_Out_TCPIP(Simulator& Sim, Form& Shown);
+
 extern const Window_Class TCP_Status_Window;
 
 } // namespace brinewright

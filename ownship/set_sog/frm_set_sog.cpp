@@ -86,7 +86,9 @@ frmSetSOG::frmSetSOG(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Fo
     Show_Tips(Tips);
 }
 
-const Window_Class Set_SOG_Window{
-    .Name = frmSetSOG::Class_Name, .Make = Make_Single<frmSetSOG>, .Load = frmSetSOG_Load};
+const Window_Class Set_SOG_Window{.Name = frmSetSOG::Class_Name,
+                                  .Make = Make_Single<frmSetSOG>,
+                                  .Load = frmSetSOG_Load,
+                                  .Lay_Out = Lay_Out_Set_SOG};
 
 } // namespace brinewright

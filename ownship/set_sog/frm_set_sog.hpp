@@ -24,6 +24,8 @@ struct frmSetSOG : Form {
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
 
+Layout Lay_Out_Set_SOG(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Set_SOG_Window;
 
 } // namespace brinewright

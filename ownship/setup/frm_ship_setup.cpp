@@ -297,6 +297,7 @@ const Window_Class Ship_Setup_Window{.Name = frmShipSetup::Class_Name,
                                                .Checked_While_Open = false,
                                                .In_Ship_Mode_Only = true},
                                      .Make = Make_Single<frmShipSetup>,
-                                     .Load = frmShipSetup_Load};
+                                     .Load = frmShipSetup_Load,
+                                     .Lay_Out = Lay_Out_Ship_Setup};
 
 } // namespace brinewright

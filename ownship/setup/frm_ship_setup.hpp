@@ -66,6 +66,8 @@ struct frmShipSetup : Form {
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 };
 
+Layout Lay_Out_Ship_Setup(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Ship_Setup_Window;
 
 } // namespace brinewright

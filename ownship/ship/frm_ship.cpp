@@ -129,6 +129,7 @@ const Window_Class Ship_Window{
     .Caption = "Ship Simulator",
     .Make = Make_Single<frmShip>,
     .Load = frmShip_Load,
+    .Lay_Out = Lay_Out_Ship,
     // It exists in Ship mode only, but a list of windows that was kept in Sensor mode can name it.
     .May_Open = In_Ship_Mode};
 

@@ -89,6 +89,8 @@ struct frmShip : Form {
 
 // Its opening: unless the simulator starts with the last navdata the ship goes to its start position. Speed,
 // heading and rate of turn stay what they are.
+Layout Lay_Out_Ship(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Ship_Window;
 
 } // namespace brinewright

@@ -28,7 +28,8 @@ void Form_Load(Simulator& Sim, frmEchosounder& W) {
 } // namespace
 
 frmEchosounder::frmEchosounder(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "SD", "Talker of all sentences, two characters") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "SD",
+                  "Talker of all sentences, two characters") {
     Set_Caption("Echosounder x"); // until the opener numbers it
     cmbOffset.Free_Text = true;
     Set_Tool_Tips(*this);
@@ -42,6 +43,7 @@ const Window_Class Echosounder_Windows{
     .Caption = "Echosounder #",
     .Make = Make_Instance<frmEchosounder>,
     .Load = Load_Sensor<frmEchosounder, Form_Load>,
+    .Lay_Out = Lay_Out_Echosounder,
     .Sentences = Echo_Sentences(),
     // The log of the same number, if it is open: this slip is required.
     .Focused_Instead = "frmLog"};

@@ -48,6 +48,8 @@ struct frmEchosounder : Sensor_Form {
     Sentence_Lines Lines{*this, Echo_Sentences()};
 };
 
+Layout Lay_Out_Echosounder(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Echosounder_Windows;
 
 } // namespace brinewright

@@ -42,7 +42,8 @@ void Form_Load(Simulator& Sim, frmLog& W) {
 } // namespace
 
 frmLog::frmLog(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "VW", "Talker of all sentences, two characters") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "VW",
+                  "Talker of all sentences, two characters") {
     Set_Caption(" Log x"); // until the opener numbers it
     lblShipControl.Visible = false;
     cmdResetVLW.Enabled = false;
@@ -58,6 +59,7 @@ const Window_Class Log_Windows{.Name = frmLog::Class_Name,
                                .Caption = "Log #",
                                .Make = Make_Instance<frmLog>,
                                .Load = Load_Sensor<frmLog, Form_Load>,
+                               .Lay_Out = Lay_Out_Log,
                                .Sentences = Log_Sentences(),
                                .Width = Width};
 

@@ -49,6 +49,8 @@ struct frmLog : Sensor_Form {
     Label lblCurrentSpeed{*this, "lblCurrentSpeed"};
 };
 
+Layout Lay_Out_Log(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Log_Windows;
 
 } // namespace brinewright

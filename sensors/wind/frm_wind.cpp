@@ -42,7 +42,8 @@ void Form_Load(Simulator& Sim, frmWind& W) {
 } // namespace
 
 frmWind::frmWind(Desktop& Its_Windows, int Its_Instance)
-    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "WI", "Talker of all sentences, two characters") {
+    : Sensor_Form(Its_Windows, Class_Name, Its_Instance, First_Form_Index, "WI",
+                  "Talker of all sentences, two characters") {
     Set_Caption("Wind Gauge x"); // until the opener numbers it
     Set_Tool_Tips(*this);
 }
@@ -55,6 +56,7 @@ const Window_Class Wind_Windows{
     .Caption = "Wind gauge #",
     .Make = Make_Instance<frmWind>,
     .Load = Load_Sensor<frmWind, Form_Load>,
+    .Lay_Out = Lay_Out_Wind,
     .Sentences = Wind_Sentences()};
 
 void CalculateRelativeWind(Simulator& Sim, frmWind& W, int k) {

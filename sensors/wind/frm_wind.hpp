@@ -63,6 +63,8 @@ struct frmWind : Sensor_Form {
     Label lblShipSetup{*this, "lblShipSetup", "(Ship Setup)"}; // where it is set
 };
 
+Layout Lay_Out_Wind(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Wind_Windows;
 
 // Works out the relative wind of gauge k, which is W's, and shows it: Relative_Speed and Relative_Dir, from

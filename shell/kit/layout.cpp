@@ -55,6 +55,15 @@ Layout Cells(std::vector<Layout> Parts, layout::Raster Manner) {
     return Layout(std::move(Manner), std::move(Parts));
 }
 
+Layout Cells_By_Lines(int Columns, std::vector<Layout> Parts, layout::Raster Manner) {
+    int Place = 0;
+    for (Layout& Part : Parts) {
+        Part.How.Cell = {Place / Columns, Place % Columns};
+        ++Place;
+    }
+    return Cells(std::move(Parts), std::move(Manner));
+}
+
 Layout Box(Frame& Around, Layout Contents, int Side_Margin) {
     Layout New = Boxed({{}, Side_Margin}, std::move(Contents));
     New.Part = &Around;
@@ -107,11 +116,22 @@ Layout Buttons(std::vector<Layout> Keys) {
     return Row(std::move(Parts));
 }
 
+Layout Halves(std::vector<Layout> Parts) { return Layout(layout::Split{}, std::move(Parts)); }
+Layout Pane(Text_Box& Sentences, int Lines) { return Of(Sentences, layout::Pane{Lines}); }
+Layout Listing(Grid& Rows, std::vector<std::string> Widest) {
+    return Of(Rows, layout::Listing{std::move(Widest)});
+}
+
 Layout Lying(Scroll_Bar& Bar, layout::Steps Scale) { return Of(Bar, layout::Scaled{true, Scale}); }
 Layout Standing(Scroll_Bar& Bar, layout::Steps Scale) { return Of(Bar, layout::Scaled{false, Scale}); }
-Layout Painted(layout::Reading Read, int Width, int Height, std::string Tip) {
-    return Layout(layout::Instrument{std::move(Read), Width, Height, Width, Height, std::move(Tip)});
+Layout Label_Scale(const Slider& Of, std::vector<Layout> Labels, std::vector<double> Shares) {
+    return Layout(layout::Label_Scale{&Of, std::move(Shares)}, std::move(Labels));
 }
+Layout Painted(layout::Reading Read, int Width, int Height, std::string Tip) {
+    return Layout(layout::Instrument{std::move(Read), Width, Height, std::move(Tip)});
+}
+
+Layout Custom(std::string Name) { return Layout(layout::Custom{std::move(Name)}); }
 
 void For_Each_Placed(const Layout& Tree, const std::function<void(const Visible_Control&)>& Look) {
     if (Tree.Part) Look(*Tree.Part);

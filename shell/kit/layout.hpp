@@ -83,8 +83,6 @@ struct Pane { // sentences, so many lines at least
 };
 struct Listing { // a table with columns as wide as these texts; without any they share its width
     std::vector<std::string> Widest;
-    int Least_Width = 0;
-    bool Sentence_Face = false;
 };
 struct Key_Catcher {}; // a text box of no size that has the focus while the keyboard steers
 // Steps count as the bar does, figures are written in the unit.
@@ -109,8 +107,7 @@ using Reading =
                  std::function<Turn_Reading()>, std::function<Wind_Reading()>, std::function<Sky_Reading()>>;
 struct Instrument { // a picture of what Read gives
     Reading Read;
-    int Least_Width, Least_Height;
-    int Width, Height; // that it asks for
+    int Width, Height;
     std::string Tip;
 };
 struct Custom { // what only ui/ can paint, registered there under this name
@@ -129,11 +126,12 @@ struct Manner {
     int Least_Height = 0;
     Role As = Role::Plain;
     int Figure_Pixels = 0; // large figures that do not jump in width
+    bool Sentence_Face = false;
     bool Flush_Right = false;
     bool Wraps = false;
     bool Keeps_Room = false;     // also while it is hidden
     std::function<bool()> Shown; // whatever its control says
-    std::function<Role()> Lit;
+    std::function<Role()> Lit;   // of a button, whose colour says a state
 };
 
 } // namespace layout
@@ -153,11 +151,13 @@ struct Layout {
     Layout& Least_Width(layout::Measure Least) { return How.Least_Width = std::move(Least), *this; }
     Layout& Least_Height(int Least) { return How.Least_Height = Least, *this; }
     Layout& Figures(int Pixels) { return How.Figure_Pixels = Pixels, *this; }
+    Layout& Sentence_Face() { return How.Sentence_Face = true, *this; } // of a fixed width
     Layout& Flush_Right() { return How.Flush_Right = true, *this; }
     Layout& Wrapped() { return How.Wraps = true, *this; }
     Layout& Keeps_Room() { return How.Keeps_Room = true, *this; }
     Layout& Shown_When(std::function<bool()> True) { return How.Shown = std::move(True), *this; }
-    Layout& Lit(std::function<Role()> State) { return How.Lit = std::move(State), *this; } // of a button
+    Layout& Lit(std::function<Role()> State) { return How.Lit = std::move(State), *this; }
+    Layout& Moves_To(std::function<layout::Spot()> Now) { return How.Moves_To = std::move(Now), *this; }
     // Of rows and columns.
     Layout& Spaced(int Spacing);
     Layout& Margins(int Left, int Top, int Right, int Bottom);
@@ -172,9 +172,9 @@ struct Layout {
 // The layout of a window, made once when the window is shown.
 using Layout_Function = Layout (*)(Simulator&, Form&);
 
-// Whole windows: a column with margins. Tight is what has much to show.
-Layout Window(std::vector<Layout> Parts); // close
-Layout Dialog(std::vector<Layout> Parts); // with air
+// Whole windows, a column with margins: close where there is much to show, or with air.
+Layout Window(std::vector<Layout> Parts);
+Layout Dialog(std::vector<Layout> Parts);
 
 Layout Column(std::vector<Layout> Parts);
 Layout Row(std::vector<Layout> Parts);
@@ -182,6 +182,8 @@ Layout Stretch(int Share = 1);
 
 Layout At(int Row, int Column, Layout Part, int Rows = 1, int Columns = 1);
 Layout Cells(std::vector<Layout> Parts, layout::Raster Manner); // each placed by At
+// Line by line, so many side by side.
+Layout Cells_By_Lines(int Columns, std::vector<Layout> Parts, layout::Raster Manner);
 
 Layout Box(Frame& Around, Layout Contents, int Side_Margin = rhythm::Margin);
 Layout Box(std::string Title, Layout Contents, int Side_Margin = rhythm::Margin);
@@ -206,9 +208,18 @@ Layout Fields(std::vector<Field> Rows, int Pairs = 1);
 // OK and Cancel and their like, at the right end of a row.
 Layout Buttons(std::vector<Layout> Keys);
 
+// One above the other, with a handle between them.
+Layout Halves(std::vector<Layout> Parts);
+
+Layout Pane(Text_Box& Sentences, int Lines);
+Layout Listing(Grid& Rows, std::vector<std::string> Widest = {});
+
 Layout Lying(Scroll_Bar& Bar, layout::Steps Scale);
 Layout Standing(Scroll_Bar& Bar, layout::Steps Scale);
+// A label for each share of the way of a slider.
+Layout Label_Scale(const Slider& Of, std::vector<Layout> Labels, std::vector<double> Shares);
 Layout Painted(layout::Reading Read, int Width, int Height, std::string Tip);
+Layout Custom(std::string Name);
 
 // The elements of an array of controls, or the buttons of a group.
 template <class Many>

@@ -57,7 +57,7 @@ Layout Start_And_Pause(Button& Start, Button& Pause, const Timer& Simulation) {
                     [&Pause, &Simulation] { return Pauses(Pause, Simulation) ? Role::Warn : Role::Plain; })});
 }
 
-Layout Messages(Sensor_Form& W, std::vector<Message_Note> Notes) {
+Layout Messages(Sensor_Form& W, const std::vector<Message_Note>& Notes) {
     std::vector<Layout> Parts;
     int Line_Number = 0;
     for (Sentence_Line& Line : W.Sentences.Lines) {
@@ -65,8 +65,8 @@ Layout Messages(Sensor_Form& W, std::vector<Message_Note> Notes) {
         Parts.push_back(At(Line_Number, 1, Line.Interval_List));
         Parts.push_back(At(Line_Number, 2, Layout(layout::Countdown{&Line.Clock})));
         if (Line.Note) Parts.push_back(At(Line_Number, 3, Row({Dim(*Line.Note)})));
-        for (auto& [Beside, Note] : Notes)
-            if (Beside == Line.Row.Type) Parts.push_back(At(Line_Number, 3, std::move(Note)));
+        for (const auto& [Beside, Note] : Notes)
+            if (Beside == Line.Row.Type) Parts.push_back(At(Line_Number, 3, Note));
         ++Line_Number;
     }
     return Box(W.frameNMEAMessages,

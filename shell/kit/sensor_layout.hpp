@@ -24,11 +24,13 @@ Layout Start_And_Pause(Button& Start, Button& Pause, const Timer& Simulation);
 // A row a sentence: box, interval, and a thin bar that fills when it leaves and empties until the next one;
 // at its end what else belongs to the sentence.
 using Message_Note = std::pair<std::string_view, Layout>; // the type of the sentence first
-Layout Messages(Sensor_Form& W, std::vector<Message_Note> Notes = {});
+Layout Messages(Sensor_Form& W, const std::vector<Message_Note>& Notes = {});
 
 // A bar with its scale, and beside it the box to type the value in, above its unit.
 Layout Bar_And_Box(Scroll_Bar& Bar, layout::Steps Scale, Text_Box& Typed, Layout Unit);
 inline constexpr int Typed_Width = 58; // of that box
+
+inline constexpr int Least_Standing_Bar = 130;
 
 // The box that puts noise on, and lists of how much, each behind its caption and before its unit.
 struct Noise_List {

@@ -54,6 +54,7 @@ struct Little_Form : Form {
     Label lblTip{*this, "lblTip", "5\xB0"};
     Label lblCount{*this, "lblCount"};
     Frame fraAll{*this, "fraAll", "All"};
+    Check_Box chkInFrame{fraAll, "chkInFrame"};
     Menu_Item mnuOpen{Stand(*this).Element(3), "mnuOpen", "Open", "Window"};
     Grid Sky{*this, "grdSky", {"SV", "Elevation"}};
     Timer timer_GGA{*this, "timer_GGA"};

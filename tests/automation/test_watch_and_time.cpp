@@ -47,6 +47,12 @@ TEST_F(Watching, Tells_Each_Change_Once) {
     EXPECT_EQ(Error("watch", {{"path", "frmPosition[2].chkGGA"}}), -32001);
 }
 
+TEST_F(Watching, Tells_What_A_Frame_Hides) {
+    EXPECT_EQ(Watch("frmPosition[1].chkInFrame.Visible"), true);
+    Windows.Event([&] { Window->fraAll.Visible = false; });
+    EXPECT_EQ(Changes(), List({{"frmPosition[1].chkInFrame.Visible", false}}));
+}
+
 TEST_F(Watching, Goes_On_When_A_Window_Is_Opened_Again) {
     Watch("frmPosition[1].chkGGA");
     Set("frmPosition[1].chkGGA", true);

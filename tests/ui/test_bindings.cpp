@@ -275,7 +275,6 @@ struct Bindings : testing::Test, Shown_Desktop {
 
     // The number of its controls.
     std::size_t Check_Window(Form& F) {
-        EXPECT_TRUE(Has_Layout(F.Name));
         View->Window_Of(F.Path())->activateWindow();
         QApplication::processEvents();
         // Frames that the program hides would hide what stands in them.
@@ -367,6 +366,24 @@ TEST_F(Bindings, Menus_And_Status_Bar_Follow_And_Act) {
         EXPECT_TRUE(Action.isChecked()) << "the program decides over the check, not the click";
     }
     EXPECT_EQ(Items, 32);
+}
+
+// Also what is laid out elsewhere than in the box of the frame.
+TEST_F(Bindings, What_Hides_A_Frame_Hides_What_Stands_In_It) {
+    struct Framed_Form : Form {
+        explicit Framed_Form(Desktop& Its_Desktop) : Form(Its_Desktop, "frmFramed", 0, Form_Kind::Child) {}
+        Frame fraOuter{*this, "fraOuter"};
+        Frame fraInner{fraOuter, "fraInner"};
+        Text_Box txtInner{fraInner, "txtInner"};
+    };
+    const auto Window = std::make_shared<Framed_Form>(Sim.Windows);
+    Form_View Seen(Sim, Window, Colours);
+    const QLineEdit* Box = Seen.Make(Window->txtInner);
+    for (const bool On : {true, false, true}) {
+        Window->fraOuter.Visible = On;
+        Seen.Refresh();
+        EXPECT_EQ(Box->isVisibleTo(&Seen), On);
+    }
 }
 
 TEST_F(Bindings, Every_Control_That_Can_Be_Operated_Tells_What_It_Is_For) {

@@ -1,5 +1,6 @@
 // Every window is shown whole on a small bench display, at every scaling. Runs at 150 and 200 % as well.
 
+#include "shell/kit/layout.hpp"
 #include "tests/ui/shown_desktop.hpp"
 #include "shell/state/shell_state.hpp"
 

@@ -121,6 +121,7 @@ const Window_Class Extended_Monitor_Window{.Name = frmExtendedMonitor::Class_Nam
                                                      .Text = "Extended Comport monitor",
                                                      .Place = 21},
                                            .Make = Make_Single<frmExtendedMonitor>,
-                                           .Load = frmExtendedMonitor_Load};
+                                           .Load = frmExtendedMonitor_Load,
+                                           .Lay_Out = Lay_Out_Extended_Monitor};
 
 } // namespace brinewright

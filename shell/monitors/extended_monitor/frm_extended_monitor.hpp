@@ -22,6 +22,8 @@ struct frmExtendedMonitor : Form {
     Text_Box txtInput{*this, "txtInput"};
 };
 
+Layout Lay_Out_Extended_Monitor(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Extended_Monitor_Window;
 
 } // namespace brinewright

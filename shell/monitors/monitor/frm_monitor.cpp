@@ -62,6 +62,7 @@ const Window_Class Monitor_Window{
     .Name = frmMonitor::Class_Name,
     .Entry = {.Name = "mnuMonitor", .Menu = "Window", .Text = "Comport monitor", .Place = 20},
     .Make = Make_Single<frmMonitor>,
-    .Load = frmMonitor_Load};
+    .Load = frmMonitor_Load,
+    .Lay_Out = Lay_Out_Monitor};
 
 } // namespace brinewright

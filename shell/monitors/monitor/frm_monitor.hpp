@@ -19,6 +19,8 @@ struct frmMonitor : Form {
     Control_Array<Button, 1, 28> cmdClear;
 };
 
+Layout Lay_Out_Monitor(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Monitor_Window;
 
 } // namespace brinewright

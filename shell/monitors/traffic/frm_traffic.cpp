@@ -239,6 +239,7 @@ const Window_Class Traffic_Window{
     .Name = frmTraffic::Class_Name,
     .Entry = {.Name = "mnuTraffic", .Menu = "Window", .Text = "Traffic", .Place = 22},
     .Make = Make_Single<frmTraffic>,
-    .Load = frmTraffic_Load};
+    .Load = frmTraffic_Load,
+    .Lay_Out = Lay_Out_Traffic};
 
 } // namespace brinewright

@@ -35,6 +35,8 @@ struct frmTraffic : Form {
     std::uint64_t Passed_By = 0;         // sentences that left while paused
 };
 
+Layout Lay_Out_Traffic(Simulator& Sim, Form& Shown);
+
 extern const Window_Class Traffic_Window;
 
 } // namespace brinewright
