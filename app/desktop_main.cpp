@@ -1,8 +1,8 @@
 // The simulator with its windows.
 
 #include "app/program.hpp"
-#include "ui/desktop_view.hpp"
-#include "ui/opening_progress.hpp"
+#include "ui/desktop/desktop_view.hpp"
+#include "ui/desktop/opening_progress.hpp"
 
 #include <QApplication>
 

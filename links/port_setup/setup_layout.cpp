@@ -1,5 +1,6 @@
 #include "links/port_setup/frm_setup.hpp"
 #include "links/port_setup/port_detection.hpp"
+#include "sentences/number_pattern.hpp"
 #include "shell/kit/layout.hpp"
 
 #include <algorithm>
@@ -66,7 +67,8 @@ Layout Lay_Out_Setup(Simulator&, Form& Shown) {
 
 Layout Lay_Out_Progress(Simulator&, Form& Shown) {
     auto& W = static_cast<frmProgress&>(Shown);
-    return Dialog({Text("Looking for serial ports", Role::Plain), Custom("share of the ports"),
+    return Dialog({Text("Looking for serial ports", Role::Plain),
+                   Progress([&W] { return static_cast<int>(Val(*W.lblPercent.Caption)); }),
                    Row({W.lblPercent, Stretch(), Dim(W.lblTime)})})
         .Least_Width(280);
 }

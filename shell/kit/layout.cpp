@@ -131,7 +131,7 @@ Layout Painted(layout::Reading Read, int Width, int Height, std::string Tip) {
     return Layout(layout::Instrument{std::move(Read), Width, Height, std::move(Tip)});
 }
 
-Layout Custom(std::string Name) { return Layout(layout::Custom{std::move(Name)}); }
+Layout Progress(std::function<int()> Percent) { return Layout(layout::Progress{std::move(Percent)}); }
 
 void For_Each_Placed(const Layout& Tree, const std::function<void(const Visible_Control&)>& Look) {
     if (Tree.Part) Look(*Tree.Part);

@@ -110,12 +110,12 @@ struct Instrument { // a picture of what Read gives
     int Width, Height;
     std::string Tip;
 };
-struct Custom { // what only ui/ can paint, registered there under this name
-    std::string Name;
+struct Progress { // how far something is, 0 to 100
+    std::function<int()> Percent;
 };
 
 using Kind = std::variant<Control, Line, Raster, Framed, Split, Room, Words, Ticker, Pane, Listing,
-                          Key_Catcher, Scaled, Label_Scale, Countdown, Instrument, Custom>;
+                          Key_Catcher, Scaled, Label_Scale, Countdown, Instrument, Progress>;
 
 struct Manner {
     int Share = 0; // of the room that is left
@@ -219,7 +219,7 @@ Layout Standing(Scroll_Bar& Bar, layout::Steps Scale);
 // A label for each share of the way of a slider.
 Layout Label_Scale(const Slider& Of, std::vector<Layout> Labels, std::vector<double> Shares);
 Layout Painted(layout::Reading Read, int Width, int Height, std::string Tip);
-Layout Custom(std::string Name);
+Layout Progress(std::function<int()> Percent);
 
 // The elements of an array of controls, or the buttons of a group.
 template <class Many>

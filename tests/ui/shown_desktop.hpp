@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/support/all_windows.hpp"
-#include "ui/desktop_view.hpp"
+#include "ui/desktop/desktop_view.hpp"
 
 #include <QApplication>
 #include <QScrollArea>

@@ -2,7 +2,7 @@
 // what the user does.
 
 #include "tests/ui/shown_desktop.hpp"
-#include "ui/layouts.hpp"
+#include "ui/layout/layout_builder.hpp"
 
 #include <QAction>
 #include <QScrollBar>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/controls.hpp"
-#include "ui/theme.hpp"
+#include "ui/look/theme.hpp"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/theme.hpp"
+#include "ui/look/theme.hpp"
 
 #include <QPainter>
 #include <QString>

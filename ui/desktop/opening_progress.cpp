@@ -1,4 +1,4 @@
-#include "ui/opening_progress.hpp"
+#include "ui/desktop/opening_progress.hpp"
 
 #include "shell/kit/layout.hpp"
 #include "shell/state/shell_state.hpp"

@@ -1,7 +1,7 @@
 // The controls of a window, and texts that are none.
 
-#include "ui/layout_builder.hpp"
-#include "ui/verdict_highlighter.hpp"
+#include "ui/binder/verdict_highlighter.hpp"
+#include "ui/layout/layout_builder.hpp"
 
 #include <QFontMetrics>
 #include <QGraphicsOpacityEffect>

@@ -2,7 +2,7 @@
 
 #include "platform/desktop.hpp"
 #include "shell/state/simulator.hpp"
-#include "ui/theme.hpp"
+#include "ui/look/theme.hpp"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,8 +1,8 @@
-#include "ui/desktop_view.hpp"
+#include "ui/desktop/desktop_view.hpp"
 
 #include "shell/main/frm_main.hpp"
 #include "shell/state/fault_state.hpp"
-#include "ui/form_window.hpp"
+#include "ui/desktop/form_window.hpp"
 
 #include <QActionGroup>
 #include <QApplication>

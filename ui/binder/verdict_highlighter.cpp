@@ -1,7 +1,7 @@
-#include "ui/verdict_highlighter.hpp"
+#include "ui/binder/verdict_highlighter.hpp"
 
 #include "sentences/checksum_verdict.hpp"
-#include "ui/form_view.hpp"
+#include "ui/binder/form_view.hpp"
 
 namespace brinewright {
 

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "shell/kit/layout.hpp"
-#include "ui/form_view.hpp"
+#include "ui/binder/form_view.hpp"
 
 #include <QLayout>
 
 namespace brinewright {
 
-// Turns the layout of a window into the widgets of its view and their places.
+// Gives View its widgets and their places, by the layout of its window's class. A window without one is a
+// fault that a test finds.
+void Lay_Out(Form_View& View, Form& Shown);
+
+// Turns a layout into the widgets of a view and their places.
 void Build_Layout(Form_View& View, const Layout& Whole);
 
 // What became of a node: a widget, or a layout with what stands in it. Main is the widget that sizes and the
@@ -36,7 +40,7 @@ Built Make(Form_View& View, const Layout& Node, const layout::Scaled& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Label_Scale& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Countdown& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Instrument& Kind);
-Built Make(Form_View& View, const Layout& Node, const layout::Custom& Kind);
+Built Make(Form_View& View, const Layout& Node, const layout::Progress& Kind);
 
 // Makes a node and gives it the manner in which it stands.
 Built Make(Form_View& View, const Layout& Node);

@@ -1,6 +1,8 @@
 // Rows, columns, grids and boxes: how the parts of a window stand in each other.
 
-#include "ui/layout_builder.hpp"
+#include "ui/layout/layout_builder.hpp"
+
+#include "shell/state/windows.hpp"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -150,6 +152,13 @@ Built Make(Form_View& View, const Layout& Node) {
 void Build_Layout(Form_View& View, const Layout& Whole) {
     View.setLayout(Make(View, Whole).Inside);
     Give_Sizes(Whole.How, View);
+}
+
+void Lay_Out(Form_View& View, Form& Shown) {
+    const Window_Class* Class = Find_Class(View.Sim, Shown.Name);
+    if (!Class || !Class->Lay_Out) throw std::logic_error("no layout for " + Shown.Name);
+    Build_Layout(View, Class->Lay_Out(View.Sim, Shown));
+    View.Refresh();
 }
 
 } // namespace brinewright

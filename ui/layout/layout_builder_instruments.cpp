@@ -1,6 +1,5 @@
 // What is painted: scales beside sliders, the time to the next sentence, instruments.
 
-#include "links/port_setup/port_detection.hpp"
 #include "ui/instruments/attitude_indicator.hpp"
 #include "ui/instruments/compass_rose.hpp"
 #include "ui/instruments/countdown_bar.hpp"
@@ -8,14 +7,13 @@
 #include "ui/instruments/sky_plot.hpp"
 #include "ui/instruments/slider_scale.hpp"
 #include "ui/instruments/wind_dial.hpp"
-#include "ui/layout_builder.hpp"
+#include "ui/layout/layout_builder.hpp"
 
 #include <QBoxLayout>
 #include <QProgressBar>
 
 #include <algorithm>
 #include <cstdlib>
-#include <stdexcept>
 
 namespace brinewright {
 
@@ -73,24 +71,6 @@ void Paint(QPainter& P, const QRectF& Place, const Sky_Reading& R, Palette_Kind 
     Paint_Sky(P, Place, R, K);
 }
 
-QWidget* Make_Port_Progress(Form_View& View, const Form& Shown) {
-    const auto& F = static_cast<const frmProgress&>(Shown);
-    auto* New = new QProgressBar;
-    New->setRange(0, 100);
-    New->setTextVisible(false);
-    View.When_Shown([&F, New] {
-        New->setValue(To_Screen(*F.lblPercent.Caption).section(QLatin1Char(' '), 0, 0).toInt());
-    });
-    return New;
-}
-
-// What only the toolkit can show, by the name under which a layout asks for it.
-struct Custom_Row {
-    const char* Name;
-    QWidget* (*Make)(Form_View&, const Form&);
-};
-constexpr Custom_Row Customs[] = {{"share of the ports", Make_Port_Progress}};
-
 } // namespace
 
 Built Make(Form_View& View, const Layout& Node, const layout::Scaled& Kind) {
@@ -128,10 +108,12 @@ Built Make(Form_View& View, const Layout&, const layout::Instrument& Kind) {
         Kind.Read);
 }
 
-Built Make(Form_View& View, const Layout&, const layout::Custom& Kind) {
-    for (const Custom_Row& Row : Customs)
-        if (Kind.Name == Row.Name) return Row.Make(View, *View.Shown_Form());
-    throw std::logic_error("nothing is painted as " + Kind.Name);
+Built Make(Form_View& View, const Layout&, const layout::Progress& Kind) {
+    auto* New = new QProgressBar;
+    New->setRange(0, 100);
+    New->setTextVisible(false);
+    View.When_Shown([Percent = Kind.Percent, New] { New->setValue(Percent()); });
+    return New;
 }
 
 } // namespace brinewright

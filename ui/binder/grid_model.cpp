@@ -1,6 +1,6 @@
-#include "ui/grid_model.hpp"
+#include "ui/binder/grid_model.hpp"
 
-#include "ui/form_view.hpp"
+#include "ui/binder/form_view.hpp"
 
 namespace brinewright {
 

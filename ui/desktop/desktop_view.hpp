@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/state/simulator.hpp"
-#include "ui/form_view.hpp"
+#include "ui/binder/form_view.hpp"
 
 #include <QLabel>
 #include <QMainWindow>

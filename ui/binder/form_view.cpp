@@ -1,6 +1,6 @@
-#include "ui/form_view.hpp"
+#include "ui/binder/form_view.hpp"
 
-#include "ui/grid_model.hpp"
+#include "ui/binder/grid_model.hpp"
 
 #include <QApplication>
 #include <QEvent>

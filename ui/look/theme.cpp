@@ -1,6 +1,6 @@
-#include "ui/theme.hpp"
+#include "ui/look/theme.hpp"
 
-#include "ui/title_style.hpp"
+#include "ui/look/title_style.hpp"
 
 #include <QApplication>
 #include <QFontDatabase>

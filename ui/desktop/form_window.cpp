@@ -1,6 +1,6 @@
-#include "ui/form_window.hpp"
+#include "ui/desktop/form_window.hpp"
 
-#include "ui/layouts.hpp"
+#include "ui/layout/layout_builder.hpp"
 
 #include <QCoreApplication>
 #include <QDialog>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/form_view.hpp"
+#include "ui/binder/form_view.hpp"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

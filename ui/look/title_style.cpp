@@ -1,4 +1,4 @@
-#include "ui/title_style.hpp"
+#include "ui/look/title_style.hpp"
 
 #include <QPainter>
 #include <QStyleFactory>
