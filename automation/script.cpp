@@ -1,3 +1,4 @@
+#include "platform/trimmed.hpp"
 #include "automation/script.hpp"
 
 #include "automation/core.hpp"
@@ -17,12 +18,7 @@ constexpr double Longest_Script_s = 366.0 * 86400.0;
 
 [[noreturn]] void Wrong(const std::string& Why) { throw Rpc_Error{rpc_code::Parse, Why}; }
 
-std::string_view Trim(std::string_view Text) {
-    constexpr std::string_view Blanks = " \t\r";
-    const auto First = Text.find_first_not_of(Blanks);
-    if (First == std::string_view::npos) return {};
-    return Text.substr(First, Text.find_last_not_of(Blanks) - First + 1);
-}
+constexpr std::string_view Blanks = " \t\r";
 
 std::int64_t Read_Time_us(std::string_view Text, std::int64_t Previous_us) {
     const bool Relative = Text.front() == '+';
@@ -53,7 +49,7 @@ void Complete(Json& Request, int Line_Number) {
 Script_Line Read_Line(std::string_view Line, int Line_Number, std::int64_t Previous_us) {
     const std::size_t Time_Length = std::min(Line.find_first_of(" \t"), Line.size());
     const std::int64_t Due_us = Read_Time_us(Line.substr(0, Time_Length), Previous_us);
-    Json Message = Parse_Json(Trim(Line.substr(Time_Length)));
+    Json Message = Parse_Json(Trimmed(Line.substr(Time_Length), Blanks));
     if (Message.is_array()) {
         for (Json& Request : Message) Complete(Request, Line_Number);
     } else {
@@ -83,7 +79,7 @@ std::string Read_Script(std::string_view Text, std::vector<Script_Line>& Lines) 
     while (!Text.empty()) {
         ++Line_Number;
         const std::size_t Length = std::min(Text.find('\n'), Text.size());
-        const std::string_view Line = Trim(Text.substr(0, Length));
+        const std::string_view Line = Trimmed(Text.substr(0, Length), Blanks);
         Text.remove_prefix(std::min(Length + 1, Text.size()));
         if (Line.empty() || Line.front() == '#') continue;
         try {

@@ -5,7 +5,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <variant>
 
@@ -39,73 +38,16 @@ Control& Usable_Control(const Automation_Target& Target, const Address& Where) {
     return *Where.Part;
 }
 
-std::string_view Trim(std::string_view Text) {
-    while (!Text.empty() && Text.front() == ' ') Text.remove_prefix(1);
-    while (!Text.empty() && Text.back() == ' ') Text.remove_suffix(1);
-    return Text;
-}
-
-bool Lists(const Combo_Box& List, const std::string& Text) {
-    return std::any_of(List.Items().begin(), List.Items().end(),
-                       [&](const Combo_Box::Item& Entry) { return Trim(Entry.Text) == Trim(Text); });
-}
-
-void Check_Entry(const Combo_Box& List, const Control_Value& Value) {
-    if (const auto* Number = std::get_if<std::int64_t>(&Value)) {
-        const auto Count = static_cast<std::int64_t>(List.Items().size());
-        if (*Number >= 0 && *Number < Count) return;
-        Refuse_Value("The list has " + std::to_string(Count) + " entries, the first is number 0");
-    }
-    const std::string* Text = std::get_if<std::string>(&Value);
-    if (!Text) Refuse_Value("The number or the text of an entry is wanted");
-    if (!List.Free_Text && !Lists(List, *Text)) Refuse_Value("The list has no such entry");
-}
-
-void Check_Position(const Scroll_Bar& Bar, const Control_Value& Value) {
-    double Position = 0;
-    if (const auto* Whole = std::get_if<std::int64_t>(&Value))
-        Position = static_cast<double>(*Whole);
-    else if (const double* Number = std::get_if<double>(&Value))
-        Position = *Number;
-    else
-        Refuse_Value("A number is wanted");
-    const int Least = std::min<int>(*Bar.Min, *Bar.Max), Greatest = std::max<int>(*Bar.Min, *Bar.Max);
-    if (Position < Least || Position > Greatest)
-        Refuse_Value("The range is " + std::to_string(Least) + " to " + std::to_string(Greatest));
-}
-
-void Check_Row(const Grid& Table, const Control_Value& Value) {
-    const auto* Row = std::get_if<std::int64_t>(&Value);
-    if (!Row) Refuse_Value("The number of a row is wanted");
-    if (*Row < 0 || *Row >= Table.Rows())
-        Refuse_Value("The table has " + std::to_string(Table.Rows()) + " rows, the first is number 0");
-}
-
 // Before anything moves: would the control take this value from a hand?
 void Check_Value(const Control& Of, const Control_Value& Value) {
-    const bool* Truth = std::get_if<bool>(&Value);
-    switch (Of.Kind) {
-    case Control_Kind::Check_Box: {
-        const auto* Number = std::get_if<std::int64_t>(&Value);
-        if (!Truth && !(Number && (*Number == 0 || *Number == 1))) Refuse_Value("true or false is wanted");
-        return;
-    }
-    case Control_Kind::Option_Button:
-        if (!Truth || !*Truth)
-            Refuse_Value("Only true is possible: select another button of the group instead");
-        return;
-    case Control_Kind::Combo_Box: return Check_Entry(static_cast<const Combo_Box&>(Of), Value);
-    case Control_Kind::Scroll_Bar: return Check_Position(static_cast<const Scroll_Bar&>(Of), Value);
-    case Control_Kind::Text_Box:
-        if (static_cast<const Text_Box&>(Of).Read_Only) Refuse("This text is read only");
-        if (!std::holds_alternative<std::string>(Value)) Refuse_Value("A text is wanted");
-        return;
-    case Control_Kind::Button:
-    case Control_Kind::Menu_Item: Refuse("This takes clicks, not values");
-    case Control_Kind::Grid: Check_Row(static_cast<const Grid&>(Of), Value); return;
-    case Control_Kind::Label:
-    case Control_Kind::Frame:
-    case Control_Kind::Timer: Refuse("This takes no value");
+    if (Of.Kind == Control_Kind::Button || Of.Kind == Control_Kind::Menu_Item)
+        Refuse("This takes clicks, not values");
+    try {
+        Of.Check(Value);
+    } catch (const Value_Refusal& Told) {
+        Refuse_Value(Told.what());
+    } catch (const User_Refusal& Told) {
+        Refuse(Told.what());
     }
 }
 

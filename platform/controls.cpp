@@ -1,6 +1,7 @@
 #include "platform/controls.hpp"
 
 #include "platform/desktop.hpp"
+#include "platform/trimmed.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -20,19 +21,21 @@ void Run(const Handler& H) {
 bool As_Bool(const Control_Value& V) {
     if (const bool* B = std::get_if<bool>(&V)) return *B;
     if (const auto* I = std::get_if<std::int64_t>(&V); I && (*I == 0 || *I == 1)) return *I == 1;
-    throw User_Refusal("true or false is wanted");
+    throw Value_Refusal("true or false is wanted");
+}
+
+double As_Number(const Control_Value& V) {
+    double Number = std::numeric_limits<double>::quiet_NaN();
+    if (const auto* I = std::get_if<std::int64_t>(&V)) Number = static_cast<double>(*I);
+    if (const double* D = std::get_if<double>(&V)) Number = *D;
+    if (!std::isfinite(Number)) throw Value_Refusal("A number is wanted");
+    return Number;
 }
 
 const std::string& As_Text(const Control_Value& V) {
     const std::string* Text = std::get_if<std::string>(&V);
-    if (!Text) throw User_Refusal("A text is wanted");
+    if (!Text) throw Value_Refusal("A text is wanted");
     return *Text;
-}
-
-std::string_view Trim(std::string_view Text) {
-    while (!Text.empty() && Text.front() == ' ') Text.remove_prefix(1);
-    while (!Text.empty() && Text.back() == ' ') Text.remove_suffix(1);
-    return Text;
 }
 
 } // namespace
@@ -72,6 +75,7 @@ void Check_Box::Set_Value(bool New) {
     Touch();
     Run(Click);
 }
+void Check_Box::Check(const Control_Value& V) const { As_Bool(V); }
 void Check_Box::User_Set(const Control_Value& V) { Set_Value(As_Bool(V)); }
 
 Combo_Box::Combo_Box(Stand At, std::string N, std::string Text, std::string Tip)
@@ -117,25 +121,34 @@ void Combo_Box::Set_Text(std::string New) {
     Touch();
     Run(Change);
 }
-void Combo_Box::User_Set(const Control_Value& V) {
-    if (const auto* Number = std::get_if<std::int64_t>(&V)) {
-        if (*Number < 0 || *Number >= static_cast<std::int64_t>(Entries.size()))
-            throw User_Refusal("The list has no such entry");
-        Set_List_Index(static_cast<int>(*Number));
-        return;
-    }
-    const std::string& Wanted = As_Text(V);
+// As it stands, or but for the blanks around it; -1 for none.
+int Combo_Box::Find_Entry(const std::string& Wanted) const {
     auto Found =
         std::find_if(Entries.begin(), Entries.end(), [&](const Item& I) { return I.Text == Wanted; });
     if (Found == Entries.end())
         Found = std::find_if(Entries.begin(), Entries.end(),
-                             [&](const Item& I) { return Trim(I.Text) == Trim(Wanted); });
-    if (Found != Entries.end())
-        Set_List_Index(static_cast<int>(Found - Entries.begin()));
-    else if (Free_Text)
-        Set_Text(Wanted);
+                             [&](const Item& I) { return Trimmed(I.Text) == Trimmed(Wanted); });
+    return Found == Entries.end() ? -1 : static_cast<int>(Found - Entries.begin());
+}
+void Combo_Box::Check(const Control_Value& V) const {
+    if (const auto* Number = std::get_if<std::int64_t>(&V)) {
+        const auto Count = static_cast<std::int64_t>(Entries.size());
+        if (*Number >= 0 && *Number < Count) return;
+        throw Value_Refusal("The list has " + std::to_string(Count) + " entries, the first is number 0");
+    }
+    const auto* Text = std::get_if<std::string>(&V);
+    if (!Text) throw Value_Refusal("The number or the text of an entry is wanted");
+    if (!Free_Text && Find_Entry(*Text) < 0) throw Value_Refusal("The list has no such entry");
+}
+void Combo_Box::User_Set(const Control_Value& V) {
+    Check(V);
+    if (const auto* Number = std::get_if<std::int64_t>(&V)) return Set_List_Index(static_cast<int>(*Number));
+    const auto& Wanted = std::get<std::string>(V);
+    const int Entry = Find_Entry(Wanted);
+    if (Entry >= 0)
+        Set_List_Index(Entry);
     else
-        throw User_Refusal("The list has no such entry");
+        Set_Text(Wanted);
 }
 void Combo_Box::Lose_Focus() { Run(Lost_Focus); }
 
@@ -154,10 +167,13 @@ void Text_Box::Append_Text(std::string_view More) {
     Touch();
     Run(Change);
 }
-void Text_Box::User_Set(const Control_Value& V) {
-    const std::string& New = As_Text(V);
+void Text_Box::Check(const Control_Value& V) const {
     if (Read_Only) throw User_Refusal("This text is read only");
-    Set_Text(New);
+    As_Text(V);
+}
+void Text_Box::User_Set(const Control_Value& V) {
+    Check(V);
+    Set_Text(As_Text(V));
 }
 void Text_Box::Gain_Focus() { Run(Got_Focus); }
 void Text_Box::Lose_Focus() { Run(Lost_Focus); }
@@ -173,16 +189,14 @@ void Scroll_Bar::Set_Value(std::int64_t New) {
     Touch();
     Run(Change);
 }
+void Scroll_Bar::Check(const Control_Value& V) const {
+    const double Wanted = As_Number(V);
+    const int Least = std::min<int>(*Min, *Max), Greatest = std::max<int>(*Min, *Max);
+    if (Wanted < Least || Wanted > Greatest)
+        throw Value_Refusal("The range is " + std::to_string(Least) + " to " + std::to_string(Greatest));
+}
 void Scroll_Bar::User_Set(const Control_Value& V) {
-    double Wanted = 0;
-    if (const auto* I = std::get_if<std::int64_t>(&V))
-        Wanted = static_cast<double>(*I);
-    else if (const double* D = std::get_if<double>(&V))
-        Wanted = *D;
-    else
-        throw User_Refusal("A number is wanted");
-    if (!std::isfinite(Wanted)) throw User_Refusal("A number is wanted");
-    Set_Value(std::llround(std::clamp(Wanted, static_cast<double>(std::min<int>(*Min, *Max)),
+    Set_Value(std::llround(std::clamp(As_Number(V), static_cast<double>(std::min<int>(*Min, *Max)),
                                       static_cast<double>(std::max<int>(*Min, *Max)))));
 }
 
@@ -204,8 +218,13 @@ Option_Button::Option_Button(Stand At, Option_Group& Its_Group, std::string N, s
       Group(Its_Group) {}
 bool Option_Button::Value() const { return Group.Selected() == Index; }
 void Option_Button::User_Click(Mouse_Button) { Group.Select(Index); }
+void Option_Button::Check(const Control_Value& V) const {
+    const bool* Truth = std::get_if<bool>(&V);
+    if (!Truth || !*Truth)
+        throw Value_Refusal("Only true is possible: select another button of the group instead");
+}
 void Option_Button::User_Set(const Control_Value& V) {
-    if (!As_Bool(V)) throw User_Refusal("Select another button of the group instead");
+    Check(V);
     Group.Select(Index);
 }
 
@@ -287,10 +306,15 @@ void Grid::Select_Row(int Row) {
     }
     if (Row >= 0) Run(Row_Chosen);
 }
-void Grid::User_Set(const Control_Value& V) {
+void Grid::Check(const Control_Value& V) const {
     const auto* Row = std::get_if<std::int64_t>(&V);
-    if (!Row || *Row < 0 || *Row >= Row_Count) throw User_Refusal("The table has no such row");
-    Select_Row(static_cast<int>(*Row));
+    if (!Row) throw Value_Refusal("The number of a row is wanted");
+    if (*Row < 0 || *Row >= Row_Count)
+        throw Value_Refusal("The table has " + std::to_string(Row_Count) + " rows, the first is number 0");
+}
+void Grid::User_Set(const Control_Value& V) {
+    Check(V);
+    Select_Row(static_cast<int>(std::get<std::int64_t>(V)));
 }
 Control_Value Grid::Current() const {
     std::string All;

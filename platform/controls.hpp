@@ -76,6 +76,7 @@ struct Check_Box : Visible_Control {
     bool Value() const { return Checked; }
     void Set_Value(bool New);
     void User_Click(Mouse_Button) override { Set_Value(!Checked); }
+    void Check(const Control_Value& V) const override;
     void User_Set(const Control_Value& V) override;
     Control_Value Current() const override { return Checked; }
     bool Can_Focus() const override { return true; }
@@ -111,6 +112,7 @@ struct Combo_Box : Visible_Control {
     void Choose_Data(std::int32_t Data); // the first entry with this item data; none leaves nothing chosen
     void Set_Text(std::string New);      // only with Free_Text; runs Change when the text changes
 
+    void Check(const Control_Value& V) const override;
     void User_Set(
         const Control_Value& V) override; // number of the entry, or its text (blanks around it count not)
     Control_Value Current() const override { return Shown_Text; }
@@ -118,6 +120,7 @@ struct Combo_Box : Visible_Control {
     bool Can_Focus() const override { return true; }
 
   private:
+    int Find_Entry(const std::string& Wanted) const;
     std::vector<Item> Entries;
     int Chosen = -1;
     std::string Shown_Text;
@@ -138,6 +141,7 @@ struct Text_Box : Visible_Control {
     void Append_Text(std::string_view More); // as Set_Text of both; cheap for monitors
     void Select_All() { Select_All_Count = *Select_All_Count + 1; }
 
+    void Check(const Control_Value& V) const override;
     void User_Set(const Control_Value& V) override;
     Control_Value Current() const override { return Content; }
     void Gain_Focus() override;
@@ -160,6 +164,7 @@ struct Scroll_Bar : Visible_Control {
 
     int Value() const { return Position; }
     void Set_Value(std::int64_t New); // outside the range: Run_Time_Error "Invalid property value"
+    void Check(const Control_Value& V) const override;
     void User_Set(const Control_Value& V) override; // held within the range, as a dragged thumb is
     Control_Value Current() const override { return static_cast<std::int64_t>(Position); }
     bool Can_Focus() const override { return true; }
@@ -186,6 +191,7 @@ struct Option_Button : Visible_Control {
     Option_Button(Stand At, Option_Group& Its_Group, std::string N, std::string Text, std::string Tip);
     bool Value() const;
     void User_Click(Mouse_Button) override;
+    void Check(const Control_Value& V) const override;
     void User_Set(const Control_Value& V) override; // true selects it
     Control_Value Current() const override { return Value(); }
     bool Can_Focus() const override { return true; }
@@ -246,6 +252,7 @@ struct Grid : Visible_Control {
     // -1 chooses nothing and runs nothing. Outside the table: Run_Time_Error "Invalid property value".
     void Select_Row(int Row);
 
+    void Check(const Control_Value& V) const override;
     void User_Set(const Control_Value& V) override; // the number of a row
     Control_Value Current() const override;
     bool Can_Focus() const override { return true; }

@@ -27,6 +27,11 @@ struct User_Refusal : Run_Time_Error {
     using Run_Time_Error::Run_Time_Error;
 };
 
+// The value is of the wrong kind or out of range.
+struct Value_Refusal : User_Refusal {
+    using User_Refusal::User_Refusal;
+};
+
 namespace error_text {
 inline constexpr const char* Subscript = "Subscript out of range";
 inline constexpr const char* Type_Mismatch = "Type mismatch";

@@ -1,5 +1,6 @@
 #include "links/setup_file/setup_field.hpp"
 #include "platform/run_time_error.hpp"
+#include "platform/trimmed.hpp"
 
 #include <charconv>
 #include <system_error>
@@ -12,10 +13,7 @@ bool Is_Line_End(char Character) { return Character == '\r' || Character == '\n'
 bool Is_Separator(char Character) { return Character == ',' || Is_Line_End(Character); }
 bool Is_Blank(char Character) { return Character == ' ' || Character == '\t'; }
 
-std::string_view Without_Trailing_Blanks(std::string_view Text) {
-    while (!Text.empty() && Is_Blank(Text.back())) Text.remove_suffix(1);
-    return Text;
-}
+constexpr std::string_view Blanks = " \t";
 
 void Skip_Separator(Setup_Reader& Reader) {
     if (At_End(Reader)) return;
@@ -38,7 +36,7 @@ Raw_Field Next_Quoted(Setup_Reader& Reader) {
     Reader.Position = Position;
     // An editor may have left blanks behind the last quotation mark of the line.
     const std::string_view Rest = Bytes.substr(First, Position - First);
-    const std::string_view Text = Without_Trailing_Blanks(Rest);
+    const std::string_view Text = Right_Trimmed(Rest, Blanks);
     if (!Text.empty() && Text.back() == '"') return {Text.substr(0, Text.size() - 1), true, true};
     return {Rest, true, false};
 }
@@ -93,7 +91,7 @@ Raw_Field Next_Field(Setup_Reader& Reader) {
     } else {
         const std::size_t First = Reader.Position;
         while (!At_End(Reader) && !Is_Separator(Bytes[Reader.Position])) ++Reader.Position;
-        Raw.Text = Without_Trailing_Blanks(Bytes.substr(First, Reader.Position - First));
+        Raw.Text = Right_Trimmed(Bytes.substr(First, Reader.Position - First), Blanks);
     }
     Skip_Separator(Reader);
     return Raw;

@@ -1,3 +1,4 @@
+#include "platform/trimmed.hpp"
 #include "ownship/geodesy/parse_position.hpp"
 
 #include "ownship/geodesy/format_position.hpp"
@@ -60,16 +61,6 @@ double To_Double(double Value) {
     // Val gives the largest double for every number beyond it.
     if (std::abs(Value) >= std::numeric_limits<double>::max()) throw Run_Time_Error(error_text::Overflow);
     return Value;
-}
-
-std::string_view Left_Trimmed(std::string_view Text) {
-    while (!Text.empty() && Text.front() == ' ') Text.remove_prefix(1);
-    return Text;
-}
-
-std::string_view Trimmed(std::string_view Text) {
-    while (!Text.empty() && Text.back() == ' ') Text.remove_suffix(1);
-    return Left_Trimmed(Text);
 }
 
 // One number of an angle.

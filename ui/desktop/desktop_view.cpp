@@ -92,10 +92,15 @@ Desktop_View::Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme)
         Sim.Windows.Revision++;
         Look_Soon();
     });
-    Sim.Windows.On_Settled.push_back([this] { Look_Soon(); });
+    Sim.Windows.On_Settled.push_back(Settled_Hook{*this});
 }
 
-Desktop_View::~Desktop_View() { Sim.Windows.On_Settled.pop_back(); }
+Desktop_View::~Desktop_View() {
+    std::erase_if(Sim.Windows.On_Settled, [this](const Handler& Hook) {
+        const auto* Ours = Hook.target<Settled_Hook>();
+        return Ours && &Ours->View == this;
+    });
+}
 
 void Desktop_View::Open() {
     if (Sim.Ended) return;

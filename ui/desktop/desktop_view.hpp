@@ -21,7 +21,7 @@ class Form_Window;
 
 // The desktop as seen: the main window with menus, status bar and child windows, dialogs and message boxes.
 // Like every view it owns nothing of the program: it follows the forms that are open and reports what the
-// user does. It looks at most 30 times a second, and only when something has changed.
+// user does. It looks at most 20 times a second, and only when something has changed.
 class Desktop_View : public QMainWindow {
     Q_OBJECT
   public:
@@ -51,6 +51,11 @@ class Desktop_View : public QMainWindow {
     void Follow_Main();
     void Follow_Boxes();
     void Follow_File_Dialogs();
+    // A type of its own, so that the view finds its hook again among others.
+    struct Settled_Hook {
+        Desktop_View& View;
+        void operator()() const { View.Look_Soon(); }
+    };
     void Look_Soon();
     void Look_Between_Ticks();
 
