@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls.hpp"
+#include "shell/kit/sentence_family.hpp"
 
 #include <cstdint>
 
@@ -17,5 +18,12 @@ void Keep(Option_Group& Group, bool& Stored);
 // A list that is filled already. A stored choice that it does not have, as a setup file may hold, becomes
 // Default, in the variable too. Each choice runs After, also the first one.
 void Keep(Combo_Box& List, std::int16_t& Stored, int Default, Handler After = nullptr);
+
+// The row of a sentence of which the setup file keeps the choice of instance 2 elsewhere than on the line
+// behind that of instance 1.
+constexpr Sentence_Row Kept_Apart(Sentence_Row Of, Setup_Place Second) {
+    Of.Kept[1] = Second;
+    return Of;
+}
 
 } // namespace brinewright

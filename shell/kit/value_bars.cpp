@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace brinewright {
 
@@ -58,6 +59,18 @@ float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box) {
 void Show_Size(Label& Shown, Text_Box& Box, float Value) {
     Shown.Caption = Format_Dot(Value, "0.0");
     Box.Set_Text(Shown.Caption);
+}
+
+void Wire_Size_Bar(const Size_Bar& B, float& Value, Handler Taken) {
+    const auto Take = [B, &Value, Taken = std::move(Taken)](float New) {
+        Value = New;
+        Show_Size(B.Shown, B.Box, Value);
+        if (Taken) Taken();
+    };
+    B.Bar.Set_Value(Bar_Place(B.Bar, Value, Bar_Steps));
+    Show_Size(B.Shown, B.Box, Value);
+    B.Bar.Change = [B, Take] { Take(Bar_Value(B.Bar)); };
+    B.Box.Lost_Focus = [B, Take] { Take(Typed_Size(B.Bar, B.Box)); };
 }
 
 void Hide(std::initializer_list<Visible_Control*> Parts) {

@@ -63,6 +63,17 @@ float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box);
 // A speed or depth beside its bar: the label shows it and the box copies the label.
 void Show_Size(Label& Shown, Text_Box& Box, float Value);
 
+// A bar of sizes, 0 and above, the label that shows the size and the box in which it may be typed.
+struct Size_Bar {
+    Scroll_Bar& Bar;
+    Label& Shown;
+    Text_Box& Box;
+};
+
+// Shows Value, wherever it lies, without writing it; from then on what bar or box is set to goes into Value,
+// and Taken runs after it. Value is a member of the window or outlives it.
+void Wire_Size_Bar(const Size_Bar& B, float& Value, Handler Taken = nullptr);
+
 // Hides every control of a list: what stands in a hidden frame is hidden one by one too, so that nobody can
 // work it from outside either.
 void Hide(std::initializer_list<Visible_Control*> Parts);
