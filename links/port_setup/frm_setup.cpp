@@ -6,11 +6,10 @@
 #include "sentences/number_pattern.hpp"
 #include "sentences/number_text.hpp"
 #include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
 
-#include <array>
+#include <initializer_list>
 
 namespace brinewright {
 
@@ -19,18 +18,16 @@ namespace {
 constexpr int Frames_Per_Column = 8;
 constexpr std::int32_t Usual_Baud_Rate = 4800, Usual_TCP_Port = 8040;
 
-template <std::size_t Count>
-void Fill(Combo_Box& List, const std::array<const char*, Count>& Entries, const char* Tip) {
+void Fill(Combo_Box& List, std::initializer_list<const char*> Entries) {
     for (const char* Entry : Entries) List.Add_Item(Entry);
-    List.Tool_Tip = std::string(Tip);
 }
 
 void Fill_Lists(frmSetup& F) {
     for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {
-        Fill<3>(F.cmbBaudRate[Port], {"4800", "9600", "19200"}, "Baud rate, bits per second");
-        Fill<2>(F.cmbDataBits[Port], {"8", "7"}, "Data bits of a character");
-        Fill<3>(F.cmbParity[Port], {"none", "even", "odd"}, "Parity");
-        Fill<2>(F.cmbStopBits[Port], {"1", "2"}, "Stop bits of a character");
+        Fill(F.cmbBaudRate[Port], {"4800", "9600", "19200"});
+        Fill(F.cmbDataBits[Port], {"8", "7"});
+        Fill(F.cmbParity[Port], {"none", "even", "odd"});
+        Fill(F.cmbStopBits[Port], {"1", "2"});
     }
 }
 
@@ -74,30 +71,28 @@ void Label_UDP_Link(frmSetup& F, int K) {
         std::string(F.txtUDP_port[K].Text().empty() ? "UDP available" : "UDP Port : ");
 }
 
-void Show_Network_Links(Simulator& Sim, frmSetup& F) {
-    const Simulator_State& S = Sim.State;
-    F.lblIP.Caption = " IP " + Sim.Services.Local_IP();
-    F.frameCOMport[port_number::TCP].Caption = std::string("TCP/IP Port");
-    F.txtPort.Set_Text(
-        std::to_string(S.Of<Link_State>().TCP_Port == 0 ? Usual_TCP_Port : S.Of<Link_State>().TCP_Port));
-    F.txtPort.Tool_Tip = std::string("Port that the server listens on, 1024 to 65535");
-    for (int Port = port_number::TCP; Port <= port_number::Last; ++Port)
-        F.chkEnable[Port].Set_Value(S.Of<Link_State>().Port_Table[Port].Enabled);
+void Show_UDP_Links(const Link_State& Links, frmSetup& F) {
     for (int K = 1; K <= UDP_Link_Count; ++K) {
         Text_Box& Box = F.txtUDP_port[K];
-        const std::int32_t Number = S.Of<Link_State>().UDP_Port_Number[K - 1];
+        const std::int32_t Number = Links.UDP_Port_Number[K - 1];
         F.frameCOMport[port_number::TCP + K].Caption = "UDP Port" + Number_Text(K);
-        Box.Tool_Tip = std::string("Port that the datagrams go to, 1 to 65535");
         Box.Change = [&F, K] { Label_UDP_Link(F, K); };
         Box.Set_Text(Number == 0 ? "" : std::to_string(Number));
         Label_UDP_Link(F, K);
     }
-    if (!S.Of<Link_State>().UDP_Remote_Host.empty())
-        F.txtUDP_RemoteHost.Set_Text(S.Of<Link_State>().UDP_Remote_Host);
-    F.txtUDP_RemoteHost.Tool_Tip =
-        std::string("Address that all UDP links send to in Unicast, 1.0.0.1 to 255.255.255.255");
+    if (!Links.UDP_Remote_Host.empty()) F.txtUDP_RemoteHost.Set_Text(Links.UDP_Remote_Host);
     F.optUDPMode.Click = [&F](int Mode) { F.txtUDP_RemoteHost.Enabled = Mode != 0; };
-    F.optUDPMode.Select(S.Of<Link_State>().UDP_Mode != 0 ? 1 : 0);
+    F.optUDPMode.Select(Links.UDP_Mode != 0 ? 1 : 0);
+}
+
+void Show_Network_Links(Simulator& Sim, frmSetup& F) {
+    const Link_State& Links = Sim.State.Of<Link_State>();
+    F.lblIP.Caption = " IP " + Sim.Services.Local_IP();
+    F.frameCOMport[port_number::TCP].Caption = std::string("TCP/IP Port");
+    F.txtPort.Set_Text(std::to_string(Links.TCP_Port == 0 ? Usual_TCP_Port : Links.TCP_Port));
+    for (int Port = port_number::TCP; Port <= port_number::Last; ++Port)
+        F.chkEnable[Port].Set_Value(Links.Port_Table[Port].Enabled);
+    Show_UDP_Links(Links, F);
 }
 
 bool Take_Enable(const frmSetup& F, int Port, Port_Setting& Setting) {
@@ -120,32 +115,30 @@ void Take_Line_Settings(const frmSetup& F, int Port, Port_Setting& Setting) {
 }
 
 void cmdOK_Click(Simulator& Sim, frmSetup& F) {
-    Simulator_State& S = Sim.State;
-    S.Of<Link_State>().Present_Port_Count = 0;
+    Link_State& Links = Sim.State.Of<Link_State>();
+    Links.Present_Port_Count = 0;
     for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {
-        if (!Take_Enable(F, Port, S.Of<Link_State>().Port_Table[Port])) continue;
-        ++S.Of<Link_State>().Present_Port_Count;
-        Take_Line_Settings(F, Port, S.Of<Link_State>().Port_Table[Port]);
+        if (!Take_Enable(F, Port, Links.Port_Table[Port])) continue;
+        ++Links.Present_Port_Count;
+        Take_Line_Settings(F, Port, Links.Port_Table[Port]);
     }
-    S.Of<Link_State>().TCP_Port = static_cast<std::int32_t>(Val_Dot(F.txtPort.Text()));
-    S.Of<Link_State>().UDP_Remote_Host = F.txtUDP_RemoteHost.Text();
-    S.Of<Link_State>().UDP_Mode = static_cast<std::int16_t>(F.optUDPMode.Selected());
+    Links.TCP_Port = static_cast<std::int32_t>(Val_Dot(F.txtPort.Text()));
+    Links.UDP_Remote_Host = F.txtUDP_RemoteHost.Text();
+    Links.UDP_Mode = static_cast<std::int16_t>(F.optUDPMode.Selected());
     for (int K = 1; K <= UDP_Link_Count; ++K)
-        S.Of<Link_State>().UDP_Port_Number[K - 1] =
-            static_cast<std::int32_t>(Val_Dot(F.txtUDP_port[K].Text()));
+        Links.UDP_Port_Number[K - 1] = static_cast<std::int32_t>(Val_Dot(F.txtUDP_port[K].Text()));
     for (int Port = port_number::TCP; Port <= port_number::Last; ++Port)
-        Take_Enable(F, Port, S.Of<Link_State>().Port_Table[Port]);
-    Init_Comports(Sim, S.Of<Link_State>().Present_Port_Count);
+        Take_Enable(F, Port, Links.Port_Table[Port]);
+    Init_Comports(Sim, Links.Present_Port_Count);
     Sim.Told.Links_Chosen.Tell();
     Sim.Windows.Unload(F);
 }
 
 void cmdReset_Click(Simulator& Sim, frmSetup& F) {
-    Sim.State.Of<Link_State>().Ports_Initialised = false;
-    for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {
-        Sim.State.Of<Link_State>().Port_Table[Port].Present = false;
-        Sim.State.Of<Link_State>().Port_Table[Port].Enabled = false;
-    }
+    Link_State& Links = Sim.State.Of<Link_State>();
+    Links.Ports_Initialised = false;
+    for (int Port = 1; Port <= port_number::Last_Serial; ++Port)
+        Links.Port_Table[Port].Present = Links.Port_Table[Port].Enabled = false;
     Sim.Windows.Unload(F);
     Open_Window(Sim, frmSetup::Class_Name);
 }
@@ -177,7 +170,7 @@ void frmComportInfo_Load(Simulator& Sim, Form& Opened) {
 
 } // namespace
 
-// It is filled when it stands, since the detection of ports tells what it does in a box.
+// It is filled when it stands, since the detection of ports says what it does in a box.
 const Window_Class Port_Setup_Window{.Name = frmSetup::Class_Name,
                                      .Entry = {.Name = "mnuSetupPort",
                                                .Menu = "Setup",
@@ -193,34 +186,18 @@ const Window_Class Comport_Info_Window{.Name = frmComportInfo::Class_Name,
                                        .Load = frmComportInfo_Load,
                                        .Lay_Out = Lay_Out_Comport_Info};
 
-frmSetup::frmSetup(Desktop& Its_Windows)
-    : Form(Its_Windows, Class_Name, 0, Form_Kind::Dialog), frameCOMport(*this, "frameCOMport", ""),
-      chkEnable(*this, "chkEnable", "Enable for use"), lblAvailable(*this, "lblAvailable", ""),
-      cmbBaudRate(*this, "cmbBaudRate", ""), cmbDataBits(*this, "cmbDataBits", ""),
-      cmbParity(*this, "cmbParity", ""), cmbStopBits(*this, "cmbStopBits", ""),
-      txtUDP_port(*this, "txtUDP_port", "") {
+frmSetup::frmSetup(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Dialog) {
     Caption = "Port settings - Available COM ports";
-    for (const auto& Box : chkEnable) Box->Tool_Tip = std::string("Uses this link after OK");
-    optUDPMode.Buttons[0]->Tool_Tip = std::string("All UDP links send to 255.255.255.255");
-    optUDPMode.Buttons[1]->Tool_Tip = std::string("All UDP links send to the address beside it");
-    cmdOK.Tool_Tip = std::string("Takes the settings over and opens the links anew");
-    cmdCancel.Tool_Tip = std::string("Leaves the links as they were");
-    cmdComInfo.Tool_Tip = std::string("Tells about ports above COM 16");
-    cmdReset.Tool_Tip = std::string("Forgets the ports and looks for them again");
 }
 
 frmComportInfo::frmComportInfo(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Dialog) {
     Caption = "    Comport Information";
-    cmdOK.Tool_Tip = std::string("Closes this note");
 }
 
 void Show_Port(Simulator& Sim, frmSetup& F, int Port, bool Shown) {
     // Asked only for ports that are there: a number without a device makes the platform look for new ones.
     F.frameCOMport[Port].Caption = Shown ? Port_Caption(Sim, Port) : "COM" + Number_Text(Port);
-    const std::array<Visible_Control*, 7> Parts{
-        &F.frameCOMport[Port], &F.chkEnable[Port], &F.lblAvailable[Port], &F.cmbBaudRate[Port],
-        &F.cmbDataBits[Port],  &F.cmbParity[Port], &F.cmbStopBits[Port]};
-    for (Visible_Control* Part : Parts) Part->Visible = Shown;
+    F.frameCOMport[Port].Visible = Shown;
     Arrange_Frames(F);
 }
 

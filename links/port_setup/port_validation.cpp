@@ -1,5 +1,6 @@
 #include "links/port_setup/port_validation.hpp"
 
+#include "extra/extra_state.hpp"
 #include "links/port_setup/frm_setup.hpp"
 #include "sentences/number_pattern.hpp"
 #include "sentences/number_text.hpp"
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <optional>
 
 namespace brinewright {
 
@@ -18,6 +20,62 @@ constexpr std::size_t Longest_Address = 15;
 
 // Gives the message for an invalid text, or nothing; a valid text may be put into its plain form.
 using Rule = std::function<std::string(std::string& Text)>;
+
+// The whole number that Text is, with a comma counting as a point: "5000" and "5000,0", not "4800,5" or
+// "50x". Nothing when it is none, or not First to Last.
+std::optional<std::int32_t> Parse_Port_Number(std::string_view Text, std::int32_t First, std::int32_t Last) {
+    while (!Text.empty() && Text.front() == ' ') Text.remove_prefix(1);
+    while (!Text.empty() && Text.back() == ' ') Text.remove_suffix(1);
+    const bool Is_Number =
+        Text.find_first_not_of("0123456789.,") == std::string_view::npos &&
+        std::count_if(Text.begin(), Text.end(), [](char C) { return C == '.' || C == ','; }) <= 1;
+    const double Value = Val_Dot(Text);
+    if (!Is_Number || Value != std::floor(Value) || Value < First || Value > Last) return std::nullopt;
+    return static_cast<std::int32_t>(Value);
+}
+
+// Takes a group of at most three digits off the head of Text; nothing when there is none.
+std::optional<int> Take_Group(std::string_view& Text) {
+    const auto End = std::min(Text.find('.'), Text.size());
+    const std::string_view Group = Text.substr(0, End);
+    if (Group.empty() || Group.size() > 3) return std::nullopt;
+    int Value = 0;
+    for (const char C : Group) {
+        if (C < '0' || C > '9') return std::nullopt;
+        Value = Value * 10 + (C - '0');
+    }
+    Text.remove_prefix(End);
+    return Value;
+}
+
+// Four groups of digits parted by ".", the first and the fourth 1 to 255, the others 0 to 255; at most 15
+// characters.
+bool Is_Host_Address(std::string_view Text) {
+    if (Text.size() > Longest_Address) return false;
+    for (int Which = 1; Which <= 4; ++Which) {
+        const auto Group = Take_Group(Text);
+        const int Least = Which == 1 || Which == 4 ? 1 : 0;
+        if (!Group || *Group < Least || *Group > 255) return false;
+        if (Text.starts_with('.') != (Which < 4)) return false;
+        if (Which < 4) Text.remove_prefix(1);
+    }
+    return Text.empty();
+}
+
+template <class Records>
+bool Any_Has_Port(const Records& All, std::int32_t Port) {
+    return std::any_of(All.begin(), All.end(), [&](const auto& R) { return R.UDP_Port == Port; });
+}
+
+// What to say of the number typed for a UDP link when an additional GNSS or gyro has it; empty when it is
+// free.
+std::string UDP_Port_Conflict(const Extra_State& Extra, std::int32_t Port) {
+    const char* Owner = Any_Has_Port(Extra.Extra_GNSS, Port)   ? "GNSS"
+                        : Any_Has_Port(Extra.Extra_Gyro, Port) ? "Gyro"
+                                                               : nullptr;
+    if (!Owner) return {};
+    return "Port " + Number_Text(Port) + " is already in use for Additional " + Owner + ". Select another.";
+}
 
 std::string Check_TCP_Port(std::string& Text) {
     const auto Port = Parse_Port_Number(Text, First_TCP_Port, Last_Port);
@@ -58,57 +116,7 @@ void Check_When_Left(Simulator& Sim, Text_Box& Box, std::string& Valid, Rule Its
     };
 }
 
-// Takes a group of at most three digits off the head of Text; nothing when there is none.
-std::optional<int> Take_Group(std::string_view& Text) {
-    const auto End = std::min(Text.find('.'), Text.size());
-    const std::string_view Group = Text.substr(0, End);
-    if (Group.empty() || Group.size() > 3) return std::nullopt;
-    int Value = 0;
-    for (const char C : Group) {
-        if (C < '0' || C > '9') return std::nullopt;
-        Value = Value * 10 + (C - '0');
-    }
-    Text.remove_prefix(End);
-    return Value;
-}
-
-template <class Records>
-bool Any_Has_Port(const Records& All, std::int32_t Port) {
-    return std::any_of(All.begin(), All.end(), [&](const auto& R) { return R.UDP_Port == Port; });
-}
-
 } // namespace
-
-std::optional<std::int32_t> Parse_Port_Number(std::string_view Text, std::int32_t First, std::int32_t Last) {
-    while (!Text.empty() && Text.front() == ' ') Text.remove_prefix(1);
-    while (!Text.empty() && Text.back() == ' ') Text.remove_suffix(1);
-    const bool Is_Number =
-        Text.find_first_not_of("0123456789.,") == std::string_view::npos &&
-        std::count_if(Text.begin(), Text.end(), [](char C) { return C == '.' || C == ','; }) <= 1;
-    const double Value = Val_Dot(Text);
-    if (!Is_Number || Value != std::floor(Value) || Value < First || Value > Last) return std::nullopt;
-    return static_cast<std::int32_t>(Value);
-}
-
-bool Is_Host_Address(std::string_view Text) {
-    if (Text.size() > Longest_Address) return false;
-    for (int Which = 1; Which <= 4; ++Which) {
-        const auto Group = Take_Group(Text);
-        const int Least = Which == 1 || Which == 4 ? 1 : 0;
-        if (!Group || *Group < Least || *Group > 255) return false;
-        if (Text.starts_with('.') != (Which < 4)) return false;
-        if (Which < 4) Text.remove_prefix(1);
-    }
-    return Text.empty();
-}
-
-std::string UDP_Port_Conflict(const Extra_State& Extra, std::int32_t Port) {
-    const char* Owner = Any_Has_Port(Extra.Extra_GNSS, Port)   ? "GNSS"
-                        : Any_Has_Port(Extra.Extra_Gyro, Port) ? "Gyro"
-                                                               : nullptr;
-    if (!Owner) return {};
-    return "Port " + Number_Text(Port) + " is already in use for Additional " + Owner + ". Select another.";
-}
 
 void Wire_Validation(Simulator& Sim, frmSetup& F) {
     Check_When_Left(Sim, F.txtPort, F.Valid_Port, Check_TCP_Port);

@@ -2,8 +2,6 @@
 
 #include "ownship/navdata_state.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "ownship/ship/ship_controls.hpp"
-#include "platform/tool_tips.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/control_text.hpp"
 #include "shell/state/simulator.hpp"
@@ -26,14 +24,14 @@ void Refuse_SOG(Simulator& Sim, const char* Way, float Most_kn) {
 }
 
 void txtSOG_LostFocus(Simulator& Sim, frmSetSOG& F) {
-    const Simulator_State& S = Sim.State;
+    const Navdata_State& N = Sim.State.Of<Navdata_State>();
     float SOG_kn = Number_Shown(F.txtSOG.Text());
-    if (SOG_kn > 0 && SOG_kn > S.Of<Navdata_State>().Max_Speed_Ahead) {
-        Refuse_SOG(Sim, "Ahead", S.Of<Navdata_State>().Max_Speed_Ahead);
-        SOG_kn = S.Of<Navdata_State>().Max_Speed_Ahead;
-    } else if (SOG_kn < 0 && SOG_kn < -S.Of<Navdata_State>().Max_Speed_Astern) {
-        Refuse_SOG(Sim, "Astern", S.Of<Navdata_State>().Max_Speed_Astern);
-        SOG_kn = -S.Of<Navdata_State>().Max_Speed_Astern;
+    if (SOG_kn > 0 && SOG_kn > N.Max_Speed_Ahead) {
+        Refuse_SOG(Sim, "Ahead", N.Max_Speed_Ahead);
+        SOG_kn = N.Max_Speed_Ahead;
+    } else if (SOG_kn < 0 && SOG_kn < -N.Max_Speed_Astern) {
+        Refuse_SOG(Sim, "Astern", N.Max_Speed_Astern);
+        SOG_kn = -N.Max_Speed_Astern;
     }
     F.txtSOG.Set_Text(Format_Dot(SOG_kn, SOG_Pattern));
 }
@@ -46,13 +44,12 @@ void txtCOG_LostFocus(frmSetSOG& F) {
 // The speed first and the slider last: where the slider moves, its whole percent replaces what was typed.
 // This order is required.
 void cmdOK_Click(Simulator& Sim, frmSetSOG& F) {
-    Simulator_State& S = Sim.State;
-    S.Of<Navdata_State>().Nav_SOG = Number_Shown(F.txtSOG.Text());
-    S.Of<Navdata_State>().Nav_HDG = Val_Dot(F.txtCOG.Text());
+    Navdata_State& N = Sim.State.Of<Navdata_State>();
+    N.Nav_SOG = Number_Shown(F.txtSOG.Text());
+    N.Nav_HDG = Val_Dot(F.txtCOG.Text());
     if (auto* const Ship = Open_One<frmShip>(Sim)) {
-        frmShip& W = *Ship;
-        W.sldThrottle.Set_Value(Throttle_Place(S, W));
-        Show_SOG(W, S.Of<Navdata_State>().Nav_SOG, "0.0"); // a slider that stayed has not written it
+        Ship->sldThrottle.Set_Value(Throttle_Place(Sim.State, *Ship));
+        Show_SOG(*Ship, N.Nav_SOG, "0.0"); // a slider that stayed has not written it
     }
     Sim.Windows.Unload(F);
 }
@@ -60,9 +57,10 @@ void cmdOK_Click(Simulator& Sim, frmSetSOG& F) {
 void frmSetSOG_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmSetSOG&>(Opened);
     const frmShip& W = *Open_One<frmShip>(Sim);
+    const Navdata_State& N = Sim.State.Of<Navdata_State>();
     F.Set_Place(W.Left + Place_Left, W.Top + Place_Top, Form_Width, Form_Height);
-    F.txtSOG.Set_Text(Format_Dot(Sim.State.Of<Navdata_State>().Nav_SOG, SOG_Pattern));
-    F.txtCOG.Set_Text(Format_Dot(Sim.State.Of<Navdata_State>().Nav_COG, COG_Pattern));
+    F.txtSOG.Set_Text(Format_Dot(N.Nav_SOG, SOG_Pattern));
+    F.txtCOG.Set_Text(Format_Dot(N.Nav_COG, COG_Pattern));
     F.txtSOG.Lost_Focus = [&] { txtSOG_LostFocus(Sim, F); };
     F.txtCOG.Lost_Focus = [&] { txtCOG_LostFocus(F); };
     F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };
@@ -73,17 +71,6 @@ void frmSetSOG_Load(Simulator& Sim, Form& Opened) {
 
 frmSetSOG::frmSetSOG(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Dialog) {
     Caption = "Set SOG/COG";
-    const Tip_Row Tips[] = {
-        {lblSOG, "Speed over ground, knots, negative astern"},
-        {txtSOG, "Speed over ground, knots, negative astern; up to the limits of the ship setup"},
-        {lblSOGUnit, "Unit of the speed"},
-        {lblCOG, "Heading, 0 to under 360 degrees true"},
-        {txtCOG, "Heading, 0 to under 360 degrees true"},
-        {lblCOGUnit, "Unit of the heading"},
-        {cmdOK, "The ship takes this speed, to a whole percent of the throttle, and this heading"},
-        {cmdCancel, "Speed and heading stay as they are"},
-    };
-    Show_Tips(Tips);
 }
 
 const Window_Class Set_SOG_Window{.Name = frmSetSOG::Class_Name,

@@ -2,7 +2,6 @@
 
 #include "ownship/navdata_state.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "ownship/ship/ship_controls.hpp"
 #include "sentences/number_pattern.hpp"
 #include "sentences/number_text.hpp"
 #include "shell/kit/control_text.hpp"
@@ -70,15 +69,15 @@ std::int32_t Read_Port_Number(std::string_view Text) {
 
 void Act_On_VTG(Simulator& Sim, std::string_view Sentence) {
     const float Speed_kn = Extract_VTG(Sentence).SOG_Knots;
+    Navdata_State& N = Sim.State.Of<Navdata_State>();
     auto* const Ship = Open_One<frmShip>(Sim);
     if (Ship) {
         // Astern too the throttle is reckoned from the speed ahead, as required; it limits what is too much.
         Slider& Throttle = Ship->sldThrottle;
-        Throttle.Set_Value(
-            Bar_Place(Throttle, -Speed_kn / Sim.State.Of<Navdata_State>().Max_Speed_Ahead * 100, 1));
+        Throttle.Set_Value(Bar_Place(Throttle, -Speed_kn / N.Max_Speed_Ahead * 100, 1));
     }
-    // The very speed that was told, whatever the throttle made of it; of an empty field -9999, as required.
-    Sim.State.Of<Navdata_State>().Nav_SOG = Speed_kn;
+    // The very speed of the sentence, whatever the throttle made of it; of an empty field -9999, as required.
+    N.Nav_SOG = Speed_kn;
     if (Ship) Show_SOG(*Ship, Speed_kn, "0.0");
 }
 
@@ -138,14 +137,13 @@ ROT_Record Extract_ROT(std::string_view Sentence) {
 
 void Start_Control_Input(Simulator& Sim) {
     const std::string File = Sim.State.Of<Shell_State>().Data_Folder + Port_File;
+    std::int32_t& Port = Sim.State.Of<Link_State>().Control_Input_Port;
     try {
-        Sim.State.Of<Link_State>().Control_Input_Port =
-            Read_Port_Number(Sim.Services.Disk().Read(File, Port_File_Limit_Bytes));
+        Port = Read_Port_Number(Sim.Services.Disk().Read(File, Port_File_Limit_Bytes));
     } catch (const Run_Time_Error& Failure) {
         return Tell_Failure(Sim, File, Failure);
     }
-    const std::int32_t Port = Sim.State.Of<Link_State>().Control_Input_Port;
-    // Told before the port is bound, as required; a failure to do so follows in a box of its own.
+    // The box comes before the port is bound, as required; a failure to do so follows in a box of its own.
     Sim.Windows.Boxes.Show("Dedicated Quillon UDP port " + Number_Text(Port) +
                                " opened for NMEA VTG and ROT input. NB! Only relevant for Ship mode.",
                            Box_Title());

@@ -1,7 +1,6 @@
 #include "ownship/ship/joystick.hpp"
 
 #include "ownship/ship/frm_ship.hpp"
-#include "ownship/ship/ship_controls.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
 

@@ -1,5 +1,3 @@
-#include "ownship/ship/ship_keyboard.hpp"
-
 #include "ownship/ship/frm_ship.hpp"
 #include "shell/state/simulator.hpp"
 
@@ -61,27 +59,7 @@ void Show_Keyboard_Mode(frmShip& W, bool On) {
     W.cmdSetSOG.Visible = !On;
 }
 
-} // namespace
-
-void Wire_Ship_Keyboard(Simulator& Sim, frmShip& W) {
-    Show_Keyboard_Mode(W, false);
-    W.cmdArrows.Click = [&] { cmdArrows_Click(Sim, W); };
-    W.txtDummy.Lost_Focus = [&] { txtDummy_LostFocus(W); };
-    W.On_Got_Focus = [&] { Sim.Windows.Set_Focus(&W.txtDummy); };
-    W.On_Key_Down = [&](int Key_Code, Key_Modifiers Held) {
-        if (Key_Code != key::Escape) return Form_KeyDown(W, Key_Code, Held);
-        Sim.Windows.Set_Focus(nullptr); // as any other way to leave the box does, this ends the mode
-        return true;
-    };
-}
-
-void cmdArrows_Click(Simulator& Sim, frmShip& W) {
-    Show_Keyboard_Mode(W, true);
-    Sim.Windows.Set_Focus(&W.txtDummy);
-}
-
-void txtDummy_LostFocus(frmShip& W) { Show_Keyboard_Mode(W, false); }
-
+// True: the key is used up.
 bool Form_KeyDown(frmShip& W, int Key_Code, Key_Modifiers Held) {
     for (const Key_Row& Row : Keys) {
         if (Row.Key_Code != Key_Code) continue;
@@ -90,6 +68,23 @@ bool Form_KeyDown(frmShip& W, int Key_Code, Key_Modifiers Held) {
         return How_Far.has_value();
     }
     return false;
+}
+
+} // namespace
+
+void Wire_Ship_Keyboard(Simulator& Sim, frmShip& W) {
+    Show_Keyboard_Mode(W, false);
+    W.cmdArrows.Click = [&] {
+        Show_Keyboard_Mode(W, true);
+        Sim.Windows.Set_Focus(&W.txtDummy);
+    };
+    W.txtDummy.Lost_Focus = [&] { Show_Keyboard_Mode(W, false); };
+    W.On_Got_Focus = [&] { Sim.Windows.Set_Focus(&W.txtDummy); };
+    W.On_Key_Down = [&](int Key_Code, Key_Modifiers Held) {
+        if (Key_Code != key::Escape) return Form_KeyDown(W, Key_Code, Held);
+        Sim.Windows.Set_Focus(nullptr); // as any other way to leave the box does, this ends the mode
+        return true;
+    };
 }
 
 } // namespace brinewright

@@ -29,56 +29,58 @@ double Within_Circle(double Lon_deg) {
 double Within_Poles(double Lat_deg) { return std::clamp(Finite_Or_Zero(Lat_deg), -90.0, 90.0); }
 
 void Step_Along_Course(Simulator_State& S, float SOG_kn) {
+    Navdata_State& N = S.Of<Navdata_State>();
     const double Distance_m = std::abs(static_cast<double>(SOG_kn)) * m_Per_Nautical_Mile / 60 / 60;
     const double Distance_NM = Distance_m * Nautical_Miles_Per_m;
-    const double Lat_rad = S.Of<Navdata_State>().Nav_Lat * Degrees_To_Radians;
-    const double Lon_rad = S.Of<Navdata_State>().Nav_Lon * Degrees_To_Radians;
+    const double Lat_rad = N.Nav_Lat * Degrees_To_Radians;
+    const double Lon_rad = N.Nav_Lon * Degrees_To_Radians;
     double New_Lat_rad = Lat_rad, New_Lon_rad = Lon_rad;
-    Rhumb_Direct(Lat_rad, Lon_rad, Distance_NM, S.Of<Navdata_State>().Nav_COG * Degrees_To_Radians,
-                 New_Lat_rad, New_Lon_rad, true);
+    Rhumb_Direct(Lat_rad, Lon_rad, Distance_NM, N.Nav_COG * Degrees_To_Radians, New_Lat_rad, New_Lon_rad,
+                 true);
     // The way to radians and back would let a ship creep that lies still or stands at the pole.
     if (New_Lat_rad == Lat_rad && New_Lon_rad == Lon_rad) return;
-    S.Of<Navdata_State>().Nav_Lat = New_Lat_rad * Radians_To_Degrees;
-    S.Of<Navdata_State>().Nav_Lon = New_Lon_rad * Radians_To_Degrees;
+    N.Nav_Lat = New_Lat_rad * Radians_To_Degrees;
+    N.Nav_Lon = New_Lon_rad * Radians_To_Degrees;
 }
 
 } // namespace
 
 void Normalise_Navdata(Simulator_State& S) {
-    S.Of<Navdata_State>().Nav_Lat = Within_Poles(S.Of<Navdata_State>().Nav_Lat);
-    S.Of<Navdata_State>().Nav_Lon = Within_Circle(S.Of<Navdata_State>().Nav_Lon);
-    S.Of<Navdata_State>().Nav_HDG = Add_Degrees(S.Of<Navdata_State>().Nav_HDG, 0);
-    S.Of<Navdata_State>().Nav_COG = Add_Degrees(S.Of<Navdata_State>().Nav_COG, 0);
+    Navdata_State& N = S.Of<Navdata_State>();
+    N.Nav_Lat = Within_Poles(N.Nav_Lat);
+    N.Nav_Lon = Within_Circle(N.Nav_Lon);
+    N.Nav_HDG = Add_Degrees(N.Nav_HDG, 0);
+    N.Nav_COG = Add_Degrees(N.Nav_COG, 0);
 }
 
 void Move_Ship(Simulator_State& S, float SOG_kn, float ROT) {
+    Navdata_State& N = S.Of<Navdata_State>();
     const double Turn_deg = static_cast<double>(ROT) / Steps_Per_Minute;
     const bool Astern = SOG_kn < 0;
-    S.Of<Navdata_State>().Nav_HDG = Add_Degrees(S.Of<Navdata_State>().Nav_HDG, Astern ? -Turn_deg : Turn_deg);
-    S.Of<Navdata_State>().Nav_COG =
-        Astern ? Add_Degrees(S.Of<Navdata_State>().Nav_HDG, 180) : S.Of<Navdata_State>().Nav_HDG;
+    N.Nav_HDG = Add_Degrees(N.Nav_HDG, Astern ? -Turn_deg : Turn_deg);
+    N.Nav_COG = Astern ? Add_Degrees(N.Nav_HDG, 180) : N.Nav_HDG;
     Step_Along_Course(S, SOG_kn);
-    S.Of<Navdata_State>().Nav_Lon = Within_Circle(S.Of<Navdata_State>().Nav_Lon);
+    N.Nav_Lon = Within_Circle(N.Nav_Lon);
 }
 
 void Feed_Sensors(Simulator_State& S, float SOG_kn, float ROT) {
+    const Navdata_State& N = S.Of<Navdata_State>();
+    GNSS_State& GNSS = S.Of<GNSS_State>();
+    Gyro_State& Gyro = S.Of<Gyro_State>();
+    Log_State& Log = S.Of<Log_State>();
     for (int I = 1; I <= 2; ++I) {
-        S.Of<GNSS_State>().GNSS_Lat[I] = S.Of<Navdata_State>().Nav_Lat;
-        S.Of<GNSS_State>().GNSS_Lon[I] = S.Of<Navdata_State>().Nav_Lon;
-        S.Of<GNSS_State>().GNSS_SOG[I] = SOG_kn;
-        S.Of<GNSS_State>().GNSS_COG[I] = static_cast<float>(S.Of<Navdata_State>().Nav_COG);
-        S.Of<Gyro_State>().Gyro_HDG[I] =
-            static_cast<float>(Add_Degrees(S.Of<Navdata_State>().Nav_HDG, S.Of<Gyro_State>().Gyro_Offset[I]));
-        S.Of<Gyro_State>().Gyro_ROT[I] = ROT;
-        S.Of<Log_State>().Log_Speed[I] = Record_Number(static_cast<double>(S.Of<Navdata_State>().Nav_SOG) +
-                                                       static_cast<double>(S.Of<Log_State>().Log_Offset[I]));
+        GNSS.GNSS_Lat[I] = N.Nav_Lat;
+        GNSS.GNSS_Lon[I] = N.Nav_Lon;
+        GNSS.GNSS_SOG[I] = SOG_kn;
+        GNSS.GNSS_COG[I] = static_cast<float>(N.Nav_COG);
+        Gyro.Gyro_HDG[I] = static_cast<float>(Add_Degrees(N.Nav_HDG, Gyro.Gyro_Offset[I]));
+        Gyro.Gyro_ROT[I] = ROT;
+        Log.Log_Speed[I] =
+            Record_Number(static_cast<double>(N.Nav_SOG) + static_cast<double>(Log.Log_Offset[I]));
     }
-    const double East_Scale = std::cos(S.Of<Navdata_State>().Nav_Lat * Degrees_To_Radians);
-    S.Of<GNSS_State>().GNSS_Lat[2] = Within_Poles(
-        S.Of<GNSS_State>().GNSS_Lat[2] + S.Of<Navdata_State>().Lat_Offset / m_Per_Nautical_Mile / 60);
-    S.Of<GNSS_State>().GNSS_Lon[2] =
-        Within_Circle(S.Of<GNSS_State>().GNSS_Lon[2] +
-                      S.Of<Navdata_State>().Lon_Offset / m_Per_Nautical_Mile / 60 / East_Scale);
+    const double East_Scale = std::cos(N.Nav_Lat * Degrees_To_Radians);
+    GNSS.GNSS_Lat[2] = Within_Poles(GNSS.GNSS_Lat[2] + N.Lat_Offset / m_Per_Nautical_Mile / 60);
+    GNSS.GNSS_Lon[2] = Within_Circle(GNSS.GNSS_Lon[2] + N.Lon_Offset / m_Per_Nautical_Mile / 60 / East_Scale);
 }
 
 } // namespace brinewright

@@ -2,6 +2,7 @@
 
 #include "platform/controls.hpp"
 #include "platform/form.hpp"
+#include "shell/monitors/monitor_pane.hpp"
 #include "shell/state/window_class.hpp"
 
 namespace brinewright {
@@ -13,9 +14,10 @@ struct frmExtendedMonitor : Form {
     explicit frmExtendedMonitor(Desktop& Windows);
 
     Label lblSystem{*this, "lblSystem", "Comport"};
-    Combo_Box cmbComPort{*this, "cmbComPort", "Select comport"};
-    Button cmdFreeze{*this, "cmdFreeze", "Freeze"};
-    Button cmdClear{*this, "cmdClear", "Clear"};
+    Combo_Box cmbComPort{*this, "cmbComPort", "Select comport", "The link to watch"};
+    Button cmdFreeze{*this, "cmdFreeze", monitor_caption::Running,
+                     "Holds both panes still; the link goes on working"};
+    Button cmdClear{*this, "cmdClear", "Clear", "Empties both panes"};
     Label lblOutput{*this, "lblOutput", "TX - Output"};
     Text_Box txtOutput{*this, "txtOutput"};
     Label lblInput{*this, "lblInput", "RX - Input"};

@@ -1,10 +1,10 @@
 #include "shell/monitors/monitor/frm_monitor.hpp"
 
 #include "links/port_list.hpp"
-#include "shell/monitors/monitor_pane.hpp"
-#include "shell/state/iec450_state.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/simulator.hpp"
+
+#include <initializer_list>
 
 namespace brinewright {
 
@@ -27,17 +27,13 @@ void Show_Sent(Simulator& Sim, frmMonitor& F, const Sent_Sentence& Sent) {
 void frmMonitor_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmMonitor&>(Opened);
     Sim.Told.Sent.Add(F, [&Sim, &F](const Sent_Sentence& Sent) { Show_Sent(Sim, F, Sent); });
+    const Link_State& Links = Sim.State.Of<Link_State>();
     for (int Port = 1; Port <= port_number::Last; ++Port) {
-        const bool Enabled = Sim.State.Of<Link_State>().Port_Table[Port].Enabled;
         F.lblComport[Port].Caption = Link_Name(Sim, Port);
-        F.lblComport[Port].Visible = Enabled;
-        F.txtCom[Port].Visible = Enabled;
-        F.cmdFreeze[Port].Visible = Enabled;
-        F.cmdClear[Port].Visible = Enabled;
+        const std::initializer_list<Visible_Control*> Parts{&F.lblComport[Port], &F.txtCom[Port],
+                                                            &F.cmdFreeze[Port], &F.cmdClear[Port]};
+        for (Visible_Control* Part : Parts) Part->Visible = Links.Port_Table[Port].Enabled;
         F.txtCom[Port].Read_Only = true;
-        F.txtCom[Port].Tool_Tip = std::string("The last sentences that left here");
-        F.cmdFreeze[Port].Tool_Tip = std::string("Holds this pane still; the sentences go on leaving");
-        F.cmdClear[Port].Tool_Tip = std::string("Empties this pane");
         Button& Freeze = F.cmdFreeze[Port];
         Freeze.Click = [&Freeze] {
             const bool Runs = *Freeze.Caption == monitor_caption::Running;
@@ -50,10 +46,7 @@ void frmMonitor_Load(Simulator& Sim, Form& Opened) {
 
 } // namespace
 
-frmMonitor::frmMonitor(Desktop& Its_Windows)
-    : Form(Its_Windows, Class_Name, 0, Form_Kind::Child), lblComport(*this, "lblComport", ""),
-      txtCom(*this, "txtCom", ""), cmdFreeze(*this, "cmdFreeze", monitor_caption::Running),
-      cmdClear(*this, "cmdClear", "Clear") {
+frmMonitor::frmMonitor(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Child) {
     Caption = "Comport Monitor";
     Set_Place(600, 600, 9000, 6000);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/controls.hpp"
 #include "platform/form.hpp"
+#include "shell/monitors/monitor_pane.hpp"
 #include "shell/state/window_class.hpp"
 
 namespace brinewright {
@@ -13,10 +14,11 @@ struct frmMonitor : Form {
 
     explicit frmMonitor(Desktop& Windows);
 
-    Control_Array<Label, 1, 28> lblComport;
-    Control_Array<Text_Box, 1, 28> txtCom;
-    Control_Array<Button, 1, 28> cmdFreeze;
-    Control_Array<Button, 1, 28> cmdClear;
+    Control_Array<Label, 1, 28> lblComport{*this, "lblComport"};
+    Control_Array<Text_Box, 1, 28> txtCom{*this, "txtCom", "", "The last sentences that left here"};
+    Control_Array<Button, 1, 28> cmdFreeze{*this, "cmdFreeze", monitor_caption::Running,
+                                           "Holds this pane still; the sentences go on leaving"};
+    Control_Array<Button, 1, 28> cmdClear{*this, "cmdClear", "Clear", "Empties this pane"};
 };
 
 Layout Lay_Out_Monitor(Simulator& Sim, Form& Shown);

@@ -223,16 +223,6 @@ void frmTraffic_Load(Simulator& Sim, Form& Opened) {
 frmTraffic::frmTraffic(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Child) {
     Caption = "Traffic";
     Set_Place(1200, 1200, 12000, 7500);
-    cmbPort.Tool_Tip = std::string("Shows only what left here");
-    cmbType.Tool_Tip = std::string("Shows only sentences of this type; ? is what begins with no sentence");
-    txtFilter.Tool_Tip = std::string("Shows only sentences that contain this text");
-    txtSearch.Tool_Tip = std::string("Text to find in the sentences shown");
-    cmdPause.Tool_Tip = std::string("Keeps no more sentences until Continue; they go on leaving");
-    cmdFind.Tool_Tip = std::string("Chooses the next sentence that contains the text, round the end");
-    cmdClear.Tool_Tip = std::string("Forgets the sentences kept");
-    hfgTraffic.Tool_Tip = std::string("The last 10,000 sentences; a chosen one shows its fields below");
-    hfgFields.Tool_Tip = std::string("The fields of the chosen sentence with their units");
-    cmdExport.Tool_Tip = std::string("Writes the sentences shown to a recording");
 }
 
 const Window_Class Traffic_Window{
