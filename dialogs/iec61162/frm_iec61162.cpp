@@ -29,52 +29,42 @@ constexpr std::array<Tag_Row, 7> Tag_Rows{{
 }};
 
 struct Text_Row {
-    Text_Box& (*Box)(frmIEC61162&);
-    std::string IEC450_State::*Value;
-    const char* Default_Text; // shown while the value is empty
+    Text_Box& Box;
+    std::string& Stored;
+    const char* Default_Text; // shown while nothing is stored
 };
 
-const std::array<Text_Row, 4> Text_Rows{{
-    {[](frmIEC61162& F) -> Text_Box& { return F.txtSourceId; }, &IEC450_State::s_Tag, "Brinewright"},
-    {[](frmIEC61162& F) -> Text_Box& { return F.txtDestinationId[0]; }, &IEC450_State::d_Tag, "Listener 1"},
-    {[](frmIEC61162& F) -> Text_Box& { return F.txtDestinationId[1]; }, &IEC450_State::d2_Tag, "Listener 2"},
-    {[](frmIEC61162& F) -> Text_Box& { return F.txtTextString; }, &IEC450_State::t_Tag,
-     "Type your text string here"},
-}};
+std::array<Text_Row, 4> Text_Rows(IEC450_State& S, frmIEC61162& F) {
+    return {{{F.txtSourceId, S.s_Tag, "Brinewright"},
+             {F.txtDestinationId[0], S.d_Tag, "Listener 1"},
+             {F.txtDestinationId[1], S.d2_Tag, "Listener 2"},
+             {F.txtTextString, S.t_Tag, "Type your text string here"}}};
+}
 
 void cmdOK_Click(Simulator& Sim, frmIEC61162& F) {
+    IEC450_State& S = Sim.State.Of<IEC450_State>();
     const bool On = F.chkIEC61162_450.Value();
     Sim.Windows.Boxes.Show(On ? "IEC 61162-450 option enabled." : "IEC 61162-450 option disabled.");
-    Sim.State.Of<IEC450_State>().IEC450_Enabled = On;
+    S.IEC450_Enabled = On;
     Sim.Told.Switched.Tell();
-    Sim.State.Of<IEC450_State>().UdPbC_Header_Enabled = F.chkUdpbc.Value();
-    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) Sim.State->*Tag_Rows[I].Use = F.chkIEC61162[I]->Value();
-    for (const Text_Row& Row : Text_Rows) Sim.State->*Row.Value = Row.Box(F).Text();
+    S.UdPbC_Header_Enabled = F.chkUdpbc.Value();
+    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) S.*Tag_Rows[I].Use = F.chkIEC61162[I]->Value();
+    for (const Text_Row& Row : Text_Rows(S, F)) Row.Stored = Row.Box.Text();
     Sim.Windows.Unload(F);
 }
 
 void frmIEC61162_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmIEC61162&>(Opened);
-    const Simulator_State& S = Sim.State;
-    F.chkIEC61162_450.Set_Value(S.Of<IEC450_State>().IEC450_Enabled);
-    F.chkUdpbc.Set_Value(S.Of<IEC450_State>().UdPbC_Header_Enabled);
-    F.chkIEC61162_450.Tool_Tip = std::string("Puts a tag block in front of every sentence on every link");
-    F.chkUdpbc.Tool_Tip = std::string("Puts the UdPbC datagram header in front of the tag block");
-    F.cmdOK.Tool_Tip = std::string("Takes the settings over for the next sentence");
-    F.cmdCancel.Tool_Tip = std::string("Leaves the settings as they were");
-    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) {
-        F.chkIEC61162[I]->Set_Value(S->*Tag_Rows[I].Use);
-        F.chkIEC61162[I]->Tool_Tip = std::string(Tag_Rows[I].Tip);
+    IEC450_State& S = Sim.State.Of<IEC450_State>();
+    F.chkIEC61162_450.Set_Value(S.IEC450_Enabled);
+    F.chkUdpbc.Set_Value(S.UdPbC_Header_Enabled);
+    for (std::size_t I = 0; I < Tag_Rows.size(); ++I) F.chkIEC61162[I]->Set_Value(S.*Tag_Rows[I].Use);
+    for (const Text_Row& Row : Text_Rows(S, F)) {
+        Row.Box.Set_Text(Row.Stored.empty() ? Row.Default_Text : Row.Stored);
+        Row.Box.Got_Focus = [&Box = Row.Box] { Box.Select_All(); };
     }
-    for (const Text_Row& Row : Text_Rows) {
-        Text_Box& Box = Row.Box(F);
-        const std::string& Value = S->*Row.Value;
-        Box.Set_Text(Value.empty() ? Row.Default_Text : Value);
-        Box.Tool_Tip = std::string("Text of the tag beside it, sent as it stands");
-        Box.Got_Focus = [&Box] { Box.Select_All(); };
-    }
-    F.cmdOK.Click = [&Sim, &F] { cmdOK_Click(Sim, F); };
-    F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
+    F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };
+    F.cmdCancel.Click = [&] { Sim.Windows.Unload(F); };
 }
 
 } // namespace
@@ -83,7 +73,7 @@ frmIEC61162::frmIEC61162(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0
     Caption = "IEC 61162-450 Multiple talkers and listeners";
     for (const Tag_Row& Row : Tag_Rows)
         chkIEC61162.push_back(std::make_unique<Check_Box>(
-            Stand(*this).Element(static_cast<int>(chkIEC61162.size())), "chkIEC61162", Row.Caption));
+            Stand(*this).Element(static_cast<int>(chkIEC61162.size())), "chkIEC61162", Row.Caption, Row.Tip));
 }
 
 const Window_Class IEC61162_Window{

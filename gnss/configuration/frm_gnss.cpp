@@ -1,8 +1,6 @@
 #include "gnss/configuration/frm_gnss.hpp"
 
 #include "gnss/gnss_state.hpp"
-#include "platform/tool_tips.hpp"
-#include "sentences/number_text.hpp"
 #include "shell/kit/control_text.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
@@ -36,6 +34,15 @@ constexpr int Not_Used = 0;
 constexpr float Dialog_Width = 5955, Dialog_Height = 3420;
 constexpr float Place_Step = 1000; // right of and below the window
 
+std::string Name_Of(const Stand& At) { return Known_Systems[At.Index].Name; }
+
+std::deque<GNSS_System_Row> System_Rows(Form& F) {
+    std::deque<GNSS_System_Row> Rows;
+    for (int Element = 0; Element < static_cast<int>(std::size(Known_Systems)); ++Element)
+        Rows.emplace_back(Stand(F).Element(Element));
+    return Rows;
+}
+
 char Mode_Letter(const GNSS_System_Row& Row) { return Row.cmbMode.Text().front(); }
 
 std::string Mode_Indicator(const frmGNSS& F) {
@@ -56,57 +63,62 @@ void chkUse_Click(frmGNSS& F, GNSS_System_Row& Row) {
     ReArrange(F);
 }
 
+// A stored mode that the list does not have, as a setup file may hold, counts as not used.
+void Show_Stored(const GNSS_State& S, frmGNSS& F) {
+    F.lblGNSModeIndicator.Caption = S.GNS_Mode_Indicator[F.Instance];
+    for (GNSS_System_Row& Row : F.Systems) {
+        Row.chkUse.Click = [&] { chkUse_Click(F, Row); };
+        Row.cmbMode.Click = [&] { ReArrange(F); };
+        const int System = Row.chkUse.Index + 1;
+        const int Stored = S.GNSS_System_Mode[System][F.Instance];
+        const int Mode = Stored >= 0 && Stored < static_cast<int>(std::size(Modes)) ? Stored : Not_Used;
+        Row.chkUse.Set_Value(S.GNSS_System_Used[System][F.Instance] || Mode > Not_Used);
+        Row.cmbMode.Set_List_Index(Mode);
+    }
+}
+
 void cmdOK_Click(Simulator& Sim, frmGNSS& F) {
-    Simulator_State& S = Sim.State;
-    S.Of<GNSS_State>().GNSS_Config_Index =
-        static_cast<std::int16_t>(F.Instance); // the dialog of the other window may stand too
-    const int Slot = S.Of<GNSS_State>().GNSS_Config_Index;
-    S.Of<GNSS_State>().GNS_Mode_Indicator[Slot] = *F.lblGNSModeIndicator.Caption;
-    S.Of<GNSS_State>().GNSS_Systems_Text[Slot] = *F.lblGNSS_Config.Caption;
-    S.Of<GNSS_State>().GNS_Talker[Slot] = *F.lblGNSTalker.Caption;
+    GNSS_State& S = Sim.State.Of<GNSS_State>();
+    const int Slot = F.Instance;
+    S.GNSS_Config_Index = static_cast<std::int16_t>(Slot); // the dialog of the other window may stand too
+    S.GNS_Mode_Indicator[Slot] = *F.lblGNSModeIndicator.Caption;
+    S.GNSS_Systems_Text[Slot] = *F.lblGNSS_Config.Caption;
+    S.GNS_Talker[Slot] = *F.lblGNSTalker.Caption;
     for (const GNSS_System_Row& Row : F.Systems) {
         const int System = Row.chkUse.Index + 1;
-        S.Of<GNSS_State>().GNSS_System_Used[System][Slot] = Row.chkUse.Value();
-        S.Of<GNSS_State>().GNSS_System_Mode[System][Slot] =
-            static_cast<std::int16_t>(Row.cmbMode.List_Index());
+        S.GNSS_System_Used[System][Slot] = Row.chkUse.Value();
+        S.GNSS_System_Mode[System][Slot] = static_cast<std::int16_t>(Row.cmbMode.List_Index());
     }
     Sim.Told.Switched.Tell();
     Sim.Windows.Unload(F);
 }
 
-// The letters need every list to have a choice, hence the first loop. A stored mode that the list does not
-// have, as a setup file may hold, counts as not used.
-void Show_Stored(const Simulator_State& S, frmGNSS& F) {
-    const int Slot = F.Instance;
-    for (GNSS_System_Row& Row : F.Systems) {
-        Add_Items(Row.cmbMode, Modes);
-        Row.cmbMode.Set_List_Index(Not_Used);
-        Row.cmbMode.Enabled = false;
-    }
-    F.lblGNSModeIndicator.Caption = S.Of<GNSS_State>().GNS_Mode_Indicator[Slot];
-    for (GNSS_System_Row& Row : F.Systems) {
-        Row.chkUse.Click = [&F, &Row] { chkUse_Click(F, Row); };
-        Row.cmbMode.Click = [&F] { ReArrange(F); };
-        const int System = Row.chkUse.Index + 1;
-        const int Stored = S.Of<GNSS_State>().GNSS_System_Mode[System][Slot];
-        const int Mode = Stored >= 0 && Stored < static_cast<int>(std::size(Modes)) ? Stored : Not_Used;
-        Row.chkUse.Set_Value(S.Of<GNSS_State>().GNSS_System_Used[System][Slot] || Mode > Not_Used);
-        Row.cmbMode.Set_List_Index(Mode);
-    }
-}
-
 void frmGNSS_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmGNSS&>(Opened);
+    GNSS_State& S = Sim.State.Of<GNSS_State>();
     const Form* const Below = Open_Form(Sim, "frmPosition", F.Instance); // the window that it belongs to
     F.Set_Place((Below ? Below->Left : 0) + Place_Step, (Below ? Below->Top : 0) + Place_Step, Dialog_Width,
                 Dialog_Height);
-    Sim.State.Of<GNSS_State>().GNSS_Config_Index = static_cast<std::int16_t>(F.Instance);
-    Show_Stored(Sim.State, F);
-    F.cmdOK.Click = [&Sim, &F] { cmdOK_Click(Sim, F); };
-    F.cmdCancel.Click = [&Sim, &F] { Sim.Windows.Unload(F); };
+    S.GNSS_Config_Index = static_cast<std::int16_t>(F.Instance);
+    Show_Stored(S, F);
+    F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };
+    F.cmdCancel.Click = [&] { Sim.Windows.Unload(F); };
 }
 
 } // namespace
+
+// The mode field needs every list to have a choice.
+GNSS_System_Row::GNSS_System_Row(Stand At)
+    : lblGNSS_System(At, "lblGNSS_System", Known_Systems[At.Index].Label, "Mode and use of " + Name_Of(At)),
+      chkUse(At, "chkUse", "Use", Name_Of(At) + " is behind the fix"),
+      cmbMode(At, "cmbMode", "", "Mode of " + Name_Of(At) + ", a letter of the mode field of GNS") {
+    Add_Items(cmbMode, Modes);
+    cmbMode.Set_List_Index(Not_Used);
+    cmbMode.Enabled = false;
+}
+
+frmGNSS::frmGNSS(Desktop& Its_Windows, int Slot)
+    : Form(Its_Windows, Class_Name, Slot, Form_Kind::Dialog), Systems(System_Rows(*this)) {}
 
 const Window_Class GNSS_Configuration_Windows{.Name = frmGNSS::Class_Name,
                                               .Count = 2,
@@ -114,37 +126,6 @@ const Window_Class GNSS_Configuration_Windows{.Name = frmGNSS::Class_Name,
                                               .Make = Make_Instance<frmGNSS>,
                                               .Load = frmGNSS_Load,
                                               .Lay_Out = Lay_Out_GNSS_Configuration};
-
-std::deque<GNSS_System_Row> System_Rows(Form& F) {
-    std::deque<GNSS_System_Row> Rows;
-    for (int Element = 0; Element < static_cast<int>(std::size(Known_Systems)); ++Element)
-        Rows.emplace_back(Stand(F).Element(Element));
-    return Rows;
-}
-
-GNSS_System_Row::GNSS_System_Row(Stand At)
-    : lblGNSS_System(At, "lblGNSS_System", Known_Systems[At.Index].Label), chkUse(At, "chkUse", "Use"),
-      cmbMode(At, "cmbMode") {
-    const std::string Name = Known_Systems[At.Index].Name;
-    lblGNSS_System.Tool_Tip = "Mode and use of " + Name;
-    chkUse.Tool_Tip = Name + " is behind the fix";
-    cmbMode.Tool_Tip = "Mode of " + Name + ", a letter of the mode field of GNS";
-}
-
-frmGNSS::frmGNSS(Desktop& Its_Windows, int Slot) : Form(Its_Windows, Class_Name, Slot, Form_Kind::Dialog) {
-    Caption = "GNSS Configuration";
-    const Tip_Row Tips[] = {
-        {lblModeIndicatorTitle, "Mode field of GNS: one letter a system"},
-        {lblGNSModeIndicator, "Mode field of GNS: one letter a system, 1 to 6 of them"},
-        {lblSystemsTitle, "The systems behind the fix"},
-        {lblGNSS_Config, "The systems behind the fix"},
-        {lblTalkerTitle, "Talker of GNS"},
-        {lblGNSTalker, "Talker of GNS: GN unless exactly one system is in use"},
-        {cmdOK, "GNS changes with its next sentence"},
-        {cmdCancel, "GNS stays as it is"},
-    };
-    Show_Tips(Tips);
-}
 
 void ReArrange(frmGNSS& F) {
     F.lblGNSModeIndicator.Caption = Mode_Indicator(F);

@@ -59,8 +59,8 @@ void frmTCPIP_Load(Simulator& Sim, Form& Opened) {
     F.Set_Place(S.frmTCPIP_Left, S.frmTCPIP_Top, 7830, 1590);
     F.lblIP.Caption = Sim.Services.Local_IP();
     Show_Port(Sim, F);
-    Sim.Told.TCP.Add(F, [&Sim, &F](TCP_News News, int Element) { Follow(Sim, F, News, Element); });
-    F.On_Unload = [&Sim, &F] { Keep_Own_Place(Sim.State.Of<Link_State>(), F); };
+    Sim.Told.TCP.Add(F, [&](TCP_News News, int Element) { Follow(Sim, F, News, Element); });
+    F.On_Unload = [&] { Keep_Own_Place(S, F); };
 }
 
 void frmTCPIP_Shown(Simulator& Sim, Form& Opened) {
@@ -84,7 +84,6 @@ const Window_Class TCP_Status_Window{.Name = frmTCPIP::Class_Name,
 frmTCPIP::frmTCPIP(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Child) {
     Caption = "TCP/IP Status";
     cmbConnections.Visible = false;
-    cmbConnections.Tool_Tip = std::string("Clients since the start of the program");
     lblTX.Visible = false;
 }
 
