@@ -1,5 +1,5 @@
-#include "platform/trimmed.hpp"
 #include "automation/script.hpp"
+#include "platform/trimmed.hpp"
 
 #include "automation/core.hpp"
 #include "automation/methods.hpp"

@@ -50,8 +50,8 @@ class Control {
 
     // What a user does. The desktop calls these; they run the handlers as a hand on the control would.
     virtual void User_Click(Mouse_Button) {}
-    // Whether it would take this value, before anything moves: throws User_Refusal, and Value_Refusal when it is the
-    // value that it does not take.
+    // Whether it would take this value, before anything moves: throws User_Refusal, and Value_Refusal when it
+    // is the value that it does not take.
     virtual void Check(const Control_Value&) const { throw User_Refusal("This takes no value"); }
     virtual void User_Set(const Control_Value& V) { Check(V); }
     virtual Control_Value Current() const { return {}; }

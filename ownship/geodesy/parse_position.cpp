@@ -1,5 +1,5 @@
-#include "platform/trimmed.hpp"
 #include "ownship/geodesy/parse_position.hpp"
+#include "platform/trimmed.hpp"
 
 #include "ownship/geodesy/format_position.hpp"
 #include "ownship/geodesy/latin1.hpp"

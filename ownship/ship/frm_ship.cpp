@@ -297,7 +297,8 @@ const Window_Class Ship_Window{
               .In_Ship_Mode_Only = true},
     .Caption = "Ship Simulator",
     .Make = Make_Single<frmShip>,
-    .Load = Form_Load, .Lay_Out = Lay_Out_Ship,
+    .Load = Form_Load,
+    .Lay_Out = Lay_Out_Ship,
     // It exists in Ship mode only, but a list of windows that was kept in Sensor mode can name it.
     .May_Open = In_Ship_Mode};
 

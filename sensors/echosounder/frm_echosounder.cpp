@@ -105,7 +105,8 @@ const Window_Class Echosounder_Windows{
     .Entry = {.Name = "mnuOpenForm", .Menu = "Window", .Text = "Echosounder", .Place = 8},
     .Caption = "Echosounder #",
     .Make = Make_Instance<frmEchosounder>,
-    .Load = Load_Sensor<frmEchosounder, Form_Load>, .Lay_Out = Lay_Out_Echosounder,
+    .Load = Load_Sensor<frmEchosounder, Form_Load>,
+    .Lay_Out = Lay_Out_Echosounder,
     .Sentences = Rows,
     // The log of the same number, if it is open: this slip is required.
     .Focused_Instead = "frmLog"};

@@ -179,7 +179,8 @@ const Window_Class Log_Windows{.Name = frmLog::Class_Name,
                                .Entry = {.Name = "mnuOpenForm", .Menu = "Window", .Text = "Log", .Place = 6},
                                .Caption = "Log #",
                                .Make = Make_Instance<frmLog>,
-                               .Load = Load_Sensor<frmLog, Form_Load>, .Lay_Out = Lay_Out_Log,
+                               .Load = Load_Sensor<frmLog, Form_Load>,
+                               .Lay_Out = Lay_Out_Log,
                                .Sentences = Rows,
                                .Width = Width};
 

@@ -175,7 +175,8 @@ const Window_Class Wind_Windows{
     .Entry = {.Name = "mnuOpenForm", .Menu = "Window", .Text = "Wind Gauge", .Place = 10},
     .Caption = "Wind gauge #",
     .Make = Make_Instance<frmWind>,
-    .Load = Load_Sensor<frmWind, Form_Load>, .Lay_Out = Lay_Out_Wind,
+    .Load = Load_Sensor<frmWind, Form_Load>,
+    .Lay_Out = Lay_Out_Wind,
     .Sentences = Rows};
 
 void CalculateRelativeWind(Simulator& Sim, frmWind& W, int k) {
