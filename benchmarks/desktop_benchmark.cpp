@@ -52,9 +52,9 @@ void Tell(const std::string& Socket, const std::string& Words) {
     Require(std::system(Command.c_str()) == 0, "refused: " + Words);
 }
 
-// In virtual time, where the told waits take none, examples/sensor.ini with both windows: up to the answer to
-// a first question, which the event loop gives. Opening the links of the system adds what the headless
-// program needs for it, see Start.
+// In virtual time, where the required waits take none, examples/sensor.ini with both windows: up to the
+// answer to a first question, which the event loop gives. Opening the links of the system adds what the
+// headless program needs for it, see Start.
 void Desktop_Start(benchmark::State& State) {
     const Virtual_Display Display;
     const Scratch_Folder Folder;

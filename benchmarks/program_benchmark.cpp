@@ -6,7 +6,7 @@
 namespace brinewright {
 namespace {
 
-constexpr double Pacing_Limit_per_s = 500; // a told wait of 2 ms between two sentences
+constexpr double Pacing_Limit_per_s = 500; // a required wait of 2 ms between two sentences
 
 // Comes back with the number of sentences.
 std::int64_t Record_Virtual_Time(const Scratch_Folder& Folder, const fs::path& Setup, int Duration_s) {
@@ -96,9 +96,9 @@ BENCHMARK(Guarded<Tick_Lateness_Of_All_Sensors>)
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);
 
-// A start on real links without its told waits, in two parts: once in real time with no window open, up to
-// the line that says that it runs; once in virtual time, where the waits take none, with its windows, up to
-// the end of the program. Their sum counts much twice and is more than a start takes.
+// A start on real links without its required waits, in two parts: once in real time with no window open, up
+// to the line that says that it runs; once in virtual time, where the waits take none, with its windows, up
+// to the end of the program. Their sum counts much twice and is more than a start takes.
 void Start(benchmark::State& State) {
     const Scratch_Folder Folder;
     const std::string Setup_File =

@@ -1,9 +1,18 @@
+# Several sources of a folder are compiled as one, which takes half the time. Layouts stand alone: their short words (Row, Column,
+# Fields) are taken by others too.
+function(brinewright_unity Name Folder)
+  set_target_properties(${Name} PROPERTIES UNITY_BUILD ${BRINEWRIGHT_UNITY} UNITY_BUILD_BATCH_SIZE 8)
+  file(GLOB Layouts ${CMAKE_SOURCE_DIR}/${Folder}/*layout*.cpp)
+  set_source_files_properties(${Layouts} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 # A library of this tree: every source of its folder, warnings on, headers found from the root.
 function(brinewright_library Name Folder)
   file(GLOB Sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${Folder}/*.cpp)
   if(Sources)
     add_library(${Name} STATIC ${Sources})
     target_link_libraries(${Name} PUBLIC brinewright_options ${ARGN})
+    brinewright_unity(${Name} ${Folder})
   else() # records only
     add_library(${Name} INTERFACE)
     target_link_libraries(${Name} INTERFACE brinewright_options ${ARGN})

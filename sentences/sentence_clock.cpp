@@ -22,14 +22,14 @@ std::size_t Group_Size(std::string_view Pattern) {
 }
 
 // The part of the date that a group of Letter stands for; nullptr when it is text to be copied.
-const int* Find_Part(const Calendar_Time& Time, char Letter, bool Is_Behind_Hour) {
+const int* Find_Part(const Calendar_Time& When, char Letter, bool Is_Behind_Hour) {
     switch (Letter) {
-    case 'y': return &Time.Year;
-    case 'm': return Is_Behind_Hour ? &Time.Minute : &Time.Month;
-    case 'd': return &Time.Day;
-    case 'h': return &Time.Hour;
-    case 'n': return &Time.Minute;
-    case 's': return &Time.Second;
+    case 'y': return &When.Year;
+    case 'm': return Is_Behind_Hour ? &When.Minute : &When.Month;
+    case 'd': return &When.Day;
+    case 'h': return &When.Hour;
+    case 'n': return &When.Minute;
+    case 's': return &When.Second;
     default: return nullptr;
     }
 }
@@ -41,13 +41,13 @@ Calendar_Time Split_Time(std::int64_t Local_us) {
     const sys_time<microseconds> Moment{microseconds{Local_us}};
     const auto Midnight = floor<days>(Moment);
     const year_month_day Date{Midnight};
-    const hh_mm_ss<seconds> Time{floor<seconds>(Moment - Midnight)};
+    const hh_mm_ss<seconds> Day_Time{floor<seconds>(Moment - Midnight)};
     return {int{Date.year()},
             static_cast<int>(unsigned{Date.month()}),
             static_cast<int>(unsigned{Date.day()}),
-            static_cast<int>(Time.hours().count()),
-            static_cast<int>(Time.minutes().count()),
-            static_cast<int>(Time.seconds().count())};
+            static_cast<int>(Day_Time.hours().count()),
+            static_cast<int>(Day_Time.minutes().count()),
+            static_cast<int>(Day_Time.seconds().count())};
 }
 
 void Append_Dot(std::string& Out, const Calendar_Time& Time, std::string_view Pattern) {

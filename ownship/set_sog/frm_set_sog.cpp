@@ -1,7 +1,6 @@
 #include "ownship/set_sog/frm_set_sog.hpp"
 
 #include "ownship/navdata_state.hpp"
-#include "ownship/ship/frm_ship.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/control_text.hpp"
 #include "shell/state/simulator.hpp"
@@ -47,18 +46,16 @@ void cmdOK_Click(Simulator& Sim, frmSetSOG& F) {
     Navdata_State& N = Sim.State.Of<Navdata_State>();
     N.Nav_SOG = Number_Shown(F.txtSOG.Text());
     N.Nav_HDG = Val_Dot(F.txtCOG.Text());
-    if (auto* const Ship = Open_One<frmShip>(Sim)) {
-        Ship->sldThrottle.Set_Value(Throttle_Place(Sim.State, *Ship));
-        Show_SOG(*Ship, N.Nav_SOG, "0.0"); // a slider that stayed has not written it
-    }
+    Sim.Told.Ship_Speed.Tell();
     Sim.Windows.Unload(F);
 }
 
 void frmSetSOG_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmSetSOG&>(Opened);
-    const frmShip& W = *Open_One<frmShip>(Sim);
+    const Form* const Ship = Open_Form(Sim, "frmShip");
     const Navdata_State& N = Sim.State.Of<Navdata_State>();
-    F.Set_Place(W.Left + Place_Left, W.Top + Place_Top, Form_Width, Form_Height);
+    F.Set_Place((Ship ? Ship->Left : 0) + Place_Left, (Ship ? Ship->Top : 0) + Place_Top, Form_Width,
+                Form_Height);
     F.txtSOG.Set_Text(Format_Dot(N.Nav_SOG, SOG_Pattern));
     F.txtCOG.Set_Text(Format_Dot(N.Nav_COG, COG_Pattern));
     F.txtSOG.Lost_Focus = [&] { txtSOG_LostFocus(Sim, F); };

@@ -2,7 +2,6 @@
 
 #include "ownship/geodesy/position_text.hpp"
 #include "ownship/navdata_state.hpp"
-#include "ownship/ship/frm_ship.hpp"
 #include "sensors/gyro/gyro_state.hpp"
 #include "sensors/log/log_state.hpp"
 #include "sentences/number_pattern.hpp"
@@ -156,7 +155,7 @@ void cmdApply_Click(Simulator& Sim, frmShipSetup& F) {
     for (const Zone& Z : Zones) Take_Zone(S, F, Z);
     Take_List_Place(F.cmbGNSS2OffsetSeconds, S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds);
     For_Each_Offset(S, F, [](Text_Box& Box, auto& Value, const char*) { Take_Number(Box, Value); });
-    if (auto* const Ship = Open_One<frmShip>(Sim)) Show_Rudder_Range(S, *Ship);
+    Sim.Told.Ship_Limits.Tell();
     S.Of<UTC_State>().Use_UTC = F.chkUseUTC.Value();
 }
 

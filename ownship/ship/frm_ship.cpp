@@ -236,6 +236,12 @@ void Form_Load(Simulator& Sim, Form& Opened) {
     }
     Normalise_Navdata(S);
     Show_Rudder_Range(S, W);
+    Sim.Told.Ship_Limits.Add(W, [&] { Show_Rudder_Range(S, W); });
+    Sim.Told.Ship_Speed.Add(W, [&] {
+        W.sldThrottle.Set_Value(Throttle_Place(S, W));
+        // A slider that stayed has not written it.
+        Show_SOG(W, S.Of<Navdata_State>().Nav_SOG, "0.0");
+    });
     Wire_Controls(Sim, W);
     Wire_Ship_Keyboard(Sim, W);
     Show_State(S, W);

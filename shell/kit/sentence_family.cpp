@@ -23,7 +23,7 @@ constexpr double ms_Per_Second = 1000;
 
 float Time_Of_Day_s(Timer_Queue& Timers) { return brinewright::Time_Of_Day_s(Timers.Time.Local_us()); }
 
-// The told wait ends when the clock of seconds since midnight, a 32-bit float, has moved by more than the
+// The wait ends when the clock of seconds since midnight, a 32-bit float, has moved by more than the
 // stagger; the absolute difference ends it at midnight too. That float moves in steps of up to 1/128 s, so
 // the wait is mostly one spin of the stagger and then a few small ones until the float shows it.
 void Wait_Stagger(Timer_Queue& Timers, float Stagger_s) {

@@ -53,6 +53,8 @@ struct Reports {
     Listeners<> Windows;                         // one has opened or closed
     Listeners<> Links_Chosen;                    // other links are in use, or have other numbers
     Listeners<int> Panel;                        // the panel of a serial port has changed in the state
+    Listeners<> Ship_Speed;                      // the ship has another speed than its window set
+    Listeners<> Ship_Limits;                     // its limits have changed
     Listeners<TCP_News, int> TCP;                // with the element of the history that changed, from 0
 };
 

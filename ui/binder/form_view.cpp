@@ -147,7 +147,7 @@ QLineEdit* Form_View::Make(Text_Box& C) {
         W->setReadOnly(C.Read_Only);
         if (W->text() != To_Screen(C.Text())) W->setText(To_Screen(C.Text()));
         if (std::exchange(Selections, *C.Select_All_Count) != *C.Select_All_Count) W->selectAll();
-        // The told widths are for a narrower face than ours.
+        // The required widths are for a narrower face than ours.
         if (*C.Width != 0) W->setFixedWidth(*C.Width * 4 / 3 / Twips_Per_Pixel);
     });
     connect(W, &QLineEdit::textEdited, this, [this, &C](const QString& Text) {

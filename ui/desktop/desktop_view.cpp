@@ -310,7 +310,7 @@ void Desktop_View::Place_From_Model() {
     QSize Wanted(static_cast<int>(F.Width) / Twips_Per_Pixel, static_cast<int>(F.Height) / Twips_Per_Pixel);
     QPoint Corner(static_cast<int>(F.Left) / Twips_Per_Pixel, static_cast<int>(F.Top) / Twips_Per_Pixel);
     const QRect Screen = screen()->availableGeometry();
-    // The told first place is too small to hold a window; the first start takes a bench display's share
+    // The required first place is too small to hold a window; the first start takes a bench display's share
     // instead.
     constexpr QSize Least(640, 480);
     if (Wanted != Wanted.expandedTo(Least)) Wanted = QSize(1340, 740);
