@@ -1,6 +1,6 @@
 // Every control of every window has its place, and one only.
 
-#include "shell/layouts.hpp"
+#include "shell/kit/layout.hpp"
 #include "tests/support/all_windows.hpp"
 
 #include <map>
@@ -8,18 +8,18 @@
 namespace brinewright {
 namespace {
 
-struct Layouts : All_Windows, testing::TestWithParam<const char*> {};
+struct Layouts : Every_Window, testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(Mode, Layouts, testing::Values("Sensor", "Ship"),
                          [](const auto& Info) { return std::string(Info.param); });
 
 TEST_P(Layouts, Place_Every_Control_Once) {
     Start(Full_Setup(GetParam()));
-    Open_All_Windows();
+    Open_Every_Window();
     for (const auto& F : Sim.Windows.Forms) {
-        const Layout_Function Lay_Out = Find_Layout(F->Name);
-        if (!Lay_Out) continue;
+        const Window_Class* const Class = Find_Class(Sim, F->Name);
+        if (!Class || !Class->Lay_Out) continue;
         std::map<const Control*, int> Places;
-        For_Each_Placed(Lay_Out(Sim, *F), [&](const Visible_Control& C) {
+        For_Each_Placed(Class->Lay_Out(Sim, *F), [&](const Visible_Control& C) {
             EXPECT_EQ(&C.Owner, F.get()) << F->Path() << " has " << C.Owner.Path() << "." << C.Path();
             ++Places[&C];
         });
