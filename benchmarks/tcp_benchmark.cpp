@@ -6,6 +6,7 @@
 #include "links/tcp_server.hpp"
 #include "platform_linux/unique_fd.hpp"
 #include "platform_qt/qt_platform.hpp"
+#include "shell/main/frm_main.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/simulator.hpp"
 
@@ -230,7 +231,8 @@ void One_Sentence_To_200_Clients(benchmark::State& State) {
     Qt_Platform_Options World_Options;
     World_Options.Settings_File = Folder.filePath("settings.ini").toStdString();
     Qt_Platform World(World_Options);
-    Simulator Sim(World, {}, {}); // without windows
+    const std::unique_ptr<Simulator> Made = Make_Simulator(World, {});
+    Simulator& Sim = *Made;
     Sim.State.Of<Link_State>().TCP_Port = Free_Port();
     TCP_Listen(Sim);
     std::uint16_t Bare_Port = 0;

@@ -23,7 +23,7 @@ endfunction()
 function(brinewright_ui_library Name Folder)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
   brinewright_library(${Name} ${Folder} ${ARGN} Qt6::Widgets)
-  set_target_properties(${Name} PROPERTIES AUTOMOC ON)
+  set_target_properties(${Name} PROPERTIES AUTOMOC ON UNITY_BUILD OFF) # instruments share the names of their sizes
   target_compile_definitions(${Name} PUBLIC QT_NO_KEYWORDS)
   # The toolkit's headers come with conversions of their own.
   target_include_directories(${Name} SYSTEM PUBLIC ${Qt6Widgets_INCLUDE_DIRS})

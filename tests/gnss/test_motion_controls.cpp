@@ -1,7 +1,7 @@
 // Speed and course: bars, boxes and arrow keys.
 
-#include "gnss_bench.hpp"
 #include "gnss/gnss_state.hpp"
+#include "gnss_bench.hpp"
 
 #include <limits>
 

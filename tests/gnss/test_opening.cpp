@@ -1,10 +1,10 @@
 // Opening and closing of a GNSS window: staggers, modes, widths, and settings that no list has.
 
-#include "gnss_bench.hpp"
 #include "gnss/gnss_state.hpp"
+#include "gnss_bench.hpp"
+#include "ownship/navdata_state.hpp"
 #include "shell/state/iec450_state.hpp"
 #include "shell/state/link_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "shell/state/shell_state.hpp"
 
 #include <array>
@@ -16,36 +16,32 @@ namespace {
 
 struct Told_Sentence {
     const char* Type;
-    Check_Box frmPosition::*Box;
-    Combo_Box frmPosition::*List;
-    Timer frmPosition::*Clock;
-    Per_Instance<bool> Message_State::*Enabled;
-    Per_Instance<std::int16_t> Message_State::*Interval;
+    Per_Instance<bool> GNSS_State::*Enabled;
+    Per_Instance<std::int16_t> GNSS_State::*Interval;
     double Stagger_s;
     std::int16_t Two_Second_Entry;
     int Default_Entry;
 };
 
 using P = frmPosition;
-using S = Message_State;
 const std::array<Told_Sentence, 10> Told{{
-    {"GGA", &P::chkGGA, &P::cmbGGAInterval, &P::timer_GGA, &GNSS_State::GGA_Enabled, &GNSS_State::GGA_Interval, 0.15, 3, 2},
-    {"VTG", &P::chkVTG, &P::cmbVTGInterval, &P::timer_VTG, &GNSS_State::VTG_Enabled, &GNSS_State::VTG_Interval, 0.1, 3, 2},
-    {"GLL", &P::chkGLL, &P::cmbGLLInterval, &P::timer_GLL, &GNSS_State::GLL_Enabled, &GNSS_State::GLL_Interval, 0.15, 1, 0},
-    {"RMC", &P::chkRMC, &P::cmbRMCInterval, &P::timer_RMC, &GNSS_State::RMC_Enabled, &GNSS_State::RMC_Interval, 0.1, 3, 2},
-    {"ZDA", &P::chkZDA, &P::cmbZDAInterval, &P::timer_ZDA, &GNSS_State::ZDA_Enabled, &GNSS_State::ZDA_Interval, 0.1, 1, 5},
-    {"GNS", &P::chkGNS, &P::cmbGNSInterval, &P::timer_GNS, &GNSS_State::GNS_Enabled, &GNSS_State::GNS_Interval, 0.15, 3, 2},
-    {"DTM", &P::chkDTM, &P::cmbDTMInterval, &P::timer_DTM, &GNSS_State::DTM_Enabled, &GNSS_State::DTM_Interval, 0.15, 1, 5},
-    {"GSA", &P::chkGSA, &P::cmbGSAInterval, &P::timer_GSA, &GNSS_State::GSA_Enabled, &GNSS_State::GSA_Interval, 0.15, 1, 5},
-    {"GSV", &P::chkGSV, &P::cmbGSVInterval, &P::timer_GSV, &GNSS_State::GSV_Enabled, &GNSS_State::GSV_Interval, 0.15, 1, 5},
-    {"GST", &P::chkGST, &P::cmbGSTInterval, &P::timer_GST, &GNSS_State::GST_Enabled, &GNSS_State::GST_Interval, 0.15, 3, 7},
+    {"GGA", &GNSS_State::GGA_Enabled, &GNSS_State::GGA_Interval, 0.15, 3, 2},
+    {"VTG", &GNSS_State::VTG_Enabled, &GNSS_State::VTG_Interval, 0.1, 3, 2},
+    {"GLL", &GNSS_State::GLL_Enabled, &GNSS_State::GLL_Interval, 0.15, 1, 0},
+    {"RMC", &GNSS_State::RMC_Enabled, &GNSS_State::RMC_Interval, 0.1, 3, 2},
+    {"ZDA", &GNSS_State::ZDA_Enabled, &GNSS_State::ZDA_Interval, 0.1, 1, 5},
+    {"GNS", &GNSS_State::GNS_Enabled, &GNSS_State::GNS_Interval, 0.15, 3, 2},
+    {"DTM", &GNSS_State::DTM_Enabled, &GNSS_State::DTM_Interval, 0.15, 1, 5},
+    {"GSA", &GNSS_State::GSA_Enabled, &GNSS_State::GSA_Interval, 0.15, 1, 5},
+    {"GSV", &GNSS_State::GSV_Enabled, &GNSS_State::GSV_Interval, 0.15, 1, 5},
+    {"GST", &GNSS_State::GST_Enabled, &GNSS_State::GST_Interval, 0.15, 3, 7},
 }};
 
 void Enable(GNSS_Bench& Bench, int Instance, const std::string& Types, bool Two_Seconds) {
     for (const Told_Sentence& T : Told) {
         if (Types.find(T.Type) == std::string::npos) continue;
-        (Bench.Sim.State.*T.Enabled)[Instance] = true;
-        if (Two_Seconds) (Bench.Sim.State.*T.Interval)[Instance] = T.Two_Second_Entry;
+        (Bench.Sim.State->*T.Enabled)[Instance] = true;
+        if (Two_Seconds) (Bench.Sim.State->*T.Interval)[Instance] = T.Two_Second_Entry;
     }
 }
 
@@ -65,7 +61,8 @@ TEST(GNSS_Opening, Staggers_Each_Enabled_Sentence_But_The_First) {
                 Ticks.push_back({&T, {}});
             }
         EXPECT_NEAR(static_cast<double>(Bench.Now_us()) / 1e6, Opened_s, 50e-6) << Types;
-        for (auto& Row : Ticks) (W.*Row.first->Clock).Tick = [&] { Row.second.push_back(Bench.Now_us()); };
+        for (auto& Row : Ticks)
+            W.Sentences[Row.first->Type].Clock.Tick = [&] { Row.second.push_back(Bench.Now_us()); };
         Bench.Run_To(9.5);
         double Start_s = 0;
         for (const auto& [T, Times_us] : Ticks) {
@@ -87,7 +84,7 @@ TEST(GNSS_Opening, Staggers_By_The_32_Bit_Clock_In_The_Evening_And_Over_Midnight
     frmPosition& W = Bench.Open();
     std::vector<std::int64_t> Starts_us;
     for (const Told_Sentence& T : Told)
-        (W.*T.Clock).Tick = [&] { Starts_us.push_back(Bench.Now_us() - 2 * us_Per_Second); };
+        W.Sentences[T.Type].Clock.Tick = [&] { Starts_us.push_back(Bench.Now_us() - 2 * us_Per_Second); };
     Bench.Run_To(3.5);
     ASSERT_EQ(Starts_us.size(), Told.size());
     for (std::size_t I = 1; I < Told.size(); ++I) {
@@ -109,13 +106,13 @@ TEST(GNSS_Opening, A_Sentence_Starts_Without_START_And_A_Box_Ticked_Later_Withou
     frmPosition& W = Bench.Open();
     Bench.Run_To(5);
     EXPECT_TRUE(Bench.Sent.empty());
-    Bench.Click(W.chkGGA);
-    Bench.Click(W.chkVTG);
+    Bench.Click(W.Sentences["GGA"].Box);
+    Bench.Click(W.Sentences["VTG"].Box);
     EXPECT_EQ(Bench.Now_us(), 5'000'000);
     Bench.Run_To(6.5);
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[0].Time_us, 6'000'000);
-    Bench.Click(W.chkGGA);
+    Bench.Click(W.Sentences["GGA"].Box);
     EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().GGA_Enabled[1]);
     Bench.Run_To(8.5);
     EXPECT_EQ(Bench.Texts("GGA").size(), 1U);
@@ -133,18 +130,18 @@ TEST(GNSS_Opening, Fills_The_Lists_And_Restores_The_Settings) {
     EXPECT_EQ(W.txtTalker.Text(), "GL");
     EXPECT_EQ(W.cmbDecimals.Text(), " 6");
     EXPECT_EQ(W.cmbDecimalsTime.Text(), " 2");
-    EXPECT_EQ(W.cmbGGAInterval.Text(), "60 sec");
-    EXPECT_EQ(W.cmbVTGInterval.Text(), " 1 sec");
-    EXPECT_EQ(W.cmbZDAInterval.Items()[0].Text, " 1sec");
-    EXPECT_EQ(W.cmbGSTInterval.Items()[2].Text, " 1sec");
-    EXPECT_EQ(W.cmbGLLInterval.Items().size(), 8U);
+    EXPECT_EQ(W.Sentences["GGA"].Interval_List.Text(), "60 sec");
+    EXPECT_EQ(W.Sentences["VTG"].Interval_List.Text(), " 1 sec");
+    EXPECT_EQ(W.Sentences["ZDA"].Interval_List.Items()[0].Text, " 1sec");
+    EXPECT_EQ(W.Sentences["GST"].Interval_List.Items()[2].Text, " 1sec");
+    EXPECT_EQ(W.Sentences["GLL"].Interval_List.Items().size(), 8U);
     EXPECT_EQ(W.cmbComPort.Text(), "UDP 60002");
     EXPECT_EQ(W.cmbNoise.Items().size(), 20U);
     EXPECT_EQ(W.cmbNoise.Items()[16].Text, " 16 m");
     EXPECT_EQ(W.cmbNoise.Items()[19].Text, "100 m");
     for (const Told_Sentence& T : Told)
         if (T.Interval != &GNSS_State::GGA_Interval) {
-            EXPECT_EQ((W.*T.List).List_Index(), T.Default_Entry) << T.Type;
+            EXPECT_EQ(W.Sentences[T.Type].Interval_List.List_Index(), T.Default_Entry) << T.Type;
         }
     EXPECT_TRUE(W.chkFixOffset.Visible);
     EXPECT_FALSE(Bench.Open(1).chkFixOffset.Visible);
@@ -161,15 +158,15 @@ TEST(GNSS_Opening, Width_Reaches_To_The_Last_Enabled_Data_Frame) {
     frmPosition& W = Bench.Open();
     const int GGA = *W.frmGGA.Width, GSA = *W.frmGSA.Width, GSV = *W.frmGSV.Width, GST = *W.frmGST.Width;
     EXPECT_EQ(W.Width, static_cast<float>(GGA + 300));
-    Bench.Click(W.chkGSV);
+    Bench.Click(W.Sentences["GSV"].Box);
     EXPECT_EQ(W.Width, static_cast<float>(GGA + GSA + GSV + 200));
-    Bench.Click(W.chkGST);
+    Bench.Click(W.Sentences["GST"].Box);
     EXPECT_EQ(W.Width, static_cast<float>(GGA + GSA + GSV + GST + 200));
-    Bench.Click(W.chkGST);
-    Bench.Click(W.chkGSV);
-    Bench.Click(W.chkGSA);
+    Bench.Click(W.Sentences["GST"].Box);
+    Bench.Click(W.Sentences["GSV"].Box);
+    Bench.Click(W.Sentences["GSA"].Box);
     EXPECT_EQ(W.Width, static_cast<float>(GGA + GSA + 200));
-    Bench.Click(W.chkGGA);
+    Bench.Click(W.Sentences["GGA"].Box);
     EXPECT_EQ(W.Width, static_cast<float>(GGA + GSA + 200));
 }
 
@@ -188,7 +185,8 @@ TEST(GNSS_Opening, Ship_Mode_Leaves_The_Sentences_Alone) {
     for (Control* Hidden :
          std::initializer_list<Control*>{&W.cmdStart, &W.txtLat, &W.scrSOG, &W.chkFixOffset})
         EXPECT_THROW(Bench.Click(*Hidden), User_Refusal) << Hidden->Path();
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[2], 12.34F) << "showing the ship's speed must not write it";
+    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[2], 12.34F)
+        << "showing the ship's speed must not write it";
     EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[2], 359.99F);
     Bench.Run_To(3.5);
     EXPECT_EQ(Bench.Sent.size(), 3U);
@@ -201,8 +199,9 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
          {std::int16_t{-1}, std::int16_t{10}, std::int16_t{32767}, std::int16_t{-32768}}) {
         GNSS_Bench Bench;
         Simulator_State& State = Bench.Sim.State;
-        for (const Told_Sentence& T : Told) (State.*T.Interval)[1] = Garbage;
-        State.Of<GNSS_State>().GNSS_Decimals_Position[1] = State.Of<GNSS_State>().GNSS_Decimals_Time[1] = Garbage;
+        for (const Told_Sentence& T : Told) (State->*T.Interval)[1] = Garbage;
+        State.Of<GNSS_State>().GNSS_Decimals_Position[1] = State.Of<GNSS_State>().GNSS_Decimals_Time[1] =
+            Garbage;
         State.Of<GNSS_State>().GNSS_Noise_Index[1] = static_cast<std::int16_t>(Garbage == 10 ? 20 : Garbage);
         const std::int16_t No_Such_Port = Garbage == 10 ? std::int16_t{100} : Garbage;
         State.Of<Link_State>().Sensor_Table[1].Port = No_Such_Port;
@@ -219,8 +218,8 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
         frmPosition& W = Bench.Open();
         EXPECT_EQ(Bench.Last_Box(), "");
         for (const Told_Sentence& T : Told) {
-            EXPECT_EQ((W.*T.List).List_Index(), T.Default_Entry) << T.Type;
-            EXPECT_EQ((State.*T.Interval)[1], T.Default_Entry) << T.Type;
+            EXPECT_EQ(W.Sentences[T.Type].Interval_List.List_Index(), T.Default_Entry) << T.Type;
+            EXPECT_EQ((State->*T.Interval)[1], T.Default_Entry) << T.Type;
         }
         EXPECT_EQ(State.Of<GNSS_State>().GNSS_Decimals_Position[1], 4);
         EXPECT_EQ(State.Of<GNSS_State>().GNSS_Decimals_Time[1], 0);
@@ -241,23 +240,21 @@ TEST(GNSS_Opening, Stored_Garbage_Becomes_The_Default_And_Never_Fails) {
 
 TEST(GNSS_Opening, An_Index_Without_A_Window_Is_Told_And_Leaves_Nothing) {
     GNSS_Bench Bench;
-    for (const std::int16_t Index : {std::int16_t{0}, std::int16_t{3}, std::int16_t{-7}}) {
-        Bench.Sim.State.Of<Shell_State>().Open_Form_Index = Index;
-        EXPECT_THROW(Load_frmPosition(Bench.Sim), Run_Time_Error);
-    }
-    EXPECT_FALSE(Bench.Sim.frmPosition_Instance[1]);
-    EXPECT_FALSE(Bench.Sim.frmPosition_Instance[2]);
+    for (const int Instance : {0, 3, -7})
+        EXPECT_THROW(Open_Window(Bench.Sim, "frmPosition", Instance), Run_Time_Error);
+    EXPECT_FALSE(Open_One<frmPosition>(Bench.Sim, 1));
+    EXPECT_FALSE(Open_One<frmPosition>(Bench.Sim, 2));
 }
 
 TEST(GNSS_Opening, Closing_Stops_The_Sentences_And_Keeps_Place_And_Settings) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    Bench.Click(W.chkGGA);
+    Bench.Click(W.Sentences["GGA"].Box);
     Bench.Type(W.txtSOG, "12.5");
     W.Set_Place(100, 200, 7000, 8000);
     Bench.Close();
-    EXPECT_FALSE(Bench.Sim.frmPosition_Instance[1]);
-    EXPECT_FALSE(*Bench.Sim.Main->mnuOpenForm_Items[1].Checked);
+    EXPECT_FALSE(Open_One<frmPosition>(Bench.Sim, 1));
+    EXPECT_FALSE(*Main_Window(Bench.Sim).Item("mnuOpenForm", 1).Checked);
     Bench.Run_To(5);
     EXPECT_TRUE(Bench.Sent.empty());
     const Open_Form_Entry& Place = Bench.Sim.State.Of<Shell_State>().Open_Form_List[1];
@@ -282,7 +279,7 @@ TEST(GNSS_Opening, Closing_With_A_Full_List_Of_Places_Is_Told_And_Closes_All_The
     Bench.Close();
     EXPECT_EQ(Bench.Last_Box(), "Subscript out of range");
     Bench.Sim.Windows.Boxes.Answer(1);
-    EXPECT_FALSE(Bench.Sim.frmPosition_Instance[1]);
+    EXPECT_FALSE(Open_One<frmPosition>(Bench.Sim, 1));
     EXPECT_EQ(Bench.Sim.Windows.Find_Form("frmPosition[1]"), nullptr);
     Bench.Run_For(3);
     EXPECT_TRUE(Bench.Sent.empty());
@@ -292,9 +289,11 @@ TEST(GNSS_Opening, The_Port_List_Follows_The_Links_And_Its_Choice_Routes_The_Sen
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
     Simulator_State& State = Bench.Sim.State;
-    for (const int Port : {3, 16, 17}) State.Of<Link_State>().Port_Table[Port].Present = State.Of<Link_State>().Port_Table[Port].Enabled = true;
+    for (const int Port : {3, 16, 17})
+        State.Of<Link_State>().Port_Table[Port].Present = State.Of<Link_State>().Port_Table[Port].Enabled =
+            true;
     State.Of<Link_State>().Port_Table[4].Present = true;
-    Rebuild_Port_List(Bench.Sim, W);
+    Bench.Sim.Told.Links_Chosen.Tell();
     std::vector<std::string> Names;
     for (const auto& Item : W.cmbComPort.Items())
         Names.push_back(Item.Text + "=" + std::to_string(Item.Data));
@@ -303,12 +302,12 @@ TEST(GNSS_Opening, The_Port_List_Follows_The_Links_And_Its_Choice_Routes_The_Sen
     EXPECT_EQ(W.cmbComPort.Text(), "UDP 60001");
     W.cmbComPort.Set_List_Index(4);
     EXPECT_EQ(State.Of<Link_State>().Sensor_Table[1].Port, 19);
-    Bench.Click(W.chkGGA);
+    Bench.Click(W.Sentences["GGA"].Box);
     Bench.Run_To(1.5);
     ASSERT_EQ(Bench.Sent.size(), 1U);
     EXPECT_EQ(Bench.Sent[0].Port, 19);
     State.Of<Link_State>().Port_Table[19].Enabled = false;
-    Rebuild_Port_List(Bench.Sim, W);
+    Bench.Sim.Told.Links_Chosen.Tell();
     EXPECT_EQ(W.cmbComPort.List_Index(), -1);
     EXPECT_EQ(State.Of<Link_State>().Sensor_Table[1].Port, 19);
 }

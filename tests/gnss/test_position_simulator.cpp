@@ -1,7 +1,7 @@
 // The position of a GNSS window: steps, noise, held offset and the position boxes.
 
-#include "gnss_bench.hpp"
 #include "gnss/gnss_state.hpp"
+#include "gnss_bench.hpp"
 #include "shell/state/shell_state.hpp"
 
 #include <cmath>
@@ -46,7 +46,9 @@ Point Metres_Between(Point From, Point To) {
 Point True_Position(const GNSS_Bench& B, int I = 1) {
     return {B.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Start_Lon[I]};
 }
-Point Reported(const GNSS_Bench& B, int I = 1) { return {B.Sim.State.Of<GNSS_State>().GNSS_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Lon[I]}; }
+Point Reported(const GNSS_Bench& B, int I = 1) {
+    return {B.Sim.State.Of<GNSS_State>().GNSS_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Lon[I]};
+}
 
 frmPosition& Start_At(GNSS_Bench& Bench, Point At, float SOG, float COG, std::int16_t I = 1) {
     Bench.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I] = At.Lat;
@@ -167,7 +169,8 @@ TEST(Position_Simulator, Noise_Accumulates_Only_When_Asked_And_A_Seed_Repeats_It
 
 TEST(Position_Simulator, Noise_Controls) {
     GNSS_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Enabled[2] = Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Accumulated[2] = true;
+    Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Enabled[2] =
+        Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Accumulated[2] = true;
     Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Index[2] = 18;
     frmPosition& W = Bench.Open(2);
     EXPECT_TRUE(W.chkNoise.Value());

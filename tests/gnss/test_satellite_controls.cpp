@@ -1,7 +1,7 @@
 // The boxes of the satellites, their number, those in view and the table: who drives whom.
 
-#include "gnss_bench.hpp"
 #include "gnss/gnss_state.hpp"
+#include "gnss_bench.hpp"
 
 namespace brinewright {
 namespace {
@@ -85,9 +85,9 @@ TEST(GNSS_Satellite_Controls, The_Number_Takes_The_Lowest_Free_And_Gives_Up_The_
     Choose(Bench, W.cmbSats, 0);
     EXPECT_EQ(Checked(W), Ints{});
     EXPECT_EQ(W.hfgGSV.Rows(), 0);
-    Tick(Bench, W.timer_GSV);
+    Tick(Bench, W.Sentences["GSV"].Clock);
     EXPECT_TRUE(Bench.Sent.empty());
-    Tick(Bench, W.timer_GSA);
+    Tick(Bench, W.Sentences["GSA"].Clock);
     EXPECT_EQ(Bench.Sent.at(0).Text, Framed("GPGSA,A,3,,,,,,,,,,,,,2.6,1.4,2.2"));
 }
 
@@ -96,7 +96,8 @@ TEST(GNSS_Satellite_Controls, The_Boxes_Set_The_Number_And_The_Lists) {
     frmPosition& W = Bench.Open();
     Choose(Bench, W.cmbInView, 20);
     for (Check_Box* Box : {&W.chkGLSv[1], &W.chkWAASSv[0], &W.chkWAASSv[2], &W.chkSv[1]}) Bench.Click(*Box);
-    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_Use), (Ints{1, 3, 6, 8, 12, 19, 24, 25, 32, 33, 44, 65}));
+    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_Use),
+              (Ints{1, 3, 6, 8, 12, 19, 24, 25, 32, 33, 44, 65}));
     EXPECT_EQ(Numbers_In_Table(W), "01 03 06 08 12 19 24 25 32 120 131 GL01 ");
     EXPECT_EQ(W.cmbSats.Text(), "12");
     EXPECT_EQ(W.cmbInView.Text(), "12") << "as many in view as in use again";
@@ -106,14 +107,14 @@ TEST(GNSS_Satellite_Controls, The_Boxes_Set_The_Number_And_The_Lists) {
     Bench.Click(W.chkGLSv[24]);
     EXPECT_TRUE(*W.lblGSAWarning.Visible);
     EXPECT_EQ(W.cmbSats.Text(), "13");
-    Tick(Bench, W.timer_GSA);
+    Tick(Bench, W.Sentences["GSA"].Clock);
     EXPECT_EQ(Bench.Sent.at(0).Text, Framed("GPGSA,A,3,1,3,6,8,12,19,24,25,32,120,131,65,2.6,1.4,2.2"));
-    Tick(Bench, W.timer_GSV);
+    Tick(Bench, W.Sentences["GSV"].Clock);
     ASSERT_EQ(Bench.Sent.size(), 4U);
     EXPECT_EQ(Bench.Sent[2].Text.substr(0, 19), "$GPGSV,4,3,13,32,0,");
     EXPECT_NE(Bench.Sent[2].Text.find(",120,"), std::string::npos);
     EXPECT_EQ(Bench.Sent[3].Text.substr(0, 17), "$GPGSV,4,4,13,88,");
-    Tick(Bench, W.timer_GGA);
+    Tick(Bench, W.Sentences["GGA"].Clock);
     EXPECT_NE(Bench.Sent.at(0).Text.find(",1,13,1.4,"), std::string::npos);
     Bench.Click(W.chkSv[1]);
     EXPECT_FALSE(*W.lblGSAWarning.Visible);
@@ -128,7 +129,8 @@ TEST(GNSS_Satellite_Controls, In_View_Adds_Free_GPS_Satellites_And_Refuses_Fewer
     EXPECT_EQ(Numbers_In_Table(W), "03 06 08 12 19 24 25 32 01 02 ");
     EXPECT_EQ(W.hfgGSV.At(7, 0).Colour, Ink::Black);
     EXPECT_EQ(W.hfgGSV.At(8, 0).Colour, Ink::Red);
-    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_View).size(), 24U) << "all free ones, not just two";
+    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_View).size(), 24U)
+        << "all free ones, not just two";
     EXPECT_TRUE(Bench.Sim.State.Of<GNSS_State>().Sky_Table[31].In_View);
     Choose(Bench, W.cmbInView, 20);
     EXPECT_EQ(*W.hfgGSV.Width, 2350);
@@ -145,7 +147,7 @@ TEST(GNSS_Satellite_Controls, In_View_Adds_Free_GPS_Satellites_And_Refuses_Fewer
     EXPECT_EQ(W.hfgGSV.At(31, 0).Text, "31");
     EXPECT_EQ(W.hfgGSV.At(33, 0).Text, "00");
     EXPECT_EQ(W.hfgGSV.At(33, 1).Text, "");
-    Tick(Bench, W.timer_GSV);
+    Tick(Bench, W.Sentences["GSV"].Clock);
     ASSERT_EQ(Bench.Sent.size(), 9U);
     EXPECT_EQ(Bench.Sent[8].Text, Framed("GPGSV,9,9,34,,,,,,,,,,,,,,,,"));
     EXPECT_EQ(Bench.Last_Box(), "");
@@ -163,7 +165,7 @@ TEST(GNSS_Satellite_Controls, The_Table_Rounds_And_Follows_The_Sky_Once_A_Minute
     }
     EXPECT_EQ(W.hfgGSV.At(0, 1).Text, "00");
     W.timer_GSVUpdate.Set_Interval(60'000);
-    Bench.Sim.Main->timer_Sky.Set_Interval(0); // keep the values
+    Main_Window(Bench.Sim).timer_Sky.Set_Interval(0); // keep the values
     Bench.Run_For(60);
     const auto Row = [&](int R) {
         return W.hfgGSV.At(R, 1).Text + " " + W.hfgGSV.At(R, 2).Text + " " + W.hfgGSV.At(R, 3).Text;
@@ -182,7 +184,7 @@ TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
     EXPECT_TRUE(First.chkSv[3].Value()) << "the boxes of the other window stay";
     EXPECT_EQ(First.GSA_Record.PRN[1], 3);
     for (frmPosition* W : {&First, &Second}) {
-        Tick(Bench, W->timer_GSV);
+        Tick(Bench, W->Sentences["GSV"].Clock);
         EXPECT_EQ(Bench.Sent.at(0).Text.substr(0, 15), "$GPGSV,2,1,8,6,");
         EXPECT_NE(Bench.Sent.at(1).Text.find(",66,"), std::string::npos);
     }

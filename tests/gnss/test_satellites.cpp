@@ -1,7 +1,7 @@
 // The sky, and what GSA and GSV tell of it.
 
-#include "gnss_bench.hpp"
 #include "gnss/gnss_state.hpp"
+#include "gnss_bench.hpp"
 #include "shell/state/iec450_state.hpp"
 
 #include <cmath>
@@ -20,7 +20,7 @@ std::vector<std::string> Fields(const std::string& Sentence) {
 
 void Tick_GSV(GNSS_Bench& Bench, frmPosition& W) {
     Bench.Sent.clear();
-    Bench.Sim.Windows.Event([&] { W.timer_GSV.Tick(); });
+    Bench.Sim.Windows.Event([&] { W.Sentences["GSV"].Clock.Tick(); });
 }
 
 TEST(GNSS_Sky, Starts_Inside_Its_Ranges) {
@@ -96,7 +96,8 @@ TEST(GNSS_Sky, Drifts_In_Small_Steps_And_Turns_At_Its_Bounds) {
 
 TEST(GNSS_Satellites, Opening_Puts_The_Eight_Into_All_Lists) {
     GNSS_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().Sky_Table[1].Used = Bench.Sim.State.Of<GNSS_State>().Sky_Table[88].Used = true;
+    Bench.Sim.State.Of<GNSS_State>().Sky_Table[1].Used = Bench.Sim.State.Of<GNSS_State>().Sky_Table[88].Used =
+        true;
     Bench.Sim.State.Of<GNSS_State>().Svs_In_Use[9] = 77;
     const frmPosition& W = Bench.Open();
     const std::vector<int> Eight{3, 6, 8, 12, 19, 24, 25, 32};

@@ -1,10 +1,11 @@
 // What leaves a GNSS window, and when: contents, START and PAUSE, intervals, talker.
 
-#include "gnss_bench.hpp"
 #include "gnss/gnss_state.hpp"
-#include "shell/state/iec450_state.hpp"
+#include "gnss_bench.hpp"
 #include "ownship/navdata_state.hpp"
 #include "sentences/utc_state.hpp"
+#include "shell/state/fault_state.hpp"
+#include "shell/state/iec450_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -30,15 +31,20 @@ TEST(GNSS_Sentences, Start_With_The_Told_Values) {
     GNSS_Bench Bench(10 * 3600 * us_Per_Second);
     frmPosition& W = Place(Bench).Open();
     const std::string At = "6235.5000,N,00610.0000,W";
-    EXPECT_EQ(Tick(Bench, W.timer_GGA), Framed("GPGGA,100000," + At + ",1,8,1.4,0.0,M,0.0,M,5.0,0100"));
-    EXPECT_EQ(Tick(Bench, W.timer_GLL), Framed("GPGLL," + At + ",100000,A,A"));
-    EXPECT_EQ(Tick(Bench, W.timer_RMC), Framed("GPRMC,100000,A," + At + ",12.3,359.0,010170,002.5,E,A,S"));
-    EXPECT_EQ(Tick(Bench, W.timer_GNS), Framed("GPGNS,100000," + At + ",A,8,1.4,0.0,0.0,5.0,0,S"));
-    EXPECT_EQ(Tick(Bench, W.timer_VTG), Framed("GPVTG,359.0,T,001.5,M,12.3,N,022.78,K,A"));
-    EXPECT_EQ(Tick(Bench, W.timer_ZDA), Framed("GPZDA,100000,01,01,1970,00,00"));
-    EXPECT_EQ(Tick(Bench, W.timer_DTM), Framed("GPDTM,W84, ,0,N,0,E,0,W84"));
-    EXPECT_EQ(Tick(Bench, W.timer_GSA), Framed("GPGSA,A,3,3,6,8,12,19,24,25,32,,,,,2.6,1.4,2.2"));
-    EXPECT_EQ(Tick(Bench, W.timer_GST), Framed("GPGST,100000,0.00,0.00,0.00,000,0.00,0.00,0.00"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["GGA"].Clock),
+              Framed("GPGGA,100000," + At + ",1,8,1.4,0.0,M,0.0,M,5.0,0100"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["GLL"].Clock), Framed("GPGLL," + At + ",100000,A,A"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["RMC"].Clock),
+              Framed("GPRMC,100000,A," + At + ",12.3,359.0,010170,002.5,E,A,S"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock),
+              Framed("GPGNS,100000," + At + ",A,8,1.4,0.0,0.0,5.0,0,S"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["VTG"].Clock), Framed("GPVTG,359.0,T,001.5,M,12.3,N,022.78,K,A"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["ZDA"].Clock), Framed("GPZDA,100000,01,01,1970,00,00"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["DTM"].Clock), Framed("GPDTM,W84, ,0,N,0,E,0,W84"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["GSA"].Clock),
+              Framed("GPGSA,A,3,3,6,8,12,19,24,25,32,,,,,2.6,1.4,2.2"));
+    EXPECT_EQ(Tick(Bench, W.Sentences["GST"].Clock),
+              Framed("GPGST,100000,0.00,0.00,0.00,000,0.00,0.00,0.00"));
 }
 
 TEST(GNSS_Sentences, Follow_State_Decimals_And_Their_Own_Instance) {
@@ -52,15 +58,16 @@ TEST(GNSS_Sentences, Follow_State_Decimals_And_Their_Own_Instance) {
     Bench.Sim.State.Of<GNSS_State>().GNS_Mode_Indicator[2] = "AAN";
     // The variation of RMC is that of the opening, the one of VTG follows.
     Bench.Sim.State.Of<Navdata_State>().Magnetic_Variation = -359.5F;
-    EXPECT_EQ(Tick(Bench, W.timer_GGA).substr(0, 35), "$GPGGA,013000.0,6235.500,N,00610.00");
-    EXPECT_EQ(Tick(Bench, W.timer_GNS),
+    EXPECT_EQ(Tick(Bench, W.Sentences["GGA"].Clock).substr(0, 35), "$GPGGA,013000.0,6235.500,N,00610.00");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock),
               Framed("GNGNS,013000.0,6235.500,N,00610.000,W,AAN,8,1.4,0.0,0.0,5.0,0,S"));
-    EXPECT_NE(Tick(Bench, W.timer_RMC).find(",002.5,E,"), std::string::npos);
-    EXPECT_EQ(Tick(Bench, W.timer_VTG), Framed("GPVTG,359.0,T,359.5,M,12.3,N,022.78,K,A"));
+    EXPECT_NE(Tick(Bench, W.Sentences["RMC"].Clock).find(",002.5,E,"), std::string::npos);
+    EXPECT_EQ(Tick(Bench, W.Sentences["VTG"].Clock), Framed("GPVTG,359.0,T,359.5,M,12.3,N,022.78,K,A"));
     EXPECT_EQ(Bench.Sent[0].Port, 19);
-    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[2] = 359.99998F; // a sum just under the circle must not round up to it
+    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[2] =
+        359.99998F; // a sum just under the circle must not round up to it
     Bench.Sim.State.Of<Navdata_State>().Magnetic_Variation = 2e-5F;
-    Tick(Bench, W.timer_VTG);
+    Tick(Bench, W.Sentences["VTG"].Clock);
     EXPECT_LT(W.VTG_Record.COG_Magnetic, 360);
 }
 
@@ -68,11 +75,11 @@ TEST(GNSS_Sentences, West_Variation_And_The_Checksum_Option) {
     GNSS_Bench Bench;
     Bench.Sim.State.Of<Navdata_State>().Magnetic_Variation = -3.25F;
     frmPosition& W = Bench.Open();
-    EXPECT_EQ(Tick(Bench, W.timer_RMC),
+    EXPECT_EQ(Tick(Bench, W.Sentences["RMC"].Clock),
               Framed("GPRMC,000000,A,0000.0000,N,00000.0000,E,0.0,000.0,010170,003.3,W,A,S"));
-    Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
-    EXPECT_EQ(Tick(Bench, W.timer_DTM), "$GPDTM,W84, ,0,N,0,E,0,W84");
-    EXPECT_EQ(Tick(Bench, W.timer_GSA).find('*'), std::string::npos);
+    Bench.Sim.State.Of<Fault_State>().Fault_No_Checksum = true;
+    EXPECT_EQ(Tick(Bench, W.Sentences["DTM"].Clock), "$GPDTM,W84, ,0,N,0,E,0,W84");
+    EXPECT_EQ(Tick(Bench, W.Sentences["GSA"].Clock).find('*'), std::string::npos);
 }
 
 TEST(GNSS_Sentences, Tag_Block_Stands_In_Front_But_Never_Of_The_Second_GSA) {
@@ -80,13 +87,13 @@ TEST(GNSS_Sentences, Tag_Block_Stands_In_Front_But_Never_Of_The_Second_GSA) {
     frmPosition& W = Bench.Open();
     Bench.Sim.State.Of<IEC450_State>().IEC450_Enabled = Bench.Sim.State.Of<IEC450_State>().Use_n_Tag = true;
     const std::string DTM = Framed("GPDTM,W84, ,0,N,0,E,0,W84");
-    EXPECT_EQ(Tick(Bench, W.timer_DTM), "\\" + Framed("n:1").substr(1) + "\\" + DTM);
-    EXPECT_EQ(Tick(Bench, W.timer_DTM), "\\" + Framed("n:2").substr(1) + "\\" + DTM);
+    EXPECT_EQ(Tick(Bench, W.Sentences["DTM"].Clock), "\\" + Framed("n:1").substr(1) + "\\" + DTM);
+    EXPECT_EQ(Tick(Bench, W.Sentences["DTM"].Clock), "\\" + Framed("n:2").substr(1) + "\\" + DTM);
     W.GSA2_Record.PRN[1] = 65;
     W.GSA_Record.Mode = 'M';
     W.GSA_Record.Fix = 2;
     W.GSA_Record.VDOP = 9;
-    Tick(Bench, W.timer_GSA);
+    Tick(Bench, W.Sentences["GSA"].Clock);
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[1].Text, Framed("GLGSA,M,2,65,,,,,,,,,,,,2.6,1.4,9.0"));
 }
@@ -94,10 +101,14 @@ TEST(GNSS_Sentences, Tag_Block_Stands_In_Front_But_Never_Of_The_Second_GSA) {
 TEST(GNSS_Sentences, START_And_PAUSE_Reach_Only_Their_Own_Sentences) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    Timer* const Clocks[] = {&W.timer_GGA, &W.timer_GLL, &W.timer_RMC, &W.timer_VTG, &W.timer_GNS,
-                             &W.timer_ZDA, &W.timer_DTM, &W.timer_GSA, &W.timer_GSV, &W.timer_GST};
-    for (Check_Box* Box : {&W.chkGGA, &W.chkGLL, &W.chkRMC, &W.chkVTG, &W.chkGNS, &W.chkZDA, &W.chkDTM,
-                           &W.chkGSA, &W.chkGSV, &W.chkGST})
+    Timer* const Clocks[] = {&W.Sentences["GGA"].Clock, &W.Sentences["GLL"].Clock, &W.Sentences["RMC"].Clock,
+                             &W.Sentences["VTG"].Clock, &W.Sentences["GNS"].Clock, &W.Sentences["ZDA"].Clock,
+                             &W.Sentences["DTM"].Clock, &W.Sentences["GSA"].Clock, &W.Sentences["GSV"].Clock,
+                             &W.Sentences["GST"].Clock};
+    for (Check_Box* Box :
+         {&W.Sentences["GGA"].Box, &W.Sentences["GLL"].Box, &W.Sentences["RMC"].Box, &W.Sentences["VTG"].Box,
+          &W.Sentences["GNS"].Box, &W.Sentences["ZDA"].Box, &W.Sentences["DTM"].Box, &W.Sentences["GSA"].Box,
+          &W.Sentences["GSV"].Box, &W.Sentences["GST"].Box})
         Bench.Click(*Box);
     const auto Running = [&] {
         std::string Names;
@@ -122,8 +133,9 @@ TEST(GNSS_Sentences, START_And_PAUSE_Reach_Only_Their_Own_Sentences) {
     EXPECT_TRUE(W.txtLat.Enabled);
     EXPECT_EQ(*W.cmdStart.Caption, "Continue");
 
-    Bench.Click(W.chkGGA);
-    for (Timer* Clock : {&W.timer_GSA, &W.timer_GSV, &W.timer_GST}) Clock->Set_Interval(0);
+    Bench.Click(W.Sentences["GGA"].Box);
+    for (Timer* Clock : {&W.Sentences["GSA"].Clock, &W.Sentences["GSV"].Clock, &W.Sentences["GST"].Clock})
+        Clock->Set_Interval(0);
     Bench.Click(W.cmdStart);
     EXPECT_EQ(Running(), "GLL RMC VTG GNS ZDA DTM ") << "unticked and GSA, GSV, GST stay as they are";
     EXPECT_EQ(*W.cmdStart.Caption, "Continue");
@@ -132,9 +144,12 @@ TEST(GNSS_Sentences, START_And_PAUSE_Reach_Only_Their_Own_Sentences) {
 TEST(GNSS_Sentences, START_Restarts_The_Phases_In_Its_Own_Order) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    for (Check_Box* Box : {&W.chkDTM, &W.chkZDA, &W.chkGNS, &W.chkVTG, &W.chkRMC, &W.chkGLL, &W.chkGGA})
+    for (Check_Box* Box :
+         {&W.Sentences["DTM"].Box, &W.Sentences["ZDA"].Box, &W.Sentences["GNS"].Box, &W.Sentences["VTG"].Box,
+          &W.Sentences["RMC"].Box, &W.Sentences["GLL"].Box, &W.Sentences["GGA"].Box})
         Bench.Click(*Box);
-    for (Combo_Box* List : {&W.cmbDTMInterval, &W.cmbZDAInterval}) List->Set_List_Index(0);
+    for (Combo_Box* List : {&W.Sentences["DTM"].Interval_List, &W.Sentences["ZDA"].Interval_List})
+        List->Set_List_Index(0);
     Bench.Run_To(0.7);
     Bench.Click(W.cmdStart);
     Bench.Run_To(1.8);
@@ -147,15 +162,15 @@ TEST(GNSS_Sentences, START_Restarts_The_Phases_In_Its_Own_Order) {
 TEST(GNSS_Sentences, A_New_Interval_Restarts_The_Phase_Of_A_Ticked_Sentence_Only) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    Bench.Sim.Windows.User_Set(W.cmbGGAInterval, std::int64_t{0});
+    Bench.Sim.Windows.User_Set(W.Sentences["GGA"].Interval_List, std::int64_t{0});
     EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GGA_Interval[1], 0);
-    EXPECT_EQ(W.timer_GGA.Interval_ms(), 0);
-    Bench.Click(W.chkGGA);
-    EXPECT_EQ(W.timer_GGA.Interval_ms(), 100);
+    EXPECT_EQ(W.Sentences["GGA"].Clock.Interval_ms(), 0);
+    Bench.Click(W.Sentences["GGA"].Box);
+    EXPECT_EQ(W.Sentences["GGA"].Clock.Interval_ms(), 100);
     Bench.Run_To(0.95);
     EXPECT_EQ(Bench.Sent.size(), 9U);
     Bench.Sent.clear();
-    Bench.Sim.Windows.User_Set(W.cmbGGAInterval, std::string("2 sec"));
+    Bench.Sim.Windows.User_Set(W.Sentences["GGA"].Interval_List, std::string("2 sec"));
     Bench.Run_To(5.1);
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[0].Time_us, 2'950'000);
@@ -172,12 +187,13 @@ TEST(GNSS_Sentences, Talker_Rule) {
     Bench.Type(W.txtTalker, "1a");
     EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[1], "1A");
     EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[2], "GP");
-    for (Timer* Clock : {&W.timer_GGA, &W.timer_GLL, &W.timer_RMC, &W.timer_VTG, &W.timer_ZDA, &W.timer_DTM,
-                         &W.timer_GSA, &W.timer_GST})
+    for (Timer* Clock : {&W.Sentences["GGA"].Clock, &W.Sentences["GLL"].Clock, &W.Sentences["RMC"].Clock,
+                         &W.Sentences["VTG"].Clock, &W.Sentences["ZDA"].Clock, &W.Sentences["DTM"].Clock,
+                         &W.Sentences["GSA"].Clock, &W.Sentences["GST"].Clock})
         EXPECT_EQ(Tick(Bench, *Clock).substr(0, 3), "$1A") << Clock->Name;
     EXPECT_EQ(W.GSV_Record.Talker, "1A");
     EXPECT_EQ(W.GNS_Record.Talker, "1A");
-    EXPECT_EQ(Tick(Bench, W.timer_GNS).substr(0, 3), "$GP") << "the constellation setup decides";
+    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock).substr(0, 3), "$GP") << "the constellation setup decides";
     EXPECT_EQ(W.GSA2_Record.Talker, "GL");
 
     for (const char* Wrong : {"G", "", "GPS"}) {

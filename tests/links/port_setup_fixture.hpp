@@ -2,8 +2,8 @@
 
 #include "links/port_setup/frm_setup.hpp"
 #include "links/port_setup/port_detection.hpp"
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 
@@ -23,13 +23,13 @@ struct Port_Setup : testing::Test, Virtual_Simulator {
     }
     void Is_There(int Port) { World.Failures.erase("COM " + std::to_string(Port) + " open"); }
     frmSetup& Open() {
-        Click(Sim.Main->mnuSetupPort);
-        return *Sim.Setup;
+        Click(Main_Window(Sim).Item("mnuSetupPort"));
+        return *Open_One<frmSetup>(Sim);
     }
     frmSetup& Detect() {
         Open();
         Run_s(1);
-        return *Sim.Setup;
+        return *Open_One<frmSetup>(Sim);
     }
     void Type(Control& Box, const std::string& Text) {
         Sim.Windows.Event([&] { Sim.Windows.User_Set(Box, Text); });
@@ -37,7 +37,7 @@ struct Port_Setup : testing::Test, Virtual_Simulator {
     std::vector<int> Shown() const {
         std::vector<int> Ports;
         for (int Port = 1; Port <= 16; ++Port)
-            if (*Sim.Setup->frameCOMport[Port].Visible) Ports.push_back(Port);
+            if (*Open_One<frmSetup>(Sim)->frameCOMport[Port].Visible) Ports.push_back(Port);
         return Ports;
     }
 };

@@ -1,10 +1,10 @@
+#include "ownship/navdata_state.hpp"
 #include "ownship/ship/control_input.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "tests/support/virtual_simulator.hpp"
-#include "shell/state/link_state.hpp"
 #include "sensors/log/log_state.hpp"
-#include "ownship/navdata_state.hpp"
+#include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -20,7 +20,7 @@ struct Steered_Ship : Virtual_Simulator {
     explicit Steered_Ship(const char* Mode = "Ship") {
         Disk.Content[Port_File] = "5050\r\n";
         Simulator_State Setup;
-        Load_Default_Data(Setup);
+        Load_Default_Data(Setup, All_Windows());
         Setup.Of<Shell_State>().Mode = Mode;
         Sim.Options.Control_Input = true;
         Start(Setup);
@@ -28,7 +28,7 @@ struct Steered_Ship : Virtual_Simulator {
     }
     void Arrive(const std::string& Datagram) const { Input().Arrive(Datagram); }
     Played_Platform::UDP& Input() const { return *World.Sockets.back(); }
-    const frmShip& Ship() const { return *Sim.Ship; }
+    const frmShip& Ship() const { return *Open_One<frmShip>(Sim); }
 
     std::vector<Message_Box> Opening;
 };
@@ -62,7 +62,7 @@ TEST(Control_Input, Opens_The_Port_That_The_File_Names) {
     Virtual_Simulator Without;
     Without.Disk.Content[Port_File] = "5050";
     Simulator_State Setup;
-    Load_Default_Data(Setup);
+    Load_Default_Data(Setup, All_Windows());
     Without.Start(Setup);
     EXPECT_TRUE(Without.Told.empty());
     EXPECT_TRUE(Without.World.Sockets.empty());
@@ -149,7 +149,8 @@ TEST(Control_Input, Rate_Of_Turn_Sets_The_Rudder) {
     for (const Row& R : Rows) {
         V.Arrive(R.Datagram);
         EXPECT_EQ(V.Ship().sldRudder.Value(), R.Rudder) << R.Datagram;
-        EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_Rudder, static_cast<float>(R.Rudder) / 10) << R.Datagram;
+        EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_Rudder, static_cast<float>(R.Rudder) / 10)
+            << R.Datagram;
     }
     EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 0.0F);
 }
@@ -177,8 +178,11 @@ TEST(Control_Input, Whatever_Is_No_VTG_Or_ROT_Is_Ignored_And_Numbers_Stay_Finite
         EXPECT_TRUE(std::isfinite(V.Sim.State.Of<Navdata_State>().Nav_SOG)) << Number.substr(0, 9);
         V.Run_s(3);
         const Simulator_State& S = V.Sim.State;
-        for (const double Value : {S.Of<Navdata_State>().Nav_Lat, S.Of<Navdata_State>().Nav_Lon, S.Of<Navdata_State>().Nav_COG, S.Of<Navdata_State>().Nav_HDG, double{S.Of<Navdata_State>().Current_Set},
-                                   double{S.Of<Navdata_State>().Current_Drift}, double{S.Of<Log_State>().Log_Speed[1]}, double{S.Of<Log_State>().Log_Speed[2]}})
+        for (const double Value :
+             {S.Of<Navdata_State>().Nav_Lat, S.Of<Navdata_State>().Nav_Lon, S.Of<Navdata_State>().Nav_COG,
+              S.Of<Navdata_State>().Nav_HDG, double{S.Of<Navdata_State>().Current_Set},
+              double{S.Of<Navdata_State>().Current_Drift}, double{S.Of<Log_State>().Log_Speed[1]},
+              double{S.Of<Log_State>().Log_Speed[2]}})
             EXPECT_TRUE(std::isfinite(Value)) << Number.substr(0, 9);
     }
     EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 5.0F); // a NUL ends a number
@@ -203,8 +207,8 @@ TEST(Control_Input, In_Sensor_Mode_It_Warns_Once_And_Leaves_The_Data_Unread) {
     EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 0.0F);
 
     // What waits comes first, in its order, each as an event of its own.
-    V.Click(V.Sim.Main->mnuMode_Ship);
-    ASSERT_NE(V.Sim.Ship, nullptr);
+    V.Click(Main_Window(V.Sim).Item("mnuMode", 1));
+    ASSERT_NE(Open_One<frmShip>(V.Sim), nullptr);
     int Events = 0;
     V.Sim.Windows.On_Settled.push_back([&] { ++Events; });
     V.Arrive("$GPVTG,,,,,20,N");
@@ -213,7 +217,7 @@ TEST(Control_Input, In_Sensor_Mode_It_Warns_Once_And_Leaves_The_Data_Unread) {
     EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 20.0F);
     EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_Rudder, 5.0F);
 
-    V.Click(V.Sim.Main->mnuMode_Sensor);
+    V.Click(Main_Window(V.Sim).Item("mnuMode", 2));
     V.Arrive("$GPVTG,,,,,30,N");
     EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 20.0F);
     EXPECT_EQ(V.Told.size(), 1u) << "once in a run";
@@ -221,8 +225,8 @@ TEST(Control_Input, In_Sensor_Mode_It_Warns_Once_And_Leaves_The_Data_Unread) {
 
 TEST(Control_Input, With_The_Ship_Window_Closed_Only_The_Speed_Is_Set) {
     Steered_Ship V;
-    V.Close(*V.Sim.Ship);
-    ASSERT_EQ(V.Sim.Ship, nullptr);
+    V.Close(*Open_One<frmShip>(V.Sim));
+    ASSERT_EQ(Open_One<frmShip>(V.Sim), nullptr);
     V.Arrive("$GPVTG,,,,,10,N");
     V.Arrive("$HEROT,5,A");
     EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 10.0F);

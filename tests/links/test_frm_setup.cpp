@@ -1,14 +1,15 @@
-#include "tests/links/port_setup_fixture.hpp"
 #include "extra/extra_state.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/links/port_setup_fixture.hpp"
 
 namespace brinewright {
 namespace {
 
 TEST_F(Port_Setup, Shows_What_Is_Set_And_OK_Takes_It_Over) {
     Sim.State.Of<Link_State>().Port_Table[1] = {true, true, 19200, 7, "even", 2};
-    Sim.State.Of<Link_State>().Port_Table[2] = {true, false, 38400, 5, "mark", 2}; // values that the lists do not have
+    Sim.State.Of<Link_State>().Port_Table[2] = {true, false,  38400,
+                                                5,    "mark", 2}; // values that the lists do not have
     Virtual_Simulator::Set_Up_Link(Sim.State, 18);
     Sim.State.Of<Link_State>().UDP_Port_Number[1] = 0;
     Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
@@ -57,7 +58,7 @@ TEST_F(Port_Setup, Shows_What_Is_Set_And_OK_Takes_It_Over) {
 TEST_F(Port_Setup, Cancel_Changes_Nothing) {
     Use({18});
     Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
-    const std::string Before = Write_Setup(Sim.State);
+    const std::string Before = Write_Setup(Sim.State, All_Windows());
     frmSetup& F = Open();
     Type(F.txtPort, "9001");
     Type(F.txtUDP_port[1], "1");
@@ -65,16 +66,16 @@ TEST_F(Port_Setup, Cancel_Changes_Nothing) {
     Click(*F.optUDPMode.Buttons[1]);
     Type(F.txtUDP_RemoteHost, "10.0.0.9");
     Click(F.cmdCancel);
-    EXPECT_EQ(Write_Setup(Sim.State), Before);
+    EXPECT_EQ(Write_Setup(Sim.State, All_Windows()), Before);
     EXPECT_EQ(Sim.State.Of<Link_State>().UDP_Mode, 0);
-    EXPECT_FALSE(Sim.Setup);
+    EXPECT_FALSE(Open_One<frmSetup>(Sim));
 }
 
 TEST_F(Port_Setup, OK_Gives_The_Open_Sensor_Windows_Their_New_Ports) {
     Use({18});
     Sim.State.Of<Link_State>().Sensor_Table[2].Port = 18;
     Open_Form(2);
-    frmPosition& W = *Sim.frmPosition_Instance[2];
+    frmPosition& W = *Open_One<frmPosition>(Sim, 2);
     ASSERT_EQ(W.cmbComPort.Items().size(), 1u);
     frmSetup& F = Open();
     Click(F.chkEnable[17]);
@@ -152,18 +153,18 @@ TEST_F(Port_Setup, What_Is_Not_Valid_Is_Told_And_The_Old_Text_Comes_Back) {
 
 TEST_F(Port_Setup, A_First_Start_Opens_It_And_Info_Tells_Of_The_Ports_Above_16) {
     Start();
-    ASSERT_TRUE(Sim.Setup);
+    ASSERT_TRUE(Open_One<frmSetup>(Sim));
     EXPECT_EQ(Take_Boxes(),
               (Texts{"No setupfile exist. Default data loaded and no comports initialized ! ", Detecting}));
-    Click(Sim.Main->mnuSetupPort); // no second one
+    Click(Main_Window(Sim).Item("mnuSetupPort")); // no second one
     EXPECT_EQ(std::count_if(Sim.Windows.Forms.begin(), Sim.Windows.Forms.end(),
                             [](const auto& F) { return F->Name == "frmSetup"; }),
               1);
-    Click(Sim.Setup->cmdComInfo);
-    ASSERT_TRUE(Sim.ComportInfo);
-    EXPECT_EQ(Sim.ComportInfo->Caption, "    Comport Information");
-    Click(Sim.ComportInfo->cmdOK);
-    EXPECT_FALSE(Sim.ComportInfo);
+    Click(Open_One<frmSetup>(Sim)->cmdComInfo);
+    ASSERT_TRUE(Open_One<frmComportInfo>(Sim));
+    EXPECT_EQ(Open_One<frmComportInfo>(Sim)->Caption, "    Comport Information");
+    Click(Open_One<frmComportInfo>(Sim)->cmdOK);
+    EXPECT_FALSE(Open_One<frmComportInfo>(Sim));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-#include "tests/links/port_setup_fixture.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/links/port_setup_fixture.hpp"
 
 namespace brinewright {
 namespace {
@@ -32,31 +32,31 @@ TEST_F(Port_Setup, Detection_Tells_Present_Busy_And_Absent_Ports_Apart) {
     EXPECT_TRUE(!Table[5].Present && !Table[5].Enabled);
     EXPECT_TRUE(Table[16].Present && Table[16].Enabled);
     EXPECT_TRUE(World.Coms[16]->Opened);
-    EXPECT_FALSE(Sim.Setup);
+    EXPECT_FALSE(Open_One<frmSetup>(Sim));
 }
 
 TEST_F(Port_Setup, Detection_Lets_The_Event_Loop_Run_And_Shows_How_Far_It_Is) {
     frmSetup& F = Open();
-    ASSERT_TRUE(Sim.Progress);
-    EXPECT_EQ(*Sim.Progress->lblPercent.Caption, "0 %");
+    ASSERT_TRUE(Open_One<frmProgress>(Sim));
+    EXPECT_EQ(*Open_One<frmProgress>(Sim)->lblPercent.Caption, "0 %");
     EXPECT_EQ(World.Log, Texts{}); // none tried yet
     const auto Tick = [&] { return Sim.Timers.Fire_One(); };
     std::vector<std::string> Percents;
     for (int Port = 1; Port <= 15; ++Port) {
         World.Machine_Clock.Advance_To(Now_us() + 100'000);
         ASSERT_TRUE(Tick());
-        Percents.push_back(*Sim.Progress->lblPercent.Caption);
+        Percents.push_back(*Open_One<frmProgress>(Sim)->lblPercent.Caption);
         EXPECT_EQ(World.Log.size(), static_cast<std::size_t>(Port)); // one port for each turn
     }
     EXPECT_EQ(Percents[0], "6 %");
     EXPECT_EQ(Percents[7], "50 %");
     EXPECT_EQ(Percents[14], "94 %");
-    EXPECT_EQ(*Sim.Progress->lblTime.Caption, "1 sec");
+    EXPECT_EQ(*Open_One<frmProgress>(Sim)->lblTime.Caption, "1 sec");
     // Half a result must not be confirmed.
     EXPECT_FALSE(*F.cmdOK.Enabled || *F.cmdReset.Enabled);
     World.Machine_Clock.Advance_To(Now_us() + 100'000);
     ASSERT_TRUE(Tick());
-    EXPECT_FALSE(Sim.Progress);
+    EXPECT_FALSE(Open_One<frmProgress>(Sim));
     EXPECT_TRUE(*F.cmdOK.Enabled && *F.cmdReset.Enabled);
     EXPECT_EQ(Take_Boxes(), (Texts{Detecting, None_Found}));
     EXPECT_EQ(Shown(), std::vector<int>{});
@@ -67,18 +67,18 @@ TEST_F(Port_Setup, Detection_Lets_The_Event_Loop_Run_And_Shows_How_Far_It_Is) {
 TEST_F(Port_Setup, Closing_Windows_While_Ports_Are_Tried_Harms_Nothing) {
     Open();
     Run_s(0.02);
-    Close(*Sim.Progress); // the detection goes on without it
+    Close(*Open_One<frmProgress>(Sim)); // the detection goes on without it
     Run_s(0.02);
-    ASSERT_TRUE(Sim.Setup);
-    Click(Sim.Setup->cmdCancel);
+    ASSERT_TRUE(Open_One<frmSetup>(Sim));
+    Click(Open_One<frmSetup>(Sim)->cmdCancel);
     const std::size_t Tried = World.Log.size();
     Run_s(1);
     EXPECT_EQ(World.Log.size(), Tried);
     EXPECT_LT(Tried, 16u);
     EXPECT_FALSE(Sim.State.Of<Link_State>().Ports_Initialised);
     Open();
-    Close(*Sim.Setup);
-    EXPECT_FALSE(Sim.Progress);
+    Close(*Open_One<frmSetup>(Sim));
+    EXPECT_FALSE(Open_One<frmProgress>(Sim));
     Detect();
     EXPECT_EQ(Take_Boxes(), (Texts{Detecting, Detecting, Detecting, None_Found}));
 }
@@ -95,7 +95,7 @@ TEST_F(Port_Setup, Ports_Refused_For_Lack_Of_Rights_Are_Told_With_A_Remedy) {
 
     Answer(4, "Permission denied");
     Is_There(1);
-    Click(Sim.Setup->cmdReset);
+    Click(Open_One<frmSetup>(Sim)->cmdReset);
     Run_s(1);
     const Texts Two = Take_Boxes();
     ASSERT_EQ(Two.size(), 2u);
@@ -111,7 +111,8 @@ TEST_F(Port_Setup, A_Port_That_Sends_Is_There_And_Its_Output_Goes_On) {
     EXPECT_TRUE(Before.chkEnable[2].Value());
     World.Log.clear();
     Click(Before.cmdReset);
-    EXPECT_FALSE(Sim.State.Of<Link_State>().Port_Table[2].Present || Sim.State.Of<Link_State>().Port_Table[2].Enabled);
+    EXPECT_FALSE(Sim.State.Of<Link_State>().Port_Table[2].Present ||
+                 Sim.State.Of<Link_State>().Port_Table[2].Enabled);
     EXPECT_FALSE(Sim.State.Of<Link_State>().Ports_Initialised);
     Run_s(1);
     EXPECT_EQ(Shown(), std::vector<int>{2});
@@ -133,8 +134,10 @@ TEST_F(Port_Setup, Frames_Fill_Two_Columns_Of_Eight_In_The_Order_Of_The_Ports) {
     Answer(1, "No such file or directory");
     Click(F.cmdReset);
     Run_s(1);
-    EXPECT_EQ(std::pair(Sim.Setup->Places[9].Column, Sim.Setup->Places[9].Row), std::pair(0, 7));
-    EXPECT_EQ(std::pair(Sim.Setup->Places[10].Column, Sim.Setup->Places[10].Row), std::pair(1, 0));
+    EXPECT_EQ(std::pair(Open_One<frmSetup>(Sim)->Places[9].Column, Open_One<frmSetup>(Sim)->Places[9].Row),
+              std::pair(0, 7));
+    EXPECT_EQ(std::pair(Open_One<frmSetup>(Sim)->Places[10].Column, Open_One<frmSetup>(Sim)->Places[10].Row),
+              std::pair(1, 0));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "links/port_list.hpp"
 #include "platform/form.hpp"
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {

@@ -1,5 +1,5 @@
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -18,7 +18,7 @@ TEST(Serial_Ports, Are_Brought_To_The_State_Of_The_Table) {
               (Texts{"COM 1 open 4800,n,8,1", "COM 2 open 38400,e,7,2", "COM 3 open 115200,o,8,1"}));
     EXPECT_EQ(S.Of<Link_State>().Comport_Count, 4);
     EXPECT_TRUE(S.Of<Link_State>().Ports_Initialised);
-    auto& Panels = V.Sim.Main->sbStatusBar;
+    auto& Panels = Main_Window(V.Sim).sbStatusBar;
     EXPECT_EQ(*Panels[1].Caption, "COM 1");
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port <= 3) << Port;
 
@@ -50,7 +50,7 @@ TEST(Serial_Ports, One_That_Does_Not_Open_Is_Told_And_The_Others_Open) {
                                     "COM Setup! (Use Reset buttom "
                                     "on Com Setup)"});
     EXPECT_TRUE(V.World.Coms[3]->Opened);
-    EXPECT_TRUE(*V.Sim.Main->sbStatusBar[2].Visible); // the panel shows in spite of it
+    EXPECT_TRUE(*Main_Window(V.Sim).sbStatusBar[2].Visible); // the panel shows in spite of it
     V.World.Failures.clear();
     V.Init();
     EXPECT_TRUE(V.World.Coms[2]->Opened);
@@ -62,10 +62,10 @@ struct Receiving : testing::Test, Virtual_Simulator {
     void SetUp() override {
         Use({3, 4});
         Sim.State.Of<Link_State>().Extended_Monitor_Port = 3;
-        mnuExtendedMonitor_Click(Sim);
+        Open_Window(Sim, "frmExtendedMonitor");
         Sim.State.Of<Link_State>().Extended_Monitor_Lines = 100;
     }
-    std::string Pane() { return Sim.Extended_Monitor->txtInput.Text(); }
+    std::string Pane() { return Open_One<frmExtendedMonitor>(Sim)->txtInput.Text(); }
     Played_Platform::Serial& Com(int Number) { return *World.Coms[Number]; }
 };
 
@@ -80,14 +80,14 @@ TEST_F(Receiving, Whole_Lines_Of_The_Watched_Port_Show) {
     EXPECT_EQ(Sim.State.Of<Link_State>().Transmit.Extended_Rx_Line_Count, 4);
 
     // Frozen, lines are taken and lost. The buffer is one for all ports.
-    Click(Sim.Extended_Monitor->cmdFreeze);
+    Click(Open_One<frmExtendedMonitor>(Sim)->cmdFreeze);
     Com(3).Arrive("ur\nfi");
-    Click(Sim.Extended_Monitor->cmdFreeze);
-    Sim.Extended_Monitor->cmbComPort.Set_List_Index(1);
+    Click(Open_One<frmExtendedMonitor>(Sim)->cmdFreeze);
+    Open_One<frmExtendedMonitor>(Sim)->cmbComPort.Set_List_Index(1);
     Com(4).Arrive("x\n");
     EXPECT_EQ(Pane(), "fiunseen\nx\n");
 
-    Close(*Sim.Extended_Monitor);
+    Close(*Open_One<frmExtendedMonitor>(Sim));
     Com(4).Arrive("later\n");
     EXPECT_EQ(Com(4).Received, "later\n");
 }

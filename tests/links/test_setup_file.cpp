@@ -1,14 +1,14 @@
 #include "links/setup_file/setup_file.hpp"
-#include "platform/run_time_error.hpp"
-#include "test_setup_file_support.hpp"
 #include "ownship/autopilot/autopilot_state.hpp"
-#include "sensors/echosounder/echo_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "sensors/log/log_state.hpp"
 #include "ownship/navdata_state.hpp"
-#include "shell/state/shell_state.hpp"
-#include "sentences/utc_state.hpp"
+#include "platform/run_time_error.hpp"
+#include "sensors/echosounder/echo_state.hpp"
+#include "sensors/log/log_state.hpp"
 #include "sensors/wind/wind_state.hpp"
+#include "sentences/utc_state.hpp"
+#include "shell/state/link_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "test_setup_file_support.hpp"
 
 #include <gtest/gtest.h>
 
@@ -23,14 +23,14 @@ using namespace setup_test;
 
 Simulator_State Read(const std::string& Bytes) {
     Simulator_State State;
-    Read_Setup(Bytes, State);
+    Read_Setup(Bytes, State, All_Windows());
     return State;
 }
 
 // The variables that the file keeps come out of reading and the others stay at their defaults.
 void Expect_Kept_And_Nothing_Else(const Texts& Read_Back, const Texts& Filled) {
     std::set<std::string> Kept;
-    for (const auto& Fields : Layout()) Kept.insert(Fields.begin(), Fields.end());
+    for (const auto& Fields : Layout_Of_File()) Kept.insert(Fields.begin(), Fields.end());
     Kept.erase("ARPA_Random_Count"); // written, and set back to 0 by reading
     const Texts Zero = All_Texts(Simulator_State{});
     for (const auto& [Path, Text] : Read_Back)
@@ -41,25 +41,25 @@ TEST(Setup_File, Every_Field_Stands_In_Its_Place) {
     for (int Bit = 0; Bit <= 11; ++Bit) {
         const Simulator_State State = Filled_State(Bit);
         const Texts Values = All_Texts(State);
-        ASSERT_EQ(Write_Setup(State), File_Of(Values)) << "bit " << Bit;
+        ASSERT_EQ(Write_Setup(State, All_Windows()), File_Of(Values)) << "bit " << Bit;
         Expect_Kept_And_Nothing_Else(All_Texts(Read(File_Of(Values))), Values);
     }
 }
 
 TEST(Setup_File, Default_State_Is_The_Golden_File) {
     Simulator_State State;
-    Load_Default_Data(State);
-    EXPECT_EQ(Write_Setup(State), File_Bytes("default.ini"));
+    Load_Default_Data(State, All_Windows());
+    EXPECT_EQ(Write_Setup(State, All_Windows()), File_Bytes("default.ini"));
 }
 
 TEST(Setup_File, Defaults_Touch_Nothing_Else) {
     Simulator_State Zero;
-    Load_Default_Data(Zero);
+    Load_Default_Data(Zero, All_Windows());
     const Texts Defaults = All_Texts(Zero);
     const Texts Nothing = All_Texts(Simulator_State{});
     Simulator_State State = Filled_State(3);
     const Texts Before = All_Texts(State);
-    Load_Default_Data(State);
+    Load_Default_Data(State, All_Windows());
     for (const auto& [Path, Text] : All_Texts(State)) {
         const bool Set_To_Zero =
             Path.ends_with("_Interval") || Path.find("_Interval[") != std::string::npos; // the interval table
@@ -84,7 +84,7 @@ TEST(Setup_File, Line_Ends_And_A_Missing_Last_One_Do_Not_Matter) {
 TEST(Setup_File, Sections_In_Any_Order_With_Unknown_Ones_Between) {
     const Texts Values = All_Texts(Filled_State(2));
     std::vector<std::string> Sections;
-    for (const auto& Fields : Layout()) {
+    for (const auto& Fields : Layout_Of_File()) {
         if (Fields[0][0] == '"') Sections.emplace_back();
         Sections.back() += File_Line(Fields, Values);
     }
@@ -100,7 +100,7 @@ TEST(Setup_File, Sections_In_Any_Order_With_Unknown_Ones_Between) {
 TEST(Setup_File, A_File_Without_The_Late_Sections_Leaves_Second_Instances_Alone) {
     const Texts Values = All_Texts(Filled_State(0));
     std::string Old;
-    for (const auto& Fields : Layout()) {
+    for (const auto& Fields : Layout_Of_File()) {
         if (Fields[0] == "\"REM Sensor settings v6\"") break;
         Old += File_Line(Fields, Values);
     }
@@ -126,7 +126,7 @@ TEST(Setup_File, Navdata_Is_Passed_Over_When_Not_Wanted) {
     Read_Setup(
         "\"REM Current navdata\"\r\n#FALSE#\r\n62.5,6\r\n12,270\r\n271,-3.5\r\n40.25\r\n10,200\r\n#FALSE#\r\n"
         "\"REM UTCOffset\"\r\n-120\r\n",
-        State);
+        State, All_Windows());
     EXPECT_EQ(State.Of<Navdata_State>().Nav_Lat, 1.5);
     EXPECT_EQ(State.Of<Navdata_State>().Nav_Lon, 0);
     EXPECT_EQ(State.Of<Wind_State>().Wind_Speed[1], 0);
@@ -138,14 +138,20 @@ TEST(Setup_File, Navdata_Is_Passed_Over_When_Not_Wanted) {
 TEST(Setup_File, A_Marker_Inside_Skipped_Data_Counts) {
     // A text of an unknown section that reads like a marker is taken for one; inside a known section it is
     // not.
-    EXPECT_EQ(Read("\"REM Unknown\"\r\n1,\"REM LatLon Format\"\r\n7\r\n").LatLon_Format, 7);
-    EXPECT_EQ(Read("\"REM Autopilot\"\r\n1,\"REM LatLon Format\"\r\n7\r\n").LatLon_Format, 0);
-    EXPECT_EQ(Read("\"REM latlon format\"\r\n7\r\n\"REM LatLon Format x\"\r\n7\r\n").LatLon_Format, 0);
+    EXPECT_EQ(Read("\"REM Unknown\"\r\n1,\"REM LatLon Format\"\r\n7\r\n").Of<Shell_State>().LatLon_Format, 7);
+    EXPECT_EQ(Read("\"REM Autopilot\"\r\n1,\"REM LatLon Format\"\r\n7\r\n").Of<Shell_State>().LatLon_Format,
+              0);
+    EXPECT_EQ(Read("\"REM latlon format\"\r\n7\r\n\"REM LatLon Format x\"\r\n7\r\n")
+                  .Of<Shell_State>()
+                  .LatLon_Format,
+              0);
 }
 
 TEST(Setup_File, Numbers_In_All_Their_Forms) {
     const auto Lat = [](const std::string& Text) {
-        return Read("\"REM Public variables\"\r\n" + Text + ",0\r\n0,0,0\r\n0\r\n0,0,0,0,0").Start_Lat;
+        return Read("\"REM Public variables\"\r\n" + Text + ",0\r\n0,0,0\r\n0\r\n0,0,0,0,0")
+            .Of<Navdata_State>()
+            .Start_Lat;
     };
     EXPECT_EQ(Lat(".5"), 0.5);
     EXPECT_EQ(Lat("-.5"), -0.5);
@@ -153,9 +159,9 @@ TEST(Setup_File, Numbers_In_All_Their_Forms) {
     EXPECT_EQ(Lat(" 7. "), 7);
     EXPECT_EQ(Lat("25E-1"), 2.5);
     EXPECT_EQ(Lat("1e+2"), 100);
-    EXPECT_EQ(Read("\"REM UTCOffset\"\n-032768\n").UTC_Offset_Hours, -32768);
-    EXPECT_EQ(Read("\"REM UTCOffset\"\n+32767\n").UTC_Offset_Hours, 32767);
-    EXPECT_TRUE(Read("\"REM Use UTC\"\n#true#").Use_UTC);
+    EXPECT_EQ(Read("\"REM UTCOffset\"\n-032768\n").Of<UTC_State>().UTC_Offset_Hours, -32768);
+    EXPECT_EQ(Read("\"REM UTCOffset\"\n+32767\n").Of<UTC_State>().UTC_Offset_Hours, 32767);
+    EXPECT_TRUE(Read("\"REM Use UTC\"\n#true#").Of<UTC_State>().Use_UTC);
 }
 
 TEST(Setup_File, Numbers_Are_Written_Short_And_Exact) {
@@ -163,7 +169,7 @@ TEST(Setup_File, Numbers_Are_Written_Short_And_Exact) {
         Simulator_State State;
         State.Of<Navdata_State>().Start_Lat = Start;
         State.Of<Navdata_State>().Max_Speed_Ahead = Ahead;
-        const std::string Bytes = Write_Setup(State);
+        const std::string Bytes = Write_Setup(State, All_Windows());
         const Simulator_State Back = Read(Bytes);
         EXPECT_EQ(Back.Of<Navdata_State>().Start_Lat, std::isnan(Start) ? 0 : Start);
         EXPECT_EQ(Back.Of<Navdata_State>().Max_Speed_Ahead, Ahead);
@@ -187,7 +193,7 @@ TEST(Setup_File, Texts_With_Commas_And_Quotation_Marks) {
         Simulator_State State;
         State.Of<Autopilot_State>().Route_File = Text;
         State.Of<Autopilot_State>().Autopilot_Mode = 2;
-        const Simulator_State Back = Read(Write_Setup(State));
+        const Simulator_State Back = Read(Write_Setup(State, All_Windows()));
         EXPECT_EQ(Back.Of<Autopilot_State>().Autopilot_Mode, 2) << Text;
         return Back.Of<Autopilot_State>().Route_File;
     };
@@ -199,8 +205,8 @@ TEST(Setup_File, Texts_With_Commas_And_Quotation_Marks) {
     EXPECT_EQ(Route_After_Saving("a\",b"), "a',b");
     EXPECT_EQ(Route_After_Saving("\",\",\r\nx\n"), "',',  x ");
     // Texts typed into the file by hand.
-    EXPECT_EQ(Read("\"REM Mode\"\nShip\n").Mode, "Ship");
-    EXPECT_EQ(Read("\"REM Mode\"\n  \"Ship\"  \n").Mode, "Ship");
+    EXPECT_EQ(Read("\"REM Mode\"\nShip\n").Of<Shell_State>().Mode, "Ship");
+    EXPECT_EQ(Read("\"REM Mode\"\n  \"Ship\"  \n").Of<Shell_State>().Mode, "Ship");
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "links/setup_file/setup_file.hpp"
 #include "platform/run_time_error.hpp"
-#include "test_setup_file_support.hpp"
-#include "shell/state/shell_state.hpp"
 #include "sentences/utc_state.hpp"
+#include "shell/state/shell_state.hpp"
+#include "test_setup_file_support.hpp"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ using namespace setup_test;
 // Empty when reading succeeds, else the text of the failure.
 std::string Failure_Of(const std::string& Bytes, Simulator_State& State) {
     try {
-        Read_Setup(Bytes, State);
+        Read_Setup(Bytes, State, All_Windows());
     } catch (const Run_Time_Error& Error) {
         return Error.what();
     }
@@ -98,9 +98,9 @@ TEST(Setup_File_Faults, What_Was_Read_Before_The_Failure_Stays) {
     // A count that cannot be is never met in the state: the next saving has to work.
     EXPECT_EQ(Failure_Of("\"REM Open forms\"\n30000\n", State), "Subscript out of range");
     EXPECT_EQ(State.Of<Shell_State>().Open_Form_Count, 4);
-    EXPECT_NO_THROW(Write_Setup(State));
+    EXPECT_NO_THROW(Write_Setup(State, All_Windows()));
     State.Of<Shell_State>().Open_Form_Count = 21;
-    EXPECT_THROW(Write_Setup(State), Run_Time_Error);
+    EXPECT_THROW(Write_Setup(State, All_Windows()), Run_Time_Error);
 }
 
 TEST(Setup_File_Faults, Bytes_That_Are_No_Setup_Change_Nothing) {
@@ -124,9 +124,9 @@ void Expect_Sound_Outcome(const std::string& Bytes, const std::string& Hint) {
                        Failure == error_text::Type_Mismatch || Failure == error_text::Overflow ||
                        Failure == error_text::Subscript;
     EXPECT_TRUE(Known) << Failure << Hint;
-    const std::string Saved = Write_Setup(State);
+    const std::string Saved = Write_Setup(State, All_Windows());
     EXPECT_EQ(Failure_Of(Saved, State), "") << Hint;
-    EXPECT_TRUE(Write_Setup(State) == Saved) << Hint; // too long to be printed
+    EXPECT_TRUE(Write_Setup(State, All_Windows()) == Saved) << Hint; // too long to be printed
 }
 
 TEST(Setup_File_Faults, Cut_At_Every_Byte) {
@@ -140,7 +140,7 @@ TEST(Setup_File_Faults, Cut_Behind_Every_Line_Keeps_The_Lines_Before) {
     Simulator_State State;
     Texts Expected = All_Texts(State);
     std::string Bytes;
-    for (const auto& Fields : Layout()) {
+    for (const auto& Fields : Layout_Of_File()) {
         Bytes += File_Line(Fields, Values);
         for (const std::string& Path : Fields)
             if (Path[0] != '"') Expected[Path] = Values.at(Path);

@@ -3,8 +3,11 @@
 // What the tests of the setup file share: every variable of the state by its path, and the file as the layout
 // in golden/setup/layout.txt describes it, put together without the reader or the writer.
 
-#include "shell/state/simulator_state.hpp"
+#include "all_state.hpp"
+#include "links/setup_file/setup_file.hpp"
+#include "shell/main/window_table.hpp"
 #include "shell/state/shell_state.hpp"
+#include "shell/state/simulator_state.hpp"
 
 #include <fstream>
 #include <iterator>
@@ -83,7 +86,7 @@ inline Simulator_State Filled_State(int Bit) {
 }
 
 // The lines of the layout: a marker in quotation marks, or the paths of the fields of a line.
-inline std::vector<std::vector<std::string>> Layout() {
+inline std::vector<std::vector<std::string>> Layout_Of_File() {
     std::vector<std::vector<std::string>> Lines;
     std::istringstream File(File_Bytes("layout.txt"));
     for (std::string Line; std::getline(File, Line);) {
@@ -105,7 +108,7 @@ inline std::string File_Line(const std::vector<std::string>& Fields, const Texts
 
 inline std::string File_Of(const Texts& Values, const std::string& Line_End = "\r\n") {
     std::string Bytes;
-    for (const auto& Fields : Layout()) Bytes += File_Line(Fields, Values, Line_End);
+    for (const auto& Fields : Layout_Of_File()) Bytes += File_Line(Fields, Values, Line_End);
     return Bytes;
 }
 

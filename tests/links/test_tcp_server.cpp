@@ -1,5 +1,6 @@
-#include "tests/support/virtual_simulator.hpp"
+#include "links/tcp_status/frm_tcpip.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -7,7 +8,7 @@ namespace {
 // Started at 10:00:00 with the server on port 8040.
 struct TCP : testing::Test, Virtual_Simulator {
     void SetUp() override { Use({17}); }
-    frmTCPIP& F() { return *Sim.TCPIP; }
+    frmTCPIP& F() { return *Open_One<frmTCPIP>(Sim); }
     Texts History() {
         Texts Entries;
         for (const auto& Item : F().cmbConnections.Items()) Entries.push_back(Item.Text);
@@ -107,7 +108,7 @@ TEST_F(TCP, Timers_Of_Clients_That_Have_Gone_Stop) {
     EXPECT_EQ(World.Sent.size(), 100u);
     Run_s(2.1);
     int Running = 0;
-    for (const auto& Check : Sim.Main->timerTCPIP_StateCheck) {
+    for (const auto& Check : Sim.Links.State_Checks) {
         EXPECT_TRUE(Check->Interval_ms() == 0 || Check->Interval_ms() == 2000);
         Running += Check->Interval_ms() != 0;
     }
@@ -124,7 +125,8 @@ TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
     Init();
     EXPECT_EQ(World.Log, (Texts{"listen close", "listen 4001"}));
     EXPECT_EQ(*F().lblPort.Caption, "4001");
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 1); // closing the element that listens is no client going away
+    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count,
+              1); // closing the element that listens is no client going away
     EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 1);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
     EXPECT_EQ(History().back(), " 1-Connected to IP : 10.0.0.7 - 01.01.2026 11:06:40");
@@ -150,7 +152,7 @@ TEST_F(TCP, A_Closed_Window_Changes_Nothing_And_Shows_All_When_It_Is_Back) {
     Send("$A", 17);
     Send("$A", 17);
     EXPECT_EQ(Sent_On("TCP 1").size(), 2u);
-    Show_frmTCPIP(Sim);
+    Open_Window(Sim, "frmTCPIP");
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
     EXPECT_EQ(History(),
               (Texts{" 1-Connected to IP : 10.0.0.7 - 01.01.2026 10:00:00 - 01.01.2026 10:00:00 disconnected",
@@ -164,14 +166,14 @@ TEST(TCP_Failure, A_Port_That_Is_Taken_Is_Told_And_The_Rest_Goes_On) {
     ASSERT_EQ(V.Told.size(), 1u);
     EXPECT_EQ(V.Told[0].Text, "TCP/IP Error : Address already in use Select another port number");
     EXPECT_EQ(V.Told[0].Icon, Box_Icon::Stop);
-    EXPECT_EQ(*V.Sim.TCPIP->lblStatus.Caption, "Status :");
+    EXPECT_EQ(*Open_One<frmTCPIP>(V.Sim)->lblStatus.Caption, "Status :");
     V.Send("$A", 17);
     V.Send("$A", 18);
     EXPECT_EQ(V.World.Sent.size(), 1u);
 
     V.World.Failures.clear();
     V.Init();
-    EXPECT_EQ(*V.Sim.TCPIP->lblStatus.Caption, "Listening for connection");
+    EXPECT_EQ(*Open_One<frmTCPIP>(V.Sim)->lblStatus.Caption, "Listening for connection");
     V.World.Connect();
     V.Send("$A", 17);
     EXPECT_EQ(V.Sent_On("TCP 0").size(), 1u);

@@ -1,5 +1,5 @@
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -40,28 +40,28 @@ TEST(UDP_Links, Arriving_Datagrams_Show_On_The_Extended_Monitor_Only) {
     auto& Link = *V.World.Sockets[1];
     Link.Arrive("closed"); // no monitor: left unread
     V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    mnuExtendedMonitor_Click(V.Sim);
+    Open_Window(V.Sim, "frmExtendedMonitor");
     V.Sim.State.Of<Link_State>().Extended_Monitor_Lines = 100;
     Link.Arrive("other port");
     EXPECT_EQ(Link.Received.size(), 2u);
-    V.Sim.Extended_Monitor->cmbComPort.Set_List_Index(1);
-    V.Click(V.Sim.Extended_Monitor->cmdFreeze);
+    Open_One<frmExtendedMonitor>(V.Sim)->cmbComPort.Set_List_Index(1);
+    V.Click(Open_One<frmExtendedMonitor>(V.Sim)->cmdFreeze);
     Link.Arrive("frozen");
     EXPECT_EQ(Link.Received.size(), 3u);
-    EXPECT_EQ(V.Sim.Extended_Monitor->txtInput.Text(), "");
+    EXPECT_EQ(Open_One<frmExtendedMonitor>(V.Sim)->txtInput.Text(), "");
     Link.Received.clear();
-    V.Click(V.Sim.Extended_Monitor->cmdFreeze);
+    V.Click(Open_One<frmExtendedMonitor>(V.Sim)->cmdFreeze);
 
     // Whole, whatever it holds, as one line each; the first NUL is a blank.
     Link.Arrive(std::string("UdPbC\0\\s:A\0\n\n", 13));
     Link.Arrive("x");
-    EXPECT_EQ(V.Sim.Extended_Monitor->txtInput.Text(), std::string("UdPbC \\s:A\0\n\nx", 14));
+    EXPECT_EQ(Open_One<frmExtendedMonitor>(V.Sim)->txtInput.Text(), std::string("UdPbC \\s:A\0\n\nx", 14));
     EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Extended_Rx_Line_Count, 2);
 
     // What was left unread comes with the next one: the pane does not lag behind from then on.
     Link.Received = {"a", "b"};
     Link.Arrive("c");
-    EXPECT_TRUE(V.Sim.Extended_Monitor->txtInput.Text().ends_with("xabc"));
+    EXPECT_TRUE(Open_One<frmExtendedMonitor>(V.Sim)->txtInput.Text().ends_with("xabc"));
     EXPECT_TRUE(Link.Received.empty());
 }
 

@@ -4,9 +4,9 @@
 #include "sensors/gyro/frm_gyro.hpp"
 #include "sensors/log/frm_log.hpp"
 #include "sensors/wind/frm_wind.hpp"
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 #include <cstdint>
 #include <initializer_list>
@@ -25,35 +25,27 @@ struct Sensor_Bench : Virtual_Simulator {
     };
 
     explicit Sensor_Bench(const std::string& Mode = "Sensor") : Virtual_Simulator(0) {
-        Load_Default_Data(S);
+        Load_Default_Data(S, All_Windows());
         S.Of<Shell_State>().Mode = Mode;
         for (int Link = 0; Link < 8; ++Link)
-            S.Of<Link_State>().Sensor_Table[form_index::Gyro_1 + Link].Port = static_cast<std::int16_t>(18 + Link);
+            S.Of<Link_State>().Sensor_Table[form_index::Gyro_1 + Link].Port =
+                static_cast<std::int16_t>(18 + Link);
         Use({18, 19, 20, 21, 22, 23, 24, 25});
-        Sim.On_Sent.push_back([this](std::string_view Text, int Port) {
-            EXPECT_TRUE(Text.ends_with("\r\n")) << Text;
-            Sent.push_back({Now_us(), std::string(Text.substr(0, Text.size() - 2)), Port});
+        Sim.Told.Sent.Add(this, [this](const Sent_Sentence& One) {
+            if (!One.Link_Took_It) return;
+            EXPECT_TRUE(One.Text.ends_with("\r\n")) << One.Text;
+            Sent.push_back({Now_us(), std::string(One.Text.substr(0, One.Text.size() - 2)), One.Port});
         });
     }
 
-    frmGyro& Open_Gyro(int Instance = 1) {
-        return Open(form_index::Gyro_1, Instance, Load_frmGyro, Sim.frmGyro_Instance);
-    }
-    frmLog& Open_Log(int Instance = 1) {
-        return Open(form_index::Log_1, Instance, Load_frmLog, Sim.frmLog_Instance);
-    }
-    frmEchosounder& Open_Echo(int Instance = 1) {
-        return Open(form_index::Echosounder_1, Instance, Load_frmEchosounder, Sim.frmEchosounder_Instance);
-    }
-    frmWind& Open_Wind(int Instance = 1) {
-        return Open(form_index::Wind_1, Instance, Load_frmWind, Sim.frmWind_Instance);
-    }
+    frmGyro& Open_Gyro(int Instance = 1) { return Open<frmGyro>(Instance); }
+    frmLog& Open_Log(int Instance = 1) { return Open<frmLog>(Instance); }
+    frmEchosounder& Open_Echo(int Instance = 1) { return Open<frmEchosounder>(Instance); }
+    frmWind& Open_Wind(int Instance = 1) { return Open<frmWind>(Instance); }
     template <class Window>
-    Window& Open(int First, int Instance, std::shared_ptr<Sensor_Form> (*Load)(Simulator&),
-                 Per_Instance<std::shared_ptr<Window>>& Places) {
-        S.Of<Shell_State>().Open_Form_Index = static_cast<std::int16_t>(First + Instance - 1);
-        Sim.Windows.Event([&] { Sim.Windows.Show(Load(Sim)); });
-        return *Places[Instance];
+    Window& Open(int Instance) {
+        Sim.Windows.Event([&] { Open_Window(Sim, Window::Class_Name, Instance); });
+        return *Open_One<Window>(Sim, Instance);
     }
 
     void Set(Control& Target, const Control_Value& Value) {

@@ -2,6 +2,7 @@
 
 #include "sensor_bench.hpp"
 #include "sensors/echosounder/echo_state.hpp"
+#include "shell/state/fault_state.hpp"
 #include "shell/state/iec450_state.hpp"
 #include "shell/state/shell_state.hpp"
 
@@ -12,20 +13,21 @@ TEST(Echosounder, Sends_Feet_Metres_And_No_Fathoms) {
     Sensor_Bench Bench;
     frmEchosounder& W = Bench.Open_Echo();
     Bench.Type(W.txtDepth, "10");
-    EXPECT_EQ(Bench.Tick(W.timer_DBT), Framed("SDDBT,32.81,f,10.0,M,,F"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["DBT"].Clock), Framed("SDDBT,32.81,f,10.0,M,,F"));
     EXPECT_EQ(Bench.Sent[0].Port, 22);
-    EXPECT_EQ(Bench.Tick(W.timer_DPT), Framed("SDDPT,10.0,0.0,400.0"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["DPT"].Clock), Framed("SDDPT,10.0,0.0,400.0"));
     EXPECT_EQ(*W.lblCurrentDepth.Caption, "10.0");
     Bench.Type(W.txtDepth, "400"); // 3.28083 feet to the metre: another last digit would show here
-    EXPECT_EQ(Bench.Tick(W.timer_DBT), Framed("SDDBT,1312.33,f,400.0,M,,F"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["DBT"].Clock), Framed("SDDBT,1312.33,f,400.0,M,,F"));
     Bench.Type(W.txtDepth, "10");
 
     Bench.Type(W.txtTalker, "yx");
-    Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
-    EXPECT_EQ(Bench.Tick(W.timer_DBT), "$YXDBT,32.81,f,10.0,M,,F");
+    Bench.Sim.State.Of<Fault_State>().Fault_No_Checksum = true;
+    EXPECT_EQ(Bench.Tick(W.Sentences["DBT"].Clock), "$YXDBT,32.81,f,10.0,M,,F");
     EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Talker[1], "YX");
     Bench.S.Of<IEC450_State>().IEC450_Enabled = Bench.S.Of<IEC450_State>().Use_n_Tag = true;
-    EXPECT_EQ(Bench.Tick(W.timer_DPT), "\\" + Framed("n:1").substr(1) + "\\$YXDPT,10.0,0.0,400.0");
+    EXPECT_EQ(Bench.Tick(W.Sentences["DPT"].Clock),
+              "\\" + Framed("n:1").substr(1) + "\\$YXDPT,10.0,0.0,400.0");
 }
 
 struct Typed_Depth {
@@ -51,7 +53,7 @@ TEST(Echosounder, Typed_Depths_Outlive_The_Bar_And_Stay_Numbers) {
         EXPECT_EQ(W.txtDepth.Text(), T.Shown) << T.Text;
     }
     Bench.Type(W.txtDepth, "1e300");
-    for (Timer* Clock : {&W.timer_DBT, &W.timer_DPT}) Bench.Tick(*Clock);
+    for (Timer* Clock : {&W.Sentences["DBT"].Clock, &W.Sentences["DPT"].Clock}) Bench.Tick(*Clock);
     for (const float Number : {W.DBT_Record.Depth_Metres, W.DBT_Record.Depth_Feet, W.DPT_Record.Depth})
         EXPECT_TRUE(std::isfinite(Number));
     W.scrDepth.Set_Value(81);
@@ -73,12 +75,12 @@ TEST(Echosounder, Both_Start_From_The_Kept_Depth_And_Only_The_First_Writes_It) {
     EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 512.25F);
     First.scrDepth.Set_Value(90);
     EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 9);
-    EXPECT_EQ(Bench.Tick(Second.timer_DPT), Framed("SDDPT,7.0,0.0,400.0"));
+    EXPECT_EQ(Bench.Tick(Second.Sentences["DPT"].Clock), Framed("SDDPT,7.0,0.0,400.0"));
     EXPECT_EQ(Bench.Sent[0].Port, 23);
 
     Bench.Close(First);
     Bench.S.Of<Echo_State>().Echo_Depth = -3;
-    EXPECT_EQ(Bench.Tick(Bench.Open_Echo(1).timer_DPT), Framed("SDDPT,0.0,0.0,400.0"));
+    EXPECT_EQ(Bench.Tick(Bench.Open_Echo(1).Sentences["DPT"].Clock), Framed("SDDPT,0.0,0.0,400.0"));
 }
 
 TEST(Echosounder, Offset_Is_Read_As_It_Is_Typed_And_Written_Back_On_Leaving) {
@@ -91,7 +93,7 @@ TEST(Echosounder, Offset_Is_Read_As_It_Is_Typed_And_Written_Back_On_Leaving) {
     EXPECT_EQ(*W.cmbOffset.Tool_Tip,
               "Transducer offset. Positive means transducer to waterline, negative means transducer to keel");
     W.cmbOffset.Set_Text("-1.5 m"); // not left yet
-    EXPECT_EQ(Bench.Tick(W.timer_DPT), Framed("SDDPT,0.0,-1.5,400.0"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["DPT"].Clock), Framed("SDDPT,0.0,-1.5,400.0"));
 
     const struct {
         const char* Typed;
@@ -102,7 +104,8 @@ TEST(Echosounder, Offset_Is_Read_As_It_Is_Typed_And_Written_Back_On_Leaving) {
     for (const auto& Row : Rows) {
         Bench.Type(W.cmbOffset, Row.Typed);
         EXPECT_EQ(W.cmbOffset.Text(), Row.Written_Back) << Row.Typed;
-        EXPECT_EQ(Bench.Tick(W.timer_DPT), Framed(std::string("SDDPT,0.0,") + Row.Sent + ",400.0"));
+        EXPECT_EQ(Bench.Tick(W.Sentences["DPT"].Clock),
+                  Framed(std::string("SDDPT,0.0,") + Row.Sent + ",400.0"));
     }
 }
 
@@ -119,7 +122,7 @@ TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
         Least = 1e9, Most = -1e9;
         int Different = 0;
         for (int I = 0; I < Times; ++I) {
-            for (Timer* Clock : {&W.timer_DBT, &W.timer_DPT}) Bench.Tick(*Clock);
+            for (Timer* Clock : {&W.Sentences["DBT"].Clock, &W.Sentences["DPT"].Clock}) Bench.Tick(*Clock);
             const double DBT_m = W.DBT_Record.Depth_Metres, DPT_m = W.DPT_Record.Depth;
             Least = std::min({Least, DBT_m, DPT_m}), Most = std::max({Most, DBT_m, DPT_m});
             Different += std::abs(DBT_m - DPT_m) > 0.1 ? 1 : 0;
@@ -139,7 +142,7 @@ TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
     EXPECT_FALSE(Bench.S.Of<Echo_State>().Echo_Noise_Enabled[2]);
     EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Noise_Level[2], 20);
     EXPECT_EQ(W.Depth_Value, 1);
-    EXPECT_EQ(Bench.Tick(W.timer_DPT), Framed("SDDPT,1.0,0.0,400.0"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["DPT"].Clock), Framed("SDDPT,1.0,0.0,400.0"));
 }
 
 TEST(Echosounder, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
@@ -153,10 +156,10 @@ TEST(Echosounder, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     frmEchosounder& W = Bench.Open_Echo();
     EXPECT_GT(Bench.Now_us() - Before_us, 150'000) << "the second sentence starts at once";
     EXPECT_EQ(W.Tag, "7");
-    EXPECT_EQ(Entries(W.cmbDBTInterval),
+    EXPECT_EQ(Entries(W.Sentences["DBT"].Interval_List),
               (Texts{"0.1 sec", "0.5 sec", " 1 sec", " 2 sec", " 3 sec", " 4 sec", " 5 sec"}));
-    EXPECT_EQ(Entries(W.cmbDPTInterval), Entries(W.cmbDBTInterval));
-    EXPECT_EQ(W.cmbDPTInterval.Text(), " 1 sec");
+    EXPECT_EQ(Entries(W.Sentences["DPT"].Interval_List), Entries(W.Sentences["DBT"].Interval_List));
+    EXPECT_EQ(W.Sentences["DPT"].Interval_List.Text(), " 1 sec");
     EXPECT_EQ(W.cmbNoise.Text(), "0");
     EXPECT_EQ(W.cmbNoise.Items().size(), 21U);
     Expect_Texts(W, {"lblEchosounder=ECHOSOUNDER", "frmDepth=Depth", "lblDepthUnit=meter",
@@ -166,7 +169,7 @@ TEST(Echosounder, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     Bench.Run_s(10);
     EXPECT_EQ(Bench.Sent.size(), 30U);
     S.Of<Shell_State>().Mode = "Sensor"; // the modes differ in nothing here
-    EXPECT_EQ(Bench.Open_Echo(2).cmbDBTInterval.Text(), " 1 sec");
+    EXPECT_EQ(Bench.Open_Echo(2).Sentences["DBT"].Interval_List.Text(), " 1 sec");
 }
 
 } // namespace

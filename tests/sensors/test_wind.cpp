@@ -1,10 +1,11 @@
 // The wind gauge: what it sends, its true wind, units, noise and what it keeps.
 
+#include "ownship/navdata_state.hpp"
 #include "sensor_bench.hpp"
 #include "sensors/gyro/gyro_state.hpp"
 #include "sensors/log/log_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "sensors/wind/wind_state.hpp"
+#include "shell/state/fault_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -23,12 +24,12 @@ TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
     S.Of<Wind_State>().Wind_Relative_Ref[1] = S.Of<Wind_State>().Wind_Relative_Ref[2] = true;
     frmWind& First = Bench.Open_Wind(1);
     frmWind& Second = Bench.Open_Wind(2);
-    EXPECT_EQ(Bench.Tick(First.timer_MWV), Framed("WIMWV,000.0,R,015.0,N,A"));
+    EXPECT_EQ(Bench.Tick(First.Sentences["MWV"].Clock), Framed("WIMWV,000.0,R,015.0,N,A"));
     EXPECT_EQ(Bench.Sent[0].Port, 24);
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "15");
     EXPECT_EQ(*First.lblRelativeDir.Caption, "000");
     EXPECT_EQ(*First.lblRelativeWind.Caption, "log 1 and  gyro 1");
-    EXPECT_EQ(Bench.Tick(Second.timer_MWV), Framed("WIMWV,180.0,R,010.0,N,A"));
+    EXPECT_EQ(Bench.Tick(Second.Sentences["MWV"].Clock), Framed("WIMWV,180.0,R,010.0,N,A"));
     EXPECT_EQ(Bench.Sent[0].Port, 25);
     EXPECT_EQ(*Second.lblRelativeDir.Caption, "180");
     EXPECT_EQ(*Second.lblRelativeWind.Caption, "log 2 and gyro 2");
@@ -40,7 +41,7 @@ TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
     Bench.Run_s(1);
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "17");
     S.Of<Log_State>().Log_Speed[1] = -30; // faster astern than the wind blows from ahead
-    EXPECT_EQ(Bench.Tick(First.timer_MWV), Framed("WIMWV,000.0,R,-020.0,N,A"));
+    EXPECT_EQ(Bench.Tick(First.Sentences["MWV"].Clock), Framed("WIMWV,000.0,R,-020.0,N,A"));
     EXPECT_EQ(*First.lblRelativeSpeed.Caption, "-20");
     EXPECT_EQ(*First.lblWindSpeed.Caption, "-20.0");
 }
@@ -51,21 +52,21 @@ TEST(Wind_Gauge, Sends_True_Wind_Status_And_Talker) {
     Bench.S.Of<Gyro_State>().Gyro_HDG[1] = 33;
     Bench.S.Of<Log_State>().Log_Speed[1] = 20;
     frmWind& W = Bench.Open_Wind();
-    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,270.5,T,012.34,N,A"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock), Framed("WIMWV,270.5,T,012.34,N,A"));
     EXPECT_EQ(*W.lblWindAngle.Caption, "270.5");
     EXPECT_EQ(*W.lblWindSpeed.Caption, "12.34");
     Bench.Click(W.chkInvalid);
     Bench.Type(W.txtTalker, "xx");
-    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("XXMWV,270.5,T,012.34,N,V"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock), Framed("XXMWV,270.5,T,012.34,N,V"));
     Bench.Click(W.chkInvalid);
     Bench.Click(*W.optRef.Buttons[0]);
     EXPECT_TRUE(Bench.S.Of<Wind_State>().Wind_Relative_Ref[1]);
-    EXPECT_NE(Bench.Tick(W.timer_MWV).find(",R,"), std::string::npos);
+    EXPECT_NE(Bench.Tick(W.Sentences["MWV"].Clock).find(",R,"), std::string::npos);
     Bench.Click(*W.optRef.Buttons[1]);
     EXPECT_FALSE(Bench.S.Of<Wind_State>().Wind_Relative_Ref[1]);
-    Bench.Sim.Main->mnuOptionsChecksumDisabled.Checked = true;
-    EXPECT_EQ(Bench.Tick(W.timer_MWV), "$XXMWV,270.5,T,012.34,N,A");
-    EXPECT_EQ(Bench.Tick(W.timer_MWD), "$XXMWD,270.5,T,270.5,M,012.34,N,006.35,M");
+    Bench.Sim.State.Of<Fault_State>().Fault_No_Checksum = true;
+    EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock), "$XXMWV,270.5,T,012.34,N,A");
+    EXPECT_EQ(Bench.Tick(W.Sentences["MWD"].Clock), "$XXMWD,270.5,T,270.5,M,012.34,N,006.35,M");
 }
 
 TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
@@ -90,8 +91,10 @@ TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
         EXPECT_EQ(*W.lblUnit[0].Caption, Row.Unit);
         EXPECT_EQ(*W.lblUnit[1].Caption, Row.Unit);
         EXPECT_EQ(*W.lblRelativeSpeed.Caption, Row.Shown) << "worked out at once";
-        EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed(std::string("WIMWD,090.0,T,090.0,M,") + Row.MWD));
-        EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed(std::string("WIMWV,000.0,R,") + Row.MWV + ",A"));
+        EXPECT_EQ(Bench.Tick(W.Sentences["MWD"].Clock),
+                  Framed(std::string("WIMWD,090.0,T,090.0,M,") + Row.MWD));
+        EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock),
+                  Framed(std::string("WIMWV,000.0,R,") + Row.MWV + ",A"));
         EXPECT_EQ(Bench.S.Of<Wind_State>().Wind_Speed[1], 3600);
     }
 }
@@ -112,7 +115,7 @@ TEST(Wind_Gauge, Magnetic_Direction_Wraps_And_The_Variation_Shows) {
     for (const auto& Row : Rows) {
         Set_Wind(Bench, 1, 0, Row.From_deg);
         Bench.S.Of<Navdata_State>().Magnetic_Variation = Row.Variation_deg;
-        EXPECT_EQ(Bench.Tick(W.timer_MWD),
+        EXPECT_EQ(Bench.Tick(W.Sentences["MWD"].Clock),
                   Framed(std::string("WIMWD,") + Row.Directions + ",000.0,N,000.0,M"));
         EXPECT_EQ(*W.lblMagDev.Caption, Row.Shown);
     }
@@ -129,10 +132,10 @@ TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
     EXPECT_EQ(W.cmbNoise[0].Text(), "10");
     EXPECT_EQ(W.cmbNoise[1].Items().size(), 21U);
     // One draw for the angle and another for the speed: 0.159793 and 0.992145 are the first of seed 0.
-    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,356.2,T,004.94,N,A"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock), Framed("WIMWV,356.2,T,004.94,N,A"));
     double Left_deg = 0, Right_deg = 0, Least = 99, Most = 0;
     for (int I = 0; I < 400; ++I) {
-        Bench.Tick(W.timer_MWV);
+        Bench.Tick(W.Sentences["MWV"].Clock);
         const double Angle_deg = W.MWV_Record.Angle, Speed = W.MWV_Record.Speed;
         ASSERT_TRUE(Angle_deg >= 0 && Angle_deg < 360) << Angle_deg;
         const double Off_deg = std::remainder(Angle_deg - 3, 360);
@@ -143,7 +146,7 @@ TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
     EXPECT_TRUE(Right_deg <= 10 && Right_deg > 9.5) << Right_deg;
     EXPECT_EQ(Least, 0);
     EXPECT_TRUE(Most <= 5 && Most > 4.8) << Most;
-    EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed("WIMWD,003.0,T,003.0,M,001.0,N,000.51,M"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["MWD"].Clock), Framed("WIMWD,003.0,T,003.0,M,001.0,N,000.51,M"));
     EXPECT_EQ(S.Of<Wind_State>().Wind_Direction[2], 3);
 
     W.cmbNoise[1].Set_List_Index(20);
@@ -151,7 +154,7 @@ TEST(Wind_Gauge, Noise_Reaches_MWV_Alone_And_Stays_In_Bounds) {
     EXPECT_EQ(S.Of<Wind_State>().Wind_Noise_Level[2][1], 20);
     EXPECT_EQ(S.Of<Wind_State>().Wind_Noise_Level[2][0], 10);
     EXPECT_FALSE(S.Of<Wind_State>().Wind_Noise_Enabled[2]);
-    EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,003.0,T,001.0,N,A"));
+    EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock), Framed("WIMWV,003.0,T,001.0,N,A"));
 }
 
 struct Typed_Wind {
@@ -214,7 +217,7 @@ TEST(Wind_Gauge, Bars_And_Boxes_Set_The_True_Wind) {
         Bench.Type(W.cmbUnits, Unit);
         for (const int Reference : {0, 1}) {
             W.optRef.Select(Reference);
-            for (Timer* Clock : {&W.timer_MWV, &W.timer_MWD}) Bench.Tick(*Clock);
+            for (Timer* Clock : {&W.Sentences["MWV"].Clock, &W.Sentences["MWD"].Clock}) Bench.Tick(*Clock);
             for (const float Number : {W.MWV_Record.Angle, W.MWV_Record.Speed, W.MWD_Record.Speed_Knots,
                                        W.MWD_Record.Speed_Ms, W.MWD_Record.Dir_Magnetic})
                 EXPECT_TRUE(std::isfinite(Number)) << Unit;
@@ -240,12 +243,13 @@ TEST(Wind_Gauge, Directions_Outside_The_Circle_Are_Shown_And_Sent_Within_It) {
         EXPECT_EQ(W.scrHDG.Value(), Row.Bar) << Row.Kept_deg;
         EXPECT_EQ(W.txtHDG.Text(), Row.Shown) << Row.Kept_deg;
         const std::string Sent = Row.Sent;
-        EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV," + Sent + ",T,010.0,N,A"));
-        EXPECT_EQ(Bench.Tick(W.timer_MWD), Framed("WIMWD," + Sent + ",T," + Sent + ",M,010.0,N,005.14,M"));
+        EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock), Framed("WIMWV," + Sent + ",T,010.0,N,A"));
+        EXPECT_EQ(Bench.Tick(W.Sentences["MWD"].Clock),
+                  Framed("WIMWD," + Sent + ",T," + Sent + ",M,010.0,N,005.14,M"));
         Bench.S.Of<Log_State>().Log_Speed[1] = 5;
         Bench.S.Of<Gyro_State>().Gyro_HDG[1] = W.MWD_Record.Dir_True; // right ahead
         Bench.Click(*W.optRef.Buttons[0]);
-        EXPECT_EQ(Bench.Tick(W.timer_MWV), Framed("WIMWV,000.0,R,015.0,N,A"));
+        EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock), Framed("WIMWV,000.0,R,015.0,N,A"));
         EXPECT_EQ(Bench.S.Of<Wind_State>().Wind_Direction[1], Row.Kept_deg);
     }
 }
@@ -270,11 +274,11 @@ TEST(Wind_Gauge, Opens_With_What_Is_Kept_And_Ticks_At_Its_Intervals) {
     EXPECT_EQ(W.optRef.Selected(), 0);
     EXPECT_EQ(W.cmbNoise[0].Text(), "0");
     EXPECT_EQ(W.cmbUnits.Text(), "knots");
-    EXPECT_EQ(Entries(W.cmbMWVInterval),
+    EXPECT_EQ(Entries(W.Sentences["MWV"].Interval_List),
               (Texts{"0.1 sec", "0.5 sec", " 1 sec", " 2 sec", " 3 sec", " 4 sec", " 5 sec"}));
-    EXPECT_EQ(W.cmbMWVInterval.Text(), " 2 sec");
-    EXPECT_EQ(W.cmbMWDInterval.Text(), "0.1 sec");
-    EXPECT_EQ(Bench.Open_Wind(1).cmbMWVInterval.Text(), " 1 sec");
+    EXPECT_EQ(W.Sentences["MWV"].Interval_List.Text(), " 2 sec");
+    EXPECT_EQ(W.Sentences["MWD"].Interval_List.Text(), "0.1 sec");
+    EXPECT_EQ(Bench.Open_Wind(1).Sentences["MWV"].Interval_List.Text(), " 1 sec");
     Expect_Texts(W,
                  {"frmTrueWindDir=True Wind Dir", "frmTrueWindSpd=True Wind Spd", "lblSpeedUnit=Speed Unit",
                   "chkNoise=Random noise On", "lblMaxNoise(0)=Max noise", "lblMaxNoise(1)=Max noise",

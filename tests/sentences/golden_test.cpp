@@ -1,16 +1,7 @@
 #include "fake_clock.hpp"
 #include "golden_rows.hpp"
-#include "golden_sensor_rows.hpp"
-#include "sentences/compose_dtm.hpp"
-#include "sentences/compose_gga.hpp"
-#include "sentences/compose_gll.hpp"
-#include "sentences/compose_gns.hpp"
-#include "sentences/compose_gsa.hpp"
-#include "sentences/compose_gst.hpp"
-#include "sentences/compose_gsv.hpp"
-#include "sentences/compose_rmc.hpp"
-#include "sentences/compose_vtg.hpp"
-#include "sentences/compose_zda.hpp"
+#include "sentence_records.hpp"
+#include "sentences/compose_vlw.hpp"
 #include "sentences/number_pattern.hpp"
 
 #include <gtest/gtest.h>
@@ -22,152 +13,74 @@ using namespace brinewright;
 
 namespace {
 
-// The inputs that more than one kind of sentence has.
+template <class T>
+T Take_Value(Golden_Row& Row, const char* Key) {
+    T Value{};
+    Row.Read(Key, Value);
+    return Value;
+}
+
+bool No_Checksum(Golden_Row& Row) { return Take_Value<bool>(Row, "No_Checksum"); }
+std::int16_t Number(Golden_Row& Row, const char* Key) { return Take_Value<std::int16_t>(Row, Key); }
+
+// The fields that the row tells; the others keep their defaults.
+template <class Record>
+Record Read_Record(Golden_Row& Row) {
+    Record R;
+    Visit_Record(R, [&](const char* Name, auto& Value) {
+        if (Row.Inputs.contains(Name)) Row.Read(Name, Value);
+    });
+    return R;
+}
+
 struct Timed {
     Fake_Clock Clock{0};
     UTC_State UTC;
     Sentence_Time Time{Clock, UTC};
-    std::int16_t Decimals_Time = 0;
-    std::int16_t Instance = 0;
 
-    explicit Timed(Golden_Row& Row) {
-        Row.Read("Clock", Clock.Now_us);
-        Visit_State(UTC, [&](const char* Name, auto& Value) { Row.Read(Name, Value); });
-        Row.Read("Decimals_Time", Decimals_Time);
-        Row.Read("Instance", Instance);
-    }
+    explicit Timed(Golden_Row& Row) : UTC(Read_Record<UTC_State>(Row)) { Row.Read("Clock", Clock.Now_us); }
 };
 
-bool Read_No_Checksum(Golden_Row& Row) {
-    bool No_Checksum = false;
-    Row.Read("No_Checksum", No_Checksum);
-    return No_Checksum;
+// One for each kind of composers.
+using Decimals = std::int16_t;
+template <class R>
+std::string Run(Golden_Row& Row, std::string (*Compose)(const R&, bool)) {
+    return Compose(Read_Record<R>(Row), No_Checksum(Row));
+}
+template <class R>
+std::string Run(Golden_Row& Row, std::string (*Compose)(const R&, Decimals, bool)) {
+    return Compose(Read_Record<R>(Row), Number(Row, "Decimals"), No_Checksum(Row));
+}
+template <class R>
+std::string Run(Golden_Row& Row,
+                std::string (*Compose)(const Sentence_Time&, const R&, Decimals, std::int16_t, bool)) {
+    const Timed T(Row);
+    return Compose(T.Time, Read_Record<R>(Row), Number(Row, "Decimals_Time"), Number(Row, "Instance"),
+                   No_Checksum(Row));
+}
+template <class R>
+std::string Run(Golden_Row& Row, std::string (*Compose)(const Sentence_Time&, const R&, Decimals, Decimals,
+                                                        std::int16_t, bool)) {
+    const Timed T(Row);
+    return Compose(T.Time, Read_Record<R>(Row), Number(Row, "Decimals_Position"),
+                   Number(Row, "Decimals_Time"), Number(Row, "Instance"), No_Checksum(Row));
+}
+template <auto Compose>
+std::string Composed(Golden_Row& Row) {
+    return Run(Row, Compose);
 }
 
-template <class Record_Type, class Composer>
-std::string Compose_Position(Golden_Row& Row, Record_Type& Record, Composer Compose) {
-    Timed T(Row);
-    std::int16_t Decimals_Position = 0;
-    Row.Read("Decimals_Position", Decimals_Position);
-    Row.Read("Talker", Record.Talker);
-    Row.Read("Lat", Record.Lat);
-    Row.Read("Lon", Record.Lon);
-    return Compose(T.Time, Record, Decimals_Position, T.Decimals_Time, T.Instance, Read_No_Checksum(Row));
-}
-
-std::string GGA(Golden_Row& Row) {
-    GGA_Record R;
-    Row.Read("Quality", R.Quality);
-    Row.Read("Sats", R.Sats);
-    Row.Read("HDOP", R.HDOP);
-    Row.Read("Alt", R.Alt);
-    Row.Read("Geoid_Sep", R.Geoid_Sep);
-    Row.Read("Age", R.Age);
-    Row.Read("Station_ID", R.Station_ID);
-    return Compose_Position(Row, R, Compose_GGA);
-}
-
-std::string GLL(Golden_Row& Row) {
-    GLL_Record R;
-    Row.Read("Status", R.Status);
-    Row.Read("Mode", R.Mode);
-    return Compose_Position(Row, R, Compose_GLL);
-}
-
-std::string RMC(Golden_Row& Row) {
-    RMC_Record R;
-    Row.Read("Status", R.Status);
-    Row.Read("SOG", R.SOG);
-    Row.Read("COG", R.COG);
-    Row.Read("Mag_Var", R.Mag_Var);
-    Row.Read("Mag_Dir", R.Mag_Dir);
-    Row.Read("Mode", R.Mode);
-    Row.Read("Nav_Status", R.Nav_Status);
-    return Compose_Position(Row, R, Compose_RMC);
-}
-
-std::string GNS(Golden_Row& Row) {
-    GNS_Record R;
-    Row.Read("Mode", R.Mode);
-    Row.Read("Sats", R.Sats);
-    Row.Read("HDOP", R.HDOP);
-    Row.Read("Alt", R.Alt);
-    Row.Read("Geoid_Sep", R.Geoid_Sep);
-    Row.Read("Age", R.Age);
-    Row.Read("Station_ID", R.Station_ID);
-    Row.Read("Status", R.Status);
-    return Compose_Position(Row, R, Compose_GNS);
-}
-
-std::string VTG(Golden_Row& Row) {
-    VTG_Record R;
+std::string VLW(Golden_Row& Row) {
+    VLW_Record R;
+    Row.Take("Log"); // both count alike
     Row.Read("Talker", R.Talker);
-    Row.Read("COG_True", R.COG_True);
-    Row.Read("COG_Magnetic", R.COG_Magnetic);
-    Row.Read("SOG_Knots", R.SOG_Knots);
-    Row.Read("SOG_Kmh", R.SOG_Kmh);
-    Row.Read("Mode", R.Mode);
-    return Compose_VTG(R, Read_No_Checksum(Row));
-}
-
-std::string ZDA(Golden_Row& Row) {
-    Timed T(Row);
-    ZDA_Record R;
-    Row.Read("Talker", R.Talker);
-    return Compose_ZDA(T.Time, R, T.Decimals_Time, T.Instance, Read_No_Checksum(Row));
-}
-
-std::string DTM(Golden_Row& Row) {
-    DTM_Record R;
-    Row.Read("Talker", R.Talker);
-    Row.Read("Local_Datum", R.Local_Datum);
-    Row.Read("Sub_Division", R.Sub_Division);
-    Row.Read("Lat_Offset", R.Lat_Offset);
-    Row.Read("Lat_Dir", R.Lat_Dir);
-    Row.Read("Lon_Offset", R.Lon_Offset);
-    Row.Read("Lon_Dir", R.Lon_Dir);
-    Row.Read("Alt_Offset", R.Alt_Offset);
-    Row.Read("Ref_Datum", R.Ref_Datum);
-    return Compose_DTM(R, Read_No_Checksum(Row));
-}
-
-std::string GSA(Golden_Row& Row) {
-    GSA_Record R;
-    Row.Read("Talker", R.Talker);
-    Row.Read("Mode", R.Mode);
-    Row.Read("Fix", R.Fix);
-    Row.Read("PRN", R.PRN);
-    Row.Read("PDOP", R.PDOP);
-    Row.Read("HDOP", R.HDOP);
-    Row.Read("VDOP", R.VDOP);
-    return Compose_GSA(R, Read_No_Checksum(Row));
-}
-
-std::string GSV(Golden_Row& Row) {
-    GSV_Record R;
-    Row.Read("Talker", R.Talker);
-    Row.Read("Total", R.Total);
-    Row.Read("Number", R.Number);
-    Row.Read("In_View", R.In_View);
-    Row.Read("PRN", R.PRN);
-    Row.Read("Elevation", R.Elevation);
-    Row.Read("Azimuth", R.Azimuth);
-    Row.Read("SNR", R.SNR);
-    return Compose_GSV(R, Read_No_Checksum(Row));
-}
-
-std::string GST(Golden_Row& Row) {
-    Timed T(Row);
-    GST_Record R;
-    Row.Read("Talker", R.Talker);
-    Row.Read("RMS", R.RMS);
-    Row.Read("Semi_Major", R.Semi_Major);
-    Row.Read("Semi_Minor", R.Semi_Minor);
-    Row.Read("Orientation", R.Orientation);
-    Row.Read("Sd_Lat", R.Sd_Lat);
-    Row.Read("Sd_Lon", R.Sd_Lon);
-    Row.Read("Sd_Alt", R.Sd_Alt);
-    return Compose_GST(T.Time, R, T.Decimals_Time, T.Instance, Read_No_Checksum(Row));
+    float Counts[4];
+    constexpr const char* Keys[] = {"Log_Total_Water", "Log_Trip_Water", "Log_Total_Ground",
+                                    "Log_Trip_Ground"};
+    for (int I = 0; I < 4; ++I) Row.Read(Keys[I], Counts[I]);
+    const Log_Speeds Speeds{Take_Value<float>(Row, "Water_kn"), Take_Value<float>(Row, "Ground_kn")};
+    return Compose_VLW({Number(Row, "Log_VLW_Seconds"), Counts[0], Counts[1], Counts[2], Counts[3]}, Speeds,
+                       R, No_Checksum(Row));
 }
 
 template <class Number>
@@ -183,13 +96,15 @@ std::string Pattern(Golden_Row& Row) {
     return Kind == "float" ? Format_Value<double>(Row) : Format_Value<std::int32_t>(Row);
 }
 
-std::map<std::string, Golden_Reader> All_Readers() {
-    std::map<std::string, Golden_Reader> Readers = {
-        {"dtm", DTM}, {"gga", GGA}, {"gll", GLL}, {"gns", GNS}, {"gsa", GSA},         {"gst", GST},
-        {"gsv", GSV}, {"rmc", RMC}, {"vtg", VTG}, {"zda", ZDA}, {"patterns", Pattern}};
-    Readers.merge(Sensor_Readers());
-    return Readers;
-}
+const std::map<std::string, Golden_Reader> Readers = {
+    {"att", Composed<Compose_ATT>}, {"dbt", Composed<Compose_DBT>},     {"dpt", Composed<Compose_DPT>},
+    {"dtm", Composed<Compose_DTM>}, {"gga", Composed<Compose_GGA>},     {"gll", Composed<Compose_GLL>},
+    {"gns", Composed<Compose_GNS>}, {"gsa", Composed<Compose_GSA>},     {"gst", Composed<Compose_GST>},
+    {"gsv", Composed<Compose_GSV>}, {"hdt", Composed<Compose_HDT>},     {"mwd", Composed<Compose_MWD>},
+    {"mwv", Composed<Compose_MWV>}, {"prdid", Composed<Compose_PRDID>}, {"rmc", Composed<Compose_RMC>},
+    {"rot", Composed<Compose_ROT>}, {"ths", Composed<Compose_THS>},     {"vbw", Composed<Compose_VBW>},
+    {"vdr", Composed<Compose_VDR>}, {"vhw", Composed<Compose_VHW>},     {"vlw", VLW},
+    {"vtg", Composed<Compose_VTG>}, {"zda", Composed<Compose_ZDA>},     {"patterns", Pattern}};
 
 // Nothing but printable characters, and a checksum that a listener accepts.
 void Check_Wire_Form(const std::string& Sentence) {
@@ -205,7 +120,7 @@ void Check_Wire_Form(const std::string& Sentence) {
 }
 
 TEST(Golden, Every_Row) {
-    for (const auto& [Stem, Compose] : All_Readers()) {
+    for (const auto& [Stem, Compose] : Readers) {
         const auto Rows = Load_Golden_Rows(Golden_Folder / (Stem + ".txt"));
         EXPECT_GE(Rows.size(), 4u) << Stem;
         for (Golden_Row Row : Rows) {
@@ -218,7 +133,6 @@ TEST(Golden, Every_Row) {
 }
 
 TEST(Golden, Every_File_Has_A_Reader) {
-    const auto Readers = All_Readers();
     for (const auto& Entry : std::filesystem::directory_iterator(Golden_Folder)) {
         const bool Is_Rows = Entry.path().extension() == ".txt";
         EXPECT_TRUE(!Is_Rows || Readers.contains(Entry.path().stem().string())) << Entry.path();

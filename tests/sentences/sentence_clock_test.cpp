@@ -3,6 +3,7 @@
 #include "fake_clock.hpp"
 #include "sentences/compose_rmc.hpp"
 #include "sentences/compose_zda.hpp"
+#include "sentences/utc_state.hpp"
 
 #include <gtest/gtest.h>
 

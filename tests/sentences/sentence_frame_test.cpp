@@ -5,6 +5,7 @@
 #include "sentences/sentence_frame.hpp"
 
 #include "fake_clock.hpp"
+#include "sentences/utc_state.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+#include "sensors/log/log_state.hpp"
 #include "sentences/compose_att.hpp"
 #include "sentences/compose_dbt.hpp"
 #include "sentences/compose_dpt.hpp"
@@ -31,7 +32,10 @@ struct Ten_Seconds {
 
     Ten_Seconds() { Counters.Log_VLW_Seconds = {{10, 10}}; }
     std::string Send(float Water_kn, float Ground_kn, std::int16_t Log = 1) {
-        return Compose_VLW(Counters, {Water_kn, Ground_kn}, Record, Log, true);
+        return Compose_VLW({Counters.Log_VLW_Seconds[Log], Counters.Log_Total_Water[Log],
+                            Counters.Log_Trip_Water[Log], Counters.Log_Total_Ground[Log],
+                            Counters.Log_Trip_Ground[Log]},
+                           {Water_kn, Ground_kn}, Record, true);
     }
 };
 

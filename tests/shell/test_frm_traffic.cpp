@@ -1,8 +1,8 @@
 #include "shell/monitors/traffic/frm_traffic.hpp"
 
+#include "shell/state/link_state.hpp"
 #include "shell/transmit/record_format.hpp"
 #include "tests/support/virtual_simulator.hpp"
-#include "shell/state/link_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -14,10 +14,10 @@ constexpr const char* VTG = "$GPVTG,33*00";  // and this one is not
 struct Traffic : testing::Test, Virtual_Simulator {
     Traffic() : Virtual_Simulator(45296.5) { // 12:34:56.5
         Use({17, 18});
-        Click(Sim.Main->mnuTraffic);
+        Click(Main_Window(Sim).Item("mnuTraffic"));
         Told.clear();
     }
-    frmTraffic& F() { return *Sim.Traffic; }
+    frmTraffic& F() { return *Open_One<frmTraffic>(Sim); }
     std::string Cell(int Row, int Column) { return F().hfgTraffic.At(Row, Column).Text; }
     Texts Sentences() {
         Texts All;
@@ -55,7 +55,7 @@ TEST_F(Traffic, Lists_Each_Sentence_With_What_Is_To_Be_Known_Of_It) {
     EXPECT_EQ(Sentences(), (Texts{GGA, VTG, "no sentence"}));
     EXPECT_EQ(*F().lblCount.Caption, "3 of 3 sentences");
     EXPECT_EQ(Entries(F().cmbType), (Texts{"All types", "?", "GGA", "VTG"}));
-    EXPECT_TRUE(*Sim.Main->mnuTraffic.Checked);
+    EXPECT_TRUE(*Main_Window(Sim).Item("mnuTraffic").Checked);
 }
 
 TEST_F(Traffic, Filters_By_Port_Type_And_Text) {
@@ -84,7 +84,7 @@ TEST_F(Traffic, Filters_By_Port_Type_And_Text) {
     Sim.State.Of<Link_State>().UDP_Port_Number[0] = 61000;
     Init();
     Send(GGA, 19);
-    Rebuild_Port_List(Sim, F());
+    Sim.Told.Links_Chosen.Tell();
     EXPECT_EQ(Entries(F().cmbPort), (Texts{"All ports", "TCP/IP", "UDP 61000", "UDP 60002"}));
 }
 
@@ -107,15 +107,13 @@ TEST_F(Traffic, Pauses_Clears_And_Ends_With_Its_Window) {
     Send(GGA, 17);
     EXPECT_EQ(Sentences(), Texts{GGA});
 
-    const std::size_t Listeners = Sim.On_Sent.size();
     Close(F());
-    EXPECT_EQ(Sim.On_Sent.size(), Listeners - 1); // nothing is left behind that costs time
-    EXPECT_FALSE(*Sim.Main->mnuTraffic.Checked);
+    EXPECT_FALSE(*Main_Window(Sim).Item("mnuTraffic").Checked);
     Send(GGA, 17);
     EXPECT_EQ(Left.back().second, std::string(GGA) + "\r\n"); // the other listener still hears
-    Click(Sim.Main->mnuTraffic);
+    Click(Main_Window(Sim).Item("mnuTraffic"));
     EXPECT_EQ(F().hfgTraffic.Rows(), 0);
-    Click(Sim.Main->mnuTraffic); // no second ear
+    Click(Main_Window(Sim).Item("mnuTraffic")); // no second ear
     Send(GGA, 17);
     EXPECT_EQ(F().hfgTraffic.Rows(), 1);
 }

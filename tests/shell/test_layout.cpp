@@ -8,19 +8,19 @@
 namespace brinewright {
 namespace {
 
-struct Layouts : All_Windows, testing::TestWithParam<const char*> {};
+struct Layouts : Every_Window, testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(Mode, Layouts, testing::Values("Sensor", "Ship"),
                          [](const auto& Info) { return std::string(Info.param); });
 
 TEST_P(Layouts, Place_Every_Control_Once) {
     Start(Full_Setup(GetParam()));
-    Open_All_Windows();
+    Open_Every_Window();
     for (const auto& F : Sim.Windows.Forms) {
-        const Layout_Function Lay_Out = Find_Layout(F->Name);
+        const Window_Class* const Class = Find_Class(Sim, F->Name);
         if (F == Sim.Main) continue;
-        ASSERT_TRUE(Lay_Out) << F->Path();
+        ASSERT_TRUE(Class && Class->Lay_Out) << F->Path();
         std::map<const Control*, int> Places;
-        For_Each_Placed(Lay_Out(Sim, *F), [&](const Visible_Control& C) {
+        For_Each_Placed(Class->Lay_Out(Sim, *F), [&](const Visible_Control& C) {
             EXPECT_EQ(&C.Owner, F.get()) << F->Path() << " has " << C.Owner.Path() << "." << C.Path();
             ++Places[&C];
         });

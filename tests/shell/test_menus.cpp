@@ -1,7 +1,7 @@
 #include "ownship/ship/frm_ship.hpp"
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -11,12 +11,12 @@ constexpr const char* Saved_Box = "Setup saved as /data/Brinewright.ini";
 // Started in Sensor mode on a setup without windows.
 struct Menus : testing::Test, Virtual_Simulator {
     void SetUp() override {
-        Load_Default_Data(Setup);
+        Load_Default_Data(Setup, All_Windows());
         Setup.Of<Shell_State>().Mode = "Sensor";
         Setup.Of<Link_State>().Comport_Count = 1;
         Start(Setup);
     }
-    frmMain& Main() { return *Sim.Main; }
+    frmMain& Main() { return Main_Window(Sim); }
     Simulator_State Setup;
 };
 
@@ -78,33 +78,33 @@ TEST_F(Menus, Fault_Options_And_The_Start_Option_Tell_What_They_Do) {
         Menu_Item& Item;
         const char *On, *Off;
     } Options[] = {
-        {Main().mnuOptionsChecksumDisabled,
+        {Main().Item("mnuOptionsChecksumDisabled"),
          "Checksum disabled. All simulated NMEA messages will be without checksum",
          "Checksum enabled again. All simulated NMEA messages will be with checksum"},
-        {Main().mnuOptionsFaultyChecksum,
+        {Main().Item("mnuOptionsFaultyChecksum"),
          "Faulty checksum enabled. All simulated NMEA messages will be simulated with faulty checksum",
          nullptr},
-        {Main().mnuOptionsCrLfDisabled,
+        {Main().Item("mnuOptionsCrLfDisabled"),
          "Merged messages will be simulated. All simulated NMEA messages will be without Carriage "
          "return/Line Feed",
          nullptr},
-        {Main().mnuOptionCuttedMsg,
+        {Main().Item("mnuOptionCuttedMsg"),
          "Cutted messages will be simulated. All simulated NMEA messages will be cutted at a random "
          "character",
          nullptr},
-        {Main().mnuOptionSplittedMsg,
+        {Main().Item("mnuOptionSplittedMsg"),
          "Splitted messages will be simulated. All simulated NMEA messages will be cutted at a random "
          "character and "
          "remaining characters will start next message",
          nullptr},
-        {Main().mnuSetupStartOption,
+        {Main().Item("mnuSetupStartOption"),
          "At restart the program will start with pos, speed, course etc. from last session", nullptr}};
     for (const auto& O : Options) {
         EXPECT_FALSE(*O.Item.Checked);
         Click(O.Item);
         EXPECT_TRUE(*O.Item.Checked);
         EXPECT_EQ(Take_Boxes(), Texts{O.On});
-        if (&O.Item == &Main().mnuSetupStartOption) {
+        if (&O.Item == &Main().Item("mnuSetupStartOption")) {
             EXPECT_TRUE(Sim.State.Of<Shell_State>().Start_With_Last_Navdata);
         }
         Click(O.Item);
@@ -117,48 +117,49 @@ TEST_F(Menus, Fault_Options_And_The_Start_Option_Tell_What_They_Do) {
 TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     Open_Form(2);
     Open_Form(1);
-    mnuMonitor_Click(Sim);
-    const std::weak_ptr<Form> Old = Sim.frmPosition_Instance[1];
-    EXPECT_FALSE(*Sim.frmPosition_Instance[1]->lblShipControl.Visible);
-    Click(Main().mnuMode_Sensor); // checked already: nothing at all
+    Open_Window(Sim, "frmMonitor");
+    const std::weak_ptr<Form> Old = Sim.Windows.Forms[2];
+    ASSERT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
+    EXPECT_FALSE(*Open_One<frmPosition>(Sim, 1)->lblShipControl.Visible);
+    Click(Main().Item("mnuMode", 2)); // checked already: nothing at all
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
-    EXPECT_EQ(Old.lock(), Sim.frmPosition_Instance[1]);
+    EXPECT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
 
-    Sim.frmPosition_Instance[1]->Set_Place(11, 12, 13, 14);
-    Click(Main().mnuMode_Ship);
+    Open_One<frmPosition>(Sim, 1)->Set_Place(11, 12, 13, 14);
+    Click(Main().Item("mnuMode", 1));
     EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
-    EXPECT_TRUE(*Main().mnuMode_Ship.Checked);
-    EXPECT_FALSE(*Main().mnuMode_Sensor.Checked);
+    EXPECT_TRUE(*Main().Item("mnuMode", 1).Checked);
+    EXPECT_FALSE(*Main().Item("mnuMode", 2).Checked);
     EXPECT_TRUE(Old.expired());
     for (const int I : {1, 2}) {
-        ASSERT_TRUE(Sim.frmPosition_Instance[I]);
-        EXPECT_TRUE(*Main().mnuOpenForm(I)->Checked);
-        EXPECT_TRUE(*Sim.frmPosition_Instance[I]->lblShipControl.Visible);
+        ASSERT_TRUE(Open_One<frmPosition>(Sim, I));
+        EXPECT_TRUE(*Main().Item("mnuOpenForm", I).Checked);
+        EXPECT_TRUE(*Open_One<frmPosition>(Sim, I)->lblShipControl.Visible);
     }
-    EXPECT_EQ(Sim.frmPosition_Instance[1]->Left, 11);
-    EXPECT_EQ(Sim.Windows.Active_Form, static_cast<Form*>(Sim.Ship.get()));
+    EXPECT_EQ(Open_One<frmPosition>(Sim, 1)->Left, 11);
+    EXPECT_EQ(Sim.Windows.Active_Form, static_cast<Form*>(Open_One<frmShip>(Sim)));
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0); // they stand again
-    EXPECT_TRUE(Sim.Monitor);
+    EXPECT_TRUE(Open_One<frmMonitor>(Sim));
 
     // The list of kept windows is left as it is, also when it is full.
     Sim.State.Of<Shell_State>().Open_Form_Count = 20;
     Sim.State.Of<Shell_State>().Open_Form_List[20].Name = "the last";
-    Click(Main().mnuMode_Sensor);
+    Click(Main().Item("mnuMode", 2));
     EXPECT_EQ(Take_Boxes(), Texts{});
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 20);
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_List[20].Name, "the last");
     EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Sensor");
     for (const int I : {1, 2}) {
-        ASSERT_TRUE(Sim.frmPosition_Instance[I]);
-        EXPECT_FALSE(*Sim.frmPosition_Instance[I]->lblShipControl.Visible);
+        ASSERT_TRUE(Open_One<frmPosition>(Sim, I));
+        EXPECT_FALSE(*Open_One<frmPosition>(Sim, I)->lblShipControl.Visible);
     }
 }
 
 TEST_F(Menus, A_Second_Choice_Of_A_Window_Gives_It_The_Focus) {
     Open_Form(1);
     Open_Form(2);
-    Click(*Main().mnuOpenForm(1));
-    EXPECT_EQ(Sim.Windows.Active_Form, Sim.frmPosition_Instance[1].get());
+    Click(Main().Item("mnuOpenForm", 1));
+    EXPECT_EQ(Sim.Windows.Active_Form, Open_One<frmPosition>(Sim, 1));
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Index, 1);
     EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
     Open_Form(0); // a setup can name any window
@@ -171,22 +172,22 @@ TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
     Open_Form(1);
     Open_Form(2);
     for (int Save = 1; Save <= 10; ++Save) {
-        Click(Main().mnuFileSave);
+        Click(Main().Item("mnuFileSave"));
         EXPECT_EQ(Take_Boxes(), Texts{Saved_Box});
-        EXPECT_EQ(Saved().Open_Form_Count, 2 * Save);
+        EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_Count, 2 * Save);
         EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 2 * Save);
     }
     const std::string Before = Disk.Content.at(Setup_Name);
-    Click(Main().mnuFileSave);
+    Click(Main().Item("mnuFileSave"));
     EXPECT_EQ(Take_Boxes(), Texts{"Subscript out of range"});
     EXPECT_EQ(Disk.Content.at(Setup_Name), Before);
-    EXPECT_TRUE(Sim.frmPosition_Instance[1]);
+    EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
 }
 
 TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
     Open_Form(2);
     for (int Save = 1; Save <= 2; ++Save) {
-        Click(Main().mnuFileSaveAs);
+        Click(Main().Item("mnuFileSaveAs"));
         ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
         const File_Dialog& Dialog = Sim.Windows.File_Dialogs[0];
         EXPECT_TRUE(Dialog.Save);
@@ -196,19 +197,19 @@ TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
         EXPECT_EQ(Dialog.Folder, "/data/");
         Answer_File("/tmp/mine.ini");
         EXPECT_EQ(Take_Boxes(), Texts{"Setup saved as /tmp/mine.ini"});
-        EXPECT_EQ(Saved("/tmp/mine.ini").Open_Form_Count, 1);
-        EXPECT_EQ(Saved("/tmp/mine.ini").Open_Form_List[1].Index, 2);
+        EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_Count, 1);
+        EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_List[1].Index, 2);
         EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     }
-    Click(Main().mnuFileSaveAs);
+    Click(Main().Item("mnuFileSaveAs"));
     Answer_File("");
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_TRUE(Told.empty());
 
     Disk.Refuse_Writing = true;
-    Click(Main().mnuFileSaveAs);
+    Click(Main().Item("mnuFileSaveAs"));
     Answer_File("/tmp/mine.ini");
-    Click(Main().mnuFileSave);
+    Click(Main().Item("mnuFileSave"));
     EXPECT_EQ(Take_Boxes(), (Texts{"Disk full", "Disk full"}));
 }
 
@@ -216,7 +217,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Use({3, 10, 11, 17, 18});
     Open_Form(1);
     World.Log.clear();
-    Click(Main().mnuFileOpen);
+    Click(Main().Item("mnuFileOpen"));
     ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
     EXPECT_FALSE(Sim.Windows.File_Dialogs[0].Save);
     EXPECT_EQ(Sim.Windows.File_Dialogs[0].Title, "Open Setup File");
@@ -224,15 +225,13 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     EXPECT_EQ(Sim.Windows.File_Dialogs[0].Default_Extension, ".ini");
     EXPECT_EQ(Sim.Windows.File_Dialogs[0].Folder, "/data/");
     Answer_File("");
-    EXPECT_TRUE(Sim.frmPosition_Instance[1]);
+    EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
 
-    // A file that is not there changes nothing but the check of the start option.
-    Sim.State.Of<Shell_State>().Start_With_Last_Navdata = true;
-    Click(Main().mnuFileOpen);
+    // A file that is not there changes nothing.
+    Click(Main().Item("mnuFileOpen"));
     Answer_File("/tmp/none.ini");
     EXPECT_EQ(Take_Boxes(), Texts{"File /tmp/none.ini do not exist."});
-    EXPECT_TRUE(*Main().mnuSetupStartOption.Checked);
-    EXPECT_TRUE(Sim.frmPosition_Instance[1]);
+    EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
     EXPECT_TRUE(World.Log.empty());
 
     // Ports 1 to 10 are closed; without ports in the new setup the others stay as they are.
@@ -240,27 +239,29 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Other.Of<Shell_State>().Mode = "Ship";
     Other.Of<Link_State>().Comport_Count = 0;
     Other.Of<Link_State>().Sensor_Table[1].Name = "As in the file";
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmPosition", 2, 210, 220, 5230, 7240};
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmShip", 0, 1, 2, 3, 4};
-    Disk.Content["/tmp/other.ini"] = Write_Setup(Other);
+    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {
+        "frmPosition", 2, 210, 220, 5230, 7240};
+    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmShip", 0, 1,
+                                                                                         2,         3, 4};
+    Disk.Content["/tmp/other.ini"] = Write_Setup(Other, All_Windows());
     const auto Before_us = Now_us();
-    Click(Main().mnuFileOpen);
+    Click(Main().Item("mnuFileOpen"));
     Answer_File("/tmp/other.ini");
     EXPECT_EQ(Now_us(), Before_us); // no waits here
     EXPECT_EQ(World.Log, (Texts{"COM 3 close", "COM 10 close"}));
-    EXPECT_FALSE(Sim.frmPosition_Instance[1]);
-    ASSERT_TRUE(Sim.frmPosition_Instance[2]);
-    EXPECT_EQ(Sim.frmPosition_Instance[2]->Top, 210);
+    EXPECT_FALSE(Open_One<frmPosition>(Sim, 1));
+    ASSERT_TRUE(Open_One<frmPosition>(Sim, 2));
+    EXPECT_EQ(Open_One<frmPosition>(Sim, 2)->Top, 210);
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
-    EXPECT_TRUE(*Main().mnuMode_Ship.Checked);
-    EXPECT_FALSE(*Main().mnuMode_Sensor.Checked);
+    EXPECT_TRUE(*Main().Item("mnuMode", 1).Checked);
+    EXPECT_FALSE(*Main().Item("mnuMode", 2).Checked);
     EXPECT_EQ(Sim.State.Of<Link_State>().Sensor_Table[1].Name, "As in the file");
 
     // With ports they are brought to the new state; port 11 is not used any more and is let go.
     Other.Of<Link_State>().Comport_Count = 2;
     Set_Up_Link(Other, 10);
-    Disk.Content["/tmp/other.ini"] = Write_Setup(Other);
+    Disk.Content["/tmp/other.ini"] = Write_Setup(Other, All_Windows());
     World.Log.clear();
     Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
     EXPECT_EQ(World.Log, (Texts{"COM 10 open 4800,n,8,1", "COM 11 close", "listen close"}));
@@ -271,7 +272,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     EXPECT_EQ(Take_Boxes(), Texts{"Overflow  Default data loaded"});
     EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
     Stop();
-    EXPECT_EQ(Saved().TCP_Port, 8040);
+    EXPECT_EQ(Saved().Of<Link_State>().TCP_Port, 8040);
 }
 
 } // namespace

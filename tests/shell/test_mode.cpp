@@ -1,14 +1,14 @@
+#include "gnss/gnss_state.hpp"
+#include "ownship/navdata_state.hpp"
 #include "ownship/ship/frm_ship.hpp"
+#include "sensors/gyro/gyro_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "sensors/wind/wind_state.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/sensor_form.hpp"
-#include "tests/support/virtual_simulator.hpp"
-#include "gnss/gnss_state.hpp"
-#include "sensors/gyro/gyro_state.hpp"
 #include "shell/state/link_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "shell/state/shell_state.hpp"
-#include "sensors/wind/wind_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -17,7 +17,7 @@ constexpr int Windows = 10;
 
 // Ship mode as a setup file gives it, with these sensor windows and, first of all, the ship window.
 struct Modes : testing::Test, Virtual_Simulator {
-    void SetUp() override { Load_Default_Data(Setup); }
+    void SetUp() override { Load_Default_Data(Setup, All_Windows()); }
     void Begin(const std::string& Mode, std::initializer_list<std::int16_t> Indices) {
         Setup.Of<Shell_State>().Mode = Mode;
         Setup.Of<Link_State>().Comport_Count = 1;
@@ -30,7 +30,9 @@ struct Modes : testing::Test, Virtual_Simulator {
         Set_Up_Link(Setup, 17);
         for (const int Index : Indices) Setup.Of<Link_State>().Sensor_Table[Index].Port = 17;
     }
-    Sensor_Form& Window(int Index) { return *Sensor_Window(Sim, static_cast<std::int16_t>(Index)); }
+    Sensor_Form& Window(int Index) {
+        return static_cast<Sensor_Form&>(*Open_Form_Of_Index(Sim, static_cast<std::int16_t>(Index)));
+    }
     std::vector<std::string> Open_Names() const {
         std::vector<std::string> Names;
         for (const auto& F : Sim.Windows.Forms) Names.push_back(F->Path());
@@ -42,16 +44,16 @@ struct Modes : testing::Test, Virtual_Simulator {
 TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
     Begin("Ship", {3, 0, 5});
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmShip", "frmGyro[1]", "frmLog[1]"}));
-    EXPECT_EQ(Sim.Ship->Left, 200); // its place in the list counts, wherever in it it stands
+    EXPECT_EQ(Open_One<frmShip>(Sim)->Left, 200); // its place in the list counts, wherever in it it stands
     EXPECT_EQ(Window(3).Left, 203);
     EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_NEAR(static_cast<double>(Now_us()), 2 * 350'000, 2000);
-    EXPECT_TRUE(*Sim.Main->mnuShip.Checked);
-    EXPECT_TRUE(*Sim.Main->mnuShip.Enabled);
-    EXPECT_TRUE(*Sim.Main->mnuSetupShip.Enabled);
+    EXPECT_TRUE(*Main_Window(Sim).Item("mnuShip").Checked);
+    EXPECT_TRUE(*Main_Window(Sim).Item("mnuShip").Enabled);
+    EXPECT_TRUE(*Main_Window(Sim).Item("mnuSetupShip").Enabled);
 
     // The places are kept at the end, and found again.
-    Sim.Ship->Left = 777;
+    Open_One<frmShip>(Sim)->Left = 777;
     Stop();
     EXPECT_EQ(Take_Boxes(), Texts{});
     const Simulator_State Kept = Saved();
@@ -67,9 +69,9 @@ TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
 TEST_F(Modes, In_Sensor_Mode_There_Is_No_Ship_Window) {
     Begin("Sensor", {0, 3}); // as after a change of mode in a version that kept the ship window in the list
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmGyro[1]"}));
-    EXPECT_FALSE(*Sim.Main->mnuShip.Enabled);
-    EXPECT_FALSE(*Sim.Main->mnuSetupShip.Enabled);
-    EXPECT_FALSE(Sim.Windows.Usable(Sim.Main->mnuShip));
+    EXPECT_FALSE(*Main_Window(Sim).Item("mnuShip").Enabled);
+    EXPECT_FALSE(*Main_Window(Sim).Item("mnuSetupShip").Enabled);
+    EXPECT_FALSE(Sim.Windows.Usable(Main_Window(Sim).Item("mnuShip")));
 }
 
 TEST_F(Modes, Every_Sensor_Window_Has_Its_Item_Its_Caption_And_Its_Tag) {
@@ -85,25 +87,25 @@ TEST_F(Modes, Every_Sensor_Window_Has_Its_Item_Its_Caption_And_Its_Tag) {
                                            "Wind gauge  1",
                                            "Wind gauge  2"};
     for (int Index = 1; Index <= Windows; ++Index) {
-        Click(*Sim.Main->mnuOpenForm(Index));
+        Click(Main_Window(Sim).Item("mnuOpenForm", Index));
         EXPECT_EQ(Window(Index).Caption, Captions[Index - 1]);
         EXPECT_EQ(Window(Index).Tag, std::to_string(Index));
         EXPECT_EQ(Window(Index).Instance, Index % 2 == 0 ? 2 : 1);
     }
     EXPECT_EQ(Window(5).Width, 2800);
-    EXPECT_EQ(Sim.Main->mnuOpenForm(11), nullptr);
+    EXPECT_THROW(Main_Window(Sim).Item("mnuOpenForm", 11), std::logic_error);
 
     // Choosing again gives the focus; for an echo sounder to the log of the same number.
     for (int Index = 1; Index <= Windows; ++Index) {
-        Click(*Sim.Main->mnuOpenForm(Index));
+        Click(Main_Window(Sim).Item("mnuOpenForm", Index));
         EXPECT_EQ(Sim.Windows.Active_Form, &Window(Index == 7 || Index == 8 ? Index - 2 : Index));
     }
     Close(Window(6));
     EXPECT_EQ(Sim.Windows.Active_Form, &Window(10)); // it stays where it was
     Close(Window(10));
     EXPECT_EQ(Sim.Windows.Active_Form, &Window(9)); // the one that was active before
-    Click(*Sim.Main->mnuOpenForm(2));
-    Click(*Sim.Main->mnuOpenForm(8)); // without that log nothing gets it
+    Click(Main_Window(Sim).Item("mnuOpenForm", 2));
+    Click(Main_Window(Sim).Item("mnuOpenForm", 8)); // without that log nothing gets it
     EXPECT_EQ(Sim.Windows.Active_Form, &Window(2));
     EXPECT_EQ(Sim.Windows.Forms.size(), 9u);
 }
@@ -113,20 +115,20 @@ TEST_F(Modes, Changing_Back_And_Forth_Keeps_All_Windows_And_Places) {
     for (int Index = 1; Index <= Windows; ++Index) Window(Index).Left = static_cast<float>(10 * Index);
     for (int Times = 0; Times < 3; ++Times) {
         const std::weak_ptr<Form> Old = Window(9).weak_from_this();
-        Click(Sim.Main->mnuMode_Sensor);
+        Click(Main_Window(Sim).Item("mnuMode", 2));
         EXPECT_TRUE(Old.expired());
-        EXPECT_FALSE(Sim.Ship);
-        EXPECT_FALSE(*Sim.Main->mnuShip.Checked);
+        EXPECT_FALSE(Open_One<frmShip>(Sim));
+        EXPECT_FALSE(*Main_Window(Sim).Item("mnuShip").Checked);
         EXPECT_EQ(Sim.Windows.Forms.size(), 11u);
-        Click(Sim.Main->mnuMode_Ship);
-        ASSERT_TRUE(Sim.Ship);
+        Click(Main_Window(Sim).Item("mnuMode", 1));
+        ASSERT_TRUE(Open_One<frmShip>(Sim));
         EXPECT_EQ(Sim.Windows.Forms.size(), 12u);
     }
     EXPECT_EQ(Take_Boxes(), Texts{});
     for (int Index = 1; Index <= Windows; ++Index) EXPECT_EQ(Window(Index).Left, 10 * Index);
     Stop();
     EXPECT_EQ(Take_Boxes(), Texts{});
-    EXPECT_EQ(Saved().Open_Form_Count, 11);
+    EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_Count, 11);
 }
 
 TEST_F(Modes, Opening_A_Setup_Exchanges_The_Ship_Window_Too) {
@@ -134,20 +136,21 @@ TEST_F(Modes, Opening_A_Setup_Exchanges_The_Ship_Window_Too) {
     Simulator_State Other = Setup;
     Other.Of<Shell_State>().Open_Form_Count = 0;
     Other.Of<Shell_State>().Mode = "Sensor";
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmWind", 9, 1, 2, 3, 4};
-    Disk.Content["/other.ini"] = Write_Setup(Other);
-    Click(Sim.Main->mnuFileOpen);
+    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmWind", 9, 1,
+                                                                                         2,         3, 4};
+    Disk.Content["/other.ini"] = Write_Setup(Other, All_Windows());
+    Click(Main_Window(Sim).Item("mnuFileOpen"));
     Answer_File("/other.ini");
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmWind[1]"}));
-    EXPECT_FALSE(*Sim.Main->mnuShip.Enabled);
+    EXPECT_FALSE(*Main_Window(Sim).Item("mnuShip").Enabled);
 
-    Click(Sim.Main->mnuFileOpen);
+    Click(Main_Window(Sim).Item("mnuFileOpen"));
     Answer_File(Setup_Name);
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmShip", "frmGyro[1]"}));
 
-    Click(Sim.Main->mnuFileSave);
-    EXPECT_EQ(Saved().Open_Form_List[1].Name, "frmShip");
-    EXPECT_EQ(Saved().Open_Form_List[2].Name, "frmGyro");
+    Click(Main_Window(Sim).Item("mnuFileSave"));
+    EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_List[1].Name, "frmShip");
+    EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_List[2].Name, "frmGyro");
 }
 
 // The value in field Number of the last sentence of this type that left.
@@ -180,17 +183,18 @@ TEST_F(Modes, A_Pause_Ends_With_The_Window_That_Could_End_It) {
     Send_On_TCP({3});
     Setup.Of<Gyro_State>().HDT_Enabled[1] = true;
     Begin("Ship", {0, 3});
-    Click(Sim.Ship->cmdPause);
+    Click(Open_One<frmShip>(Sim)->cmdPause);
     Run_s(3);
     EXPECT_TRUE(Left.empty());
-    Click(Sim.Main->mnuMode_Sensor);
+    Click(Main_Window(Sim).Item("mnuMode", 2));
     Run_s(3);
     EXPECT_FALSE(Left.empty());
 }
 
 TEST_F(Modes, One_Ship_Drives_All_Sensors) {
     Send_On_TCP({1, 3, 5, 9});
-    Setup.Of<GNSS_State>().VTG_Enabled[1] = Setup.Of<Gyro_State>().HDT_Enabled[1] = Setup.Of<Gyro_State>().ROT_Enabled[1] = Setup.Of<Log_State>().VHW_Enabled[1] = true;
+    Setup.Of<GNSS_State>().VTG_Enabled[1] = Setup.Of<Gyro_State>().HDT_Enabled[1] =
+        Setup.Of<Gyro_State>().ROT_Enabled[1] = Setup.Of<Log_State>().VHW_Enabled[1] = true;
     Setup.Of<GNSS_State>().GLL_Enabled[1] = Setup.Of<Wind_State>().MWV_Enabled[1] = true;
     Setup.Of<Shell_State>().Start_With_Last_Navdata = true;
     Setup.Of<Navdata_State>().Nav_SOG = 12;

@@ -1,6 +1,6 @@
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/iec450_state.hpp"
 #include "shell/state/link_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -16,10 +16,10 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
     V.Use({2, 16, 17, 18, 28});
     V.Sim.State.Of<Link_State>().Port_Table[5].Enabled = true; // ticked, yet not there: it has its pane
     V.Sim.State.Of<Link_State>().Port_Table[6].Present = true;
-    V.Click(V.Sim.Main->mnuMonitor);
-    ASSERT_TRUE(V.Sim.Monitor);
-    EXPECT_TRUE(*V.Sim.Main->mnuMonitor.Checked);
-    frmMonitor& F = *V.Sim.Monitor;
+    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    ASSERT_TRUE(Open_One<frmMonitor>(V.Sim));
+    EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuMonitor").Checked);
+    frmMonitor& F = *Open_One<frmMonitor>(V.Sim);
     EXPECT_EQ(F.Caption, "Comport Monitor");
     const std::map<int, std::string> Names{{2, "COM 2"},   {5, "COM 5"},      {16, "COM 16"},
                                            {17, "TCP/IP"}, {18, "UDP 60001"}, {28, "UDP 60011"}};
@@ -38,22 +38,22 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
 
     // A second choice gives it the focus; closing clears the check.
     V.Open_Form(1);
-    V.Click(V.Sim.Main->mnuMonitor);
+    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
     EXPECT_EQ(V.Sim.Windows.Active_Form, &F);
     V.Close(F);
-    EXPECT_FALSE(*V.Sim.Main->mnuMonitor.Checked);
+    EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuMonitor").Checked);
     V.Send("$M1", 2);
-    V.Click(V.Sim.Main->mnuMonitor);
-    EXPECT_EQ(V.Sim.Monitor->txtCom[2].Text(), "");
+    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[2].Text(), "");
     V.Send("$M2", 2);
-    EXPECT_EQ(V.Sim.Monitor->txtCom[2].Text(), Sentences({2}));
+    EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[2].Text(), Sentences({2}));
 }
 
 TEST(Monitor, A_Pane_Starts_Over_With_Every_Fourth_Sentence) {
     Virtual_Simulator V;
     V.Use({2, 18});
-    V.Click(V.Sim.Main->mnuMonitor);
-    frmMonitor& F = *V.Sim.Monitor;
+    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    frmMonitor& F = *Open_One<frmMonitor>(V.Sim);
     const auto Expect_After = [&](int Number, const std::string& Pane) {
         V.Send("$M" + std::to_string(Number), 18);
         EXPECT_EQ(F.txtCom[18].Text(), Pane);
@@ -84,16 +84,17 @@ TEST(Monitor, The_NUL_Of_The_Header_Becomes_A_Blank) {
     Virtual_Simulator V;
     V.Use({18});
     V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(V.Sim.Main->mnuMonitor);
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
+    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
     const std::string Framed("UdPbC\0\\s:A*11\\$M", 16);
     const auto Shown = [&](const std::string& Text) {
-        V.Click(V.Sim.Monitor->cmdClear[18]);
-        V.Click(V.Sim.Extended_Monitor->cmdClear);
+        V.Click(Open_One<frmMonitor>(V.Sim)->cmdClear[18]);
+        V.Click(Open_One<frmExtendedMonitor>(V.Sim)->cmdClear);
         V.Send(Text, 18);
         EXPECT_EQ(V.World.Sent.back().second, Text + "\r\n");
-        EXPECT_EQ(V.Sim.Extended_Monitor->txtOutput.Text(), V.Sim.Monitor->txtCom[18].Text());
-        return V.Sim.Monitor->txtCom[18].Text();
+        EXPECT_EQ(Open_One<frmExtendedMonitor>(V.Sim)->txtOutput.Text(),
+                  Open_One<frmMonitor>(V.Sim)->txtCom[18].Text());
+        return Open_One<frmMonitor>(V.Sim)->txtCom[18].Text();
     };
     V.Sim.State.Of<IEC450_State>().UdPbC_Header_Enabled = true;
     EXPECT_EQ(Shown(Framed), Framed + "\r\n");
@@ -109,21 +110,21 @@ TEST(Monitor, A_Pane_That_No_Count_Empties_Stays_Bounded) {
     Virtual_Simulator V;
     V.Use({18});
     V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
     V.Sim.State.Of<Link_State>().Extended_Monitor_Lines = 0;
     const std::string Long(5000, 'x');
     for (int I = 0; I < 100; ++I) V.Send(Long, 18);
-    EXPECT_LE(V.Sim.Extended_Monitor->txtOutput.Text().size(), 65536u);
-    EXPECT_TRUE(V.Sim.Extended_Monitor->txtOutput.Text().ends_with("x\r\n"));
+    EXPECT_LE(Open_One<frmExtendedMonitor>(V.Sim)->txtOutput.Text().size(), 65536u);
+    EXPECT_TRUE(Open_One<frmExtendedMonitor>(V.Sim)->txtOutput.Text().ends_with("x\r\n"));
 }
 
 TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     Virtual_Simulator V;
     V.Use({2, 17, 18, 28});
     V.Sim.State.Of<Link_State>().Port_Table[5].Enabled = true;
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
-    frmExtendedMonitor* F = V.Sim.Extended_Monitor.get();
-    EXPECT_TRUE(*V.Sim.Main->mnuExtendedMonitor.Checked);
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    frmExtendedMonitor* F = Open_One<frmExtendedMonitor>(V.Sim);
+    EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuExtendedMonitor").Checked);
     EXPECT_EQ(F->Caption, "Extended Comport Monitor");
     EXPECT_EQ(*F->lblSystem.Caption, "Comport");
     EXPECT_EQ(*F->lblOutput.Caption, "TX - Output");
@@ -147,17 +148,17 @@ TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     EXPECT_EQ(F->txtInput.Text(), "");
 
     V.Close(*F);
-    EXPECT_FALSE(*V.Sim.Main->mnuExtendedMonitor.Checked);
+    EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuExtendedMonitor").Checked);
     V.Send("$M1", 28);
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
-    F = V.Sim.Extended_Monitor.get();
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    F = Open_One<frmExtendedMonitor>(V.Sim);
     EXPECT_EQ(F->cmbComPort.Text(), "UDP 60011 Port");
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
     EXPECT_EQ(V.Sim.Windows.Active_Form, F);
     V.Close(*F);
     V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 5;
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
-    EXPECT_EQ(V.Sim.Extended_Monitor->cmbComPort.Text(), "Select comport");
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    EXPECT_EQ(Open_One<frmExtendedMonitor>(V.Sim)->cmbComPort.Text(), "Select comport");
     EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Port, 5);
 }
 
@@ -165,8 +166,8 @@ TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
     Virtual_Simulator V;
     V.Use({2, 18});
     V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
-    frmExtendedMonitor& F = *V.Sim.Extended_Monitor;
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    frmExtendedMonitor& F = *Open_One<frmExtendedMonitor>(V.Sim);
     // A pane of 200 holds none, and every 200 more one; halves go to the even number. Beside the two panes
     // the window holds 1500.
     for (const auto& [Pane, Lines] :
@@ -205,11 +206,11 @@ TEST(Extended_Monitor, Received_Texts_Count_As_One_Line_Each) {
     Virtual_Simulator V;
     V.Use({18});
     V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(V.Sim.Main->mnuExtendedMonitor);
-    frmExtendedMonitor& F = *V.Sim.Extended_Monitor;
+    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    frmExtendedMonitor& F = *Open_One<frmExtendedMonitor>(V.Sim);
     V.Sim.State.Of<Link_State>().Extended_Monitor_Lines = 3;
     const auto Expect_After = [&](const std::string& Text, const std::string& Pane) {
-        Extended_Monitor_Rx(V.Sim, Text);
+        V.Sim.Told.Received.Tell(18, Text);
         EXPECT_EQ(F.txtInput.Text(), Pane);
     };
     Expect_After("a\nb\nc\n", "a\nb\nc\n");

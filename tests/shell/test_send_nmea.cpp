@@ -1,6 +1,8 @@
-#include "tests/support/virtual_simulator.hpp"
+#include "links/tcp_status/frm_tcpip.hpp"
+#include "shell/state/fault_state.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
@@ -14,12 +16,12 @@ TEST(Send_NMEA, Pause_Comes_Before_Everything_And_A_Standing_Box_Drops_As_Well) 
     Virtual_Simulator V;
     V.Use({1, 18});
     V.Open_Form(1);
-    mnuMonitor_Click(V.Sim);
+    Open_Window(V.Sim, "frmMonitor");
     V.Send("$A*5A", 1);
     const auto Expect_Nothing_Happens = [&] {
         const float Last = V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time;
         const auto Passed = V.Now_us();
-        const std::string Pane = V.Sim.Monitor->txtCom[1].Text();
+        const std::string Pane = Open_One<frmMonitor>(V.Sim)->txtCom[1].Text();
         EXPECT_EQ(V.Send("$GPGGA*5A", 1), "$GPGGA*5A");
         EXPECT_EQ(V.Send("$GPGGA*5A", 18), "$GPGGA*5A");
         EXPECT_EQ(V.World.Sent.size(), 1u);
@@ -27,11 +29,11 @@ TEST(Send_NMEA, Pause_Comes_Before_Everything_And_A_Standing_Box_Drops_As_Well) 
         EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time, Last);
         EXPECT_EQ(V.Now_us(), Passed);
         EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Monitor_Line_Count[0], 1);
-        EXPECT_EQ(V.Sim.Monitor->txtCom[1].Text(), Pane);
+        EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[1].Text(), Pane);
     };
     V.Sim.State.Of<Link_State>().Transmit.Split_Remainder = "tail";
-    V.Click(V.Sim.Main->mnuOptionsFaultyChecksum);
-    V.Click(V.Sim.Main->mnuOptionSplittedMsg);
+    V.Click(Main_Window(V.Sim).Item("mnuOptionsFaultyChecksum"));
+    V.Click(Main_Window(V.Sim).Item("mnuOptionSplittedMsg"));
     V.Sim.State.Of<Shell_State>().Pause_Active = true;
     Expect_Nothing_Happens();
     EXPECT_EQ(V.Sim.Counts.Dropped_By_Box, 0u);
@@ -62,9 +64,9 @@ TEST(Send_NMEA, Checksum_And_Line_End_By_Their_Options) {
                           Case{true, false, false, "", "\r\n"}}) {
         Virtual_Simulator V;
         V.Use({18});
-        V.Sim.Main->mnuOptionsFaultyChecksum.Checked = C.Faulty;
-        V.Sim.Main->mnuOptionsChecksumDisabled.Checked = C.Disabled;
-        V.Sim.Main->mnuOptionsCrLfDisabled.Checked = C.Merged;
+        V.Sim.State.Of<Fault_State>().Fault_Faulty_Checksum = C.Faulty;
+        V.Sim.State.Of<Fault_State>().Fault_No_Checksum = C.Disabled;
+        V.Sim.State.Of<Fault_State>().Fault_Merged = C.Merged;
         EXPECT_EQ(V.Send(C.Text, 18), C.Expected);
         EXPECT_EQ(V.Sent_On("UDP 255.255.255.255:60001"), Texts{C.Expected});
         EXPECT_EQ(V.Left.at(0), std::pair(18, std::string(C.Expected)));
@@ -80,7 +82,7 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     Same_Draws.Seed(7);
     const std::string Sentence = "$GPHDT,123.4,T*3A";
 
-    V.Click(V.Sim.Main->mnuOptionCuttedMsg);
+    V.Click(Main_Window(V.Sim).Item("mnuOptionCuttedMsg"));
     for (int I = 0; I < 40; ++I)
         EXPECT_EQ(V.Send(Sentence, 18),
                   Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size())) + "\r\n");
@@ -88,8 +90,8 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     Same_Draws.Draw();
 
     // The checksum is spoilt first, then the cut, then the split of what the cut left; port 0 takes part.
-    V.Click(V.Sim.Main->mnuOptionSplittedMsg);
-    V.Click(V.Sim.Main->mnuOptionsFaultyChecksum);
+    V.Click(Main_Window(V.Sim).Item("mnuOptionSplittedMsg"));
+    V.Click(Main_Window(V.Sim).Item("mnuOptionsFaultyChecksum"));
     std::string Remainder;
     for (const int Port : {1, 18, 0, 17, 1, 0, 0, 18, 29, 17}) {
         std::string Text = Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size()));
@@ -100,8 +102,8 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     }
 
     // Without the cut nothing is lost: merged pieces are the sentences run together, checksums spoilt.
-    V.Click(V.Sim.Main->mnuOptionCuttedMsg);
-    V.Click(V.Sim.Main->mnuOptionsCrLfDisabled);
+    V.Click(Main_Window(V.Sim).Item("mnuOptionCuttedMsg"));
+    V.Click(Main_Window(V.Sim).Item("mnuOptionsCrLfDisabled"));
     std::string Whole = Remainder;
     std::string Pieces;
     for (int I = 0; I < 20; ++I) {
@@ -139,7 +141,8 @@ TEST(Send_NMEA, Pacing_Is_A_Fresh_Wait_From_The_Moment_Of_Noticing) {
                 EXPECT_TRUE(Waited_us > 2000 && Waited_us < 2100) << Waited_us << " at " << C.Time_Of_Day;
             else
                 EXPECT_EQ(Waited_us, 0) << C.Time_Of_Day << " after " << S.Pause_us;
-            EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time, Time_Of_Day_s(V.World.Machine_Clock.Local_us()));
+            EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time,
+                      Time_Of_Day_s(V.World.Machine_Clock.Local_us()));
         }
     }
 }
@@ -148,8 +151,8 @@ TEST(Send_NMEA, Every_Port_Number_Finds_Its_Link_Or_None) {
     Virtual_Simulator V;
     V.Use({1, 16, 17, 18, 28});
     V.World.Connect();
-    mnuMonitor_Click(V.Sim);
-    mnuExtendedMonitor_Click(V.Sim);
+    Open_Window(V.Sim, "frmMonitor");
+    Open_Window(V.Sim, "frmExtendedMonitor");
     for (const int Port : {0, 29, 32767, -5, -32768}) {
         V.Sim.State.Of<Link_State>().Extended_Monitor_Port = static_cast<std::int16_t>(Port);
         V.Send("$A*5A", Port);
@@ -157,7 +160,7 @@ TEST(Send_NMEA, Every_Port_Number_Finds_Its_Link_Or_None) {
     EXPECT_TRUE(V.World.Sent.empty());
     EXPECT_TRUE(V.Left.empty());
     EXPECT_TRUE(V.Told.empty());
-    for (const auto& Pane : V.Sim.Monitor->txtCom) EXPECT_EQ(Pane->Text(), "");
+    for (const auto& Pane : Open_One<frmMonitor>(V.Sim)->txtCom) EXPECT_EQ(Pane->Text(), "");
     for (const int Port : {1, 16, 17, 18, 28}) V.Send("$P" + std::to_string(Port), Port);
     const std::vector<std::pair<std::string, std::string>> Expected{
         {"COM 1", "$P1\r\n"},
@@ -173,7 +176,7 @@ TEST(Send_NMEA, Every_Port_Number_Finds_Its_Link_Or_None) {
 TEST(Send_NMEA, A_Failing_Serial_Write_Is_Told_Once_Per_Port) {
     Virtual_Simulator V;
     V.Use({3, 4});
-    mnuMonitor_Click(V.Sim);
+    Open_Window(V.Sim, "frmMonitor");
     V.World.Failures["COM 3 output"] = V.World.Failures["COM 4 output"] = "Input/output error";
     for (int I = 0; I < 3; ++I) V.Send("$A*5A", 3);
     ASSERT_EQ(V.Told.size(), 1u);
@@ -186,7 +189,7 @@ TEST(Send_NMEA, A_Failing_Serial_Write_Is_Told_Once_Per_Port) {
     EXPECT_EQ(V.Take_Boxes(), (Texts{"Comport error COM 3. Check your Comport settings!",
                                      "Comport error COM 4. Check your Comport settings!",
                                      "Comport error COM 5. Check your Comport settings!"}));
-    EXPECT_EQ(V.Sim.Monitor->txtCom[3].Text(), ""); // the monitors are not told
+    EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[3].Text(), ""); // the monitors are not told
     EXPECT_TRUE(V.Left.empty());
     EXPECT_EQ(V.Sim.Counts.Failed[3], 3u);
 
@@ -201,13 +204,13 @@ TEST(Send_NMEA, A_Failing_Serial_Write_Is_Told_Once_Per_Port) {
 TEST(Send_NMEA, A_Failing_Datagram_Is_Ignored_And_Shows_On_The_Monitor) {
     Virtual_Simulator V;
     V.Use({18, 19});
-    mnuMonitor_Click(V.Sim);
+    Open_Window(V.Sim, "frmMonitor");
     V.World.Failures["UDP 255.255.255.255:60001 send"] = "Network is unreachable";
     V.Send("$A*5A", 18);
     V.Send("$B*5A", 19);
     V.Send("$C*5A", 20); // never opened
     EXPECT_TRUE(V.Told.empty());
-    EXPECT_EQ(V.Sim.Monitor->txtCom[18].Text(), "$A*5A\r\n");
+    EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[18].Text(), "$A*5A\r\n");
     EXPECT_EQ(V.Left, (std::vector<std::pair<int, std::string>>{{19, "$B*5A\r\n"}})); // only what has left
     EXPECT_EQ(V.Sim.Counts.Failed[18], 1u);
     EXPECT_EQ(V.Sim.Counts.Failed[20], 1u);
@@ -216,7 +219,7 @@ TEST(Send_NMEA, A_Failing_Datagram_Is_Ignored_And_Shows_On_The_Monitor) {
 TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {
     Virtual_Simulator V(45000);
     V.Use({3, 17});
-    auto& Panel = V.Sim.Main->sbStatusBar[3];
+    auto& Panel = Main_Window(V.Sim).sbStatusBar[3];
     const std::string At_First = *Panel.Caption;
     V.Send("$A", 3);
     EXPECT_EQ(*Panel.Caption, At_First);
@@ -230,14 +233,15 @@ TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {
                  {3605, "01:00:05.0"}};
     for (const auto& C : Cases) {
         V.Set_Time_Of_Day(C.Time_s);
-        V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time = 0; // no wait, so that the time stays what it is
+        V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time =
+            0; // no wait, so that the time stays what it is
         V.Send("$A", 3);
         EXPECT_EQ(*Panel.Caption, std::string("COM 3 : TX ") + C.Text);
     }
 
     // The label of the server: one client alone needs a second sentence, with two the second client's sending
     // is one.
-    const auto Label = [&] { return *V.Sim.TCPIP->lblTX.Caption; };
+    const auto Label = [&] { return *Open_One<frmTCPIP>(V.Sim)->lblTX.Caption; };
     V.Send("$A", 17);
     EXPECT_EQ(Label(), ""); // nobody there
     V.World.Connect();
@@ -253,7 +257,7 @@ TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {
     Two.World.Connect();
     Two.World.Connect();
     Two.Send("$A", 17);
-    EXPECT_EQ(*Two.Sim.TCPIP->lblTX.Caption, "TCP/IP : TX 12:34:56.0");
+    EXPECT_EQ(*Open_One<frmTCPIP>(Two.Sim)->lblTX.Caption, "TCP/IP : TX 12:34:56.0");
 }
 
 } // namespace

@@ -1,20 +1,20 @@
-#include "tests/support/virtual_simulator.hpp"
-#include "sensors/echosounder/echo_state.hpp"
 #include "gnss/gnss_state.hpp"
+#include "radar/radar_state.hpp"
+#include "sensors/echosounder/echo_state.hpp"
 #include "sensors/gyro/gyro_state.hpp"
+#include "sensors/log/log_state.hpp"
+#include "sensors/wind/wind_state.hpp"
 #include "shell/state/iec450_state.hpp"
 #include "shell/state/link_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "radar/radar_state.hpp"
 #include "shell/state/shell_state.hpp"
-#include "sensors/wind/wind_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
 
 Simulator_State Default_Setup(const std::string& Mode = "Sensor") {
     Simulator_State S;
-    Load_Default_Data(S);
+    Load_Default_Data(S, All_Windows());
     S.Of<Shell_State>().Mode = Mode;
     return S;
 }
@@ -39,7 +39,8 @@ Simulator_State Two_Windows() {
 
 std::vector<std::int16_t> Saved_Indices(const Simulator_State& S) {
     std::vector<std::int16_t> Indices;
-    for (int I = 1; I <= S.Of<Shell_State>().Open_Form_Count; ++I) Indices.push_back(S.Of<Shell_State>().Open_Form_List[I].Index);
+    for (int I = 1; I <= S.Of<Shell_State>().Open_Form_Count; ++I)
+        Indices.push_back(S.Of<Shell_State>().Open_Form_List[I].Index);
     return Indices;
 }
 
@@ -47,7 +48,8 @@ TEST(Start, Saved_Windows_Open_One_After_The_Other_In_Their_Places) {
     Simulator_State Setup = Two_Windows();
     Setup.Of<Shell_State>().Open_Form_List[3] = Setup.Of<Shell_State>().Open_Form_List[2];
     Setup.Of<Shell_State>().Open_Form_List[2] = Setup.Of<Shell_State>().Open_Form_List[1];
-    Setup.Of<Shell_State>().Open_Form_List[1] = {"frmShip", 0, 1, 2, 3, 4}; // the ship window waits for nothing
+    Setup.Of<Shell_State>().Open_Form_List[1] = {"frmShip", 0, 1,
+                                                 2,         3, 4}; // the ship window waits for nothing
     Setup.Of<Shell_State>().Open_Form_Count = 3;
     Virtual_Simulator V;
     V.Start(Setup);
@@ -55,21 +57,22 @@ TEST(Start, Saved_Windows_Open_One_After_The_Other_In_Their_Places) {
     EXPECT_EQ(V.Sim.State.Of<Shell_State>().Open_Form_Count, 0);
     EXPECT_TRUE(V.Take_Boxes().empty());
     for (const int I : {1, 2}) {
-        const frmPosition& W = *V.Sim.frmPosition_Instance[I];
-        EXPECT_TRUE(*V.Sim.Main->mnuOpenForm(I)->Checked);
+        const frmPosition& W = *Open_One<frmPosition>(V.Sim, I);
+        EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuOpenForm", I).Checked);
         EXPECT_EQ(W.Tag, std::to_string(I));
         EXPECT_EQ(W.Top, 100 * I + 10);
         EXPECT_EQ(W.Left, 100 * I + 20);
         EXPECT_EQ(W.Height, 5030 + 100 * I);
         EXPECT_EQ(W.Width, 7040 + 100 * I);
     }
-    EXPECT_EQ(V.Sim.frmPosition_Instance[1]->Caption, "GNSS  1    (Global Nav Sat System 1)");
-    EXPECT_EQ(V.Sim.frmPosition_Instance[2]->Caption, "GNSS  2    (Global Nav Sat System 2)");
-    EXPECT_EQ(V.Sim.Windows.Active_Form, V.Sim.frmPosition_Instance[2].get());
+    EXPECT_EQ(Open_One<frmPosition>(V.Sim, 1)->Caption, "GNSS  1    (Global Nav Sat System 1)");
+    EXPECT_EQ(Open_One<frmPosition>(V.Sim, 2)->Caption, "GNSS  2    (Global Nav Sat System 2)");
+    EXPECT_EQ(V.Sim.Windows.Active_Form, Open_One<frmPosition>(V.Sim, 2));
 
     // The stagger of the windows stays between their sentences.
     std::vector<std::pair<int, std::int64_t>> Times_us;
-    V.Sim.On_Sent.push_back([&](std::string_view, int Port) { Times_us.emplace_back(Port, V.Now_us()); });
+    V.Sim.Told.Sent.Add(&Times_us,
+                        [&](const Sent_Sentence& S) { Times_us.emplace_back(S.Port, V.Now_us()); });
     V.Run_s(2);
     ASSERT_EQ(Times_us.size(), 4u);
     for (const int I : {0, 1, 2, 3}) {
@@ -88,14 +91,15 @@ TEST(Start, Without_A_Setup_File) {
                      "Please be pasient!"}));
     EXPECT_TRUE(V.Sim.Windows.Find_Form("frmSetup"));
     EXPECT_EQ(V.Sim.State.Of<Shell_State>().Mode, "Ship");
-    EXPECT_TRUE(*V.Sim.Main->mnuMode_Ship.Checked);
-    EXPECT_FALSE(*V.Sim.Main->mnuMode_Sensor.Checked);
+    EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuMode", 1).Checked);
+    EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuMode", 2).Checked);
     EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Port, 8040);
     EXPECT_TRUE(V.World.Log.empty());
-    EXPECT_EQ(*V.Sim.Main->sbStatusBar[1].Caption, "No comports enabled");
-    for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*V.Sim.Main->sbStatusBar[Port].Visible, Port == 1);
+    EXPECT_EQ(*Main_Window(V.Sim).sbStatusBar[1].Caption, "No comports enabled");
+    for (int Port = 1; Port <= 16; ++Port)
+        EXPECT_EQ(*Main_Window(V.Sim).sbStatusBar[Port].Visible, Port == 1);
     EXPECT_EQ(V.Sim.State.Of<Shell_State>().Data_Folder, "/data/");
-    EXPECT_EQ(V.Sim.Main->timer_Sky.Interval_ms(), 10000);
+    EXPECT_EQ(Main_Window(V.Sim).timer_Sky.Interval_ms(), 10000);
 }
 
 TEST(Start, What_The_Setup_Says_And_What_Is_Repaired) {
@@ -110,13 +114,14 @@ TEST(Start, What_The_Setup_Says_And_What_Is_Repaired) {
     Virtual_Simulator V;
     V.Start(Setup);
     EXPECT_TRUE(V.World.Log.empty());
-    EXPECT_EQ(*V.Sim.Main->sbStatusBar[1].Caption, "No comports enabled");
-    EXPECT_TRUE(*V.Sim.Main->mnuSetupStartOption.Checked);
-    EXPECT_TRUE(*V.Sim.Main->mnuOptionIEC450.Checked);
-    EXPECT_TRUE(*V.Sim.Main->mnuMode_Sensor.Checked);
+    EXPECT_EQ(*Main_Window(V.Sim).sbStatusBar[1].Caption, "No comports enabled");
+    EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuSetupStartOption").Checked);
+    EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuOptionIEC450").Checked);
+    EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuMode", 2).Checked);
     const char* Names[] = {"GNSS1", "GNSS2",      "Gyro1", "Gyro2", "Log", "Echosounder",
                            "ARPA",  "Wind Gauge", "Ninth", "",      ""};
-    for (int Slot = 1; Slot <= 11; ++Slot) EXPECT_EQ(V.Sim.State.Of<Link_State>().Sensor_Table[Slot].Name, Names[Slot - 1]);
+    for (int Slot = 1; Slot <= 11; ++Slot)
+        EXPECT_EQ(V.Sim.State.Of<Link_State>().Sensor_Table[Slot].Name, Names[Slot - 1]);
 
     // A file of one section: all else is zero, but for the talkers.
     Virtual_Simulator Bare;
@@ -149,7 +154,7 @@ TEST(Start, Every_Copy_Has_Its_Own_File_And_Caption) {
         Virtual_Simulator V(0, {C.Setup_Option, false, "", C.Instance});
         Simulator_State Setup = Default_Setup();
         Setup.Of<Link_State>().TCP_Port = 4711;
-        V.Disk.Content[C.File] = Write_Setup(Setup);
+        V.Disk.Content[C.File] = Write_Setup(Setup, All_Windows());
         V.Start();
         EXPECT_TRUE(V.Told.empty());
         EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Port, 4711);
@@ -157,7 +162,7 @@ TEST(Start, Every_Copy_Has_Its_Own_File_And_Caption) {
         EXPECT_EQ(V.Sim.Main->Caption, C.Caption);
         V.Sim.State.Of<Link_State>().TCP_Port = 4712;
         V.Stop();
-        EXPECT_EQ(V.Saved(C.File).TCP_Port, 4712);
+        EXPECT_EQ(V.Saved(C.File).Of<Link_State>().TCP_Port, 4712);
         EXPECT_EQ(V.Disk.Content.size(), 1u);
     }
 }
@@ -166,7 +171,7 @@ TEST(Start, The_Main_Window_Has_Its_Place_In_The_Application_Settings) {
     Virtual_Simulator V;
     V.Settings.Values = {{"MainLeft", "250"}, {"MainHeight", "4321.5"}};
     V.Start();
-    frmMain& Main = *V.Sim.Main;
+    frmMain& Main = Main_Window(V.Sim);
     EXPECT_EQ(Main.Left, 250);
     EXPECT_EQ(Main.Top, 1000);
     EXPECT_EQ(Main.Width, 6500);
@@ -187,8 +192,8 @@ TEST(Start, The_Main_Window_Has_Its_Place_In_The_Application_Settings) {
 TEST(Stop, Windows_Add_Themselves_And_The_Setup_Is_Written) {
     Virtual_Simulator V;
     V.Start(Two_Windows());
-    V.Sim.frmPosition_Instance[2]->Set_Place(1, 2, 3, 4);
-    mnuMonitor_Click(V.Sim);
+    Open_One<frmPosition>(V.Sim, 2)->Set_Place(1, 2, 3, 4);
+    Open_Window(V.Sim, "frmMonitor");
     V.Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
     V.Stop();
     EXPECT_TRUE(V.Sim.Ended);
@@ -221,15 +226,15 @@ TEST(Stop, A_Window_Closed_By_Hand_Is_In_The_List_Too_And_Opens_In_Its_First_Pla
     Virtual_Simulator V;
     V.Start(Default_Setup());
     V.Open_Form(1);
-    V.Sim.frmPosition_Instance[1]->Set_Place(11, 12, 13, 14);
-    V.Close(*V.Sim.frmPosition_Instance[1]);
-    EXPECT_FALSE(*V.Sim.Main->mnuOpenForm(1)->Checked);
+    Open_One<frmPosition>(V.Sim, 1)->Set_Place(11, 12, 13, 14);
+    V.Close(*Open_One<frmPosition>(V.Sim, 1));
+    EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuOpenForm", 1).Checked);
     V.Open_Form(2); // no entry: as it comes
-    V.Sim.frmPosition_Instance[2]->Set_Place(21, 22, 23, 24);
+    Open_One<frmPosition>(V.Sim, 2)->Set_Place(21, 22, 23, 24);
     V.Open_Form(1);
-    EXPECT_EQ(V.Sim.frmPosition_Instance[1]->Left, 11);
-    EXPECT_EQ(V.Sim.frmPosition_Instance[1]->Height, 14);
-    V.Sim.frmPosition_Instance[1]->Set_Place(31, 32, 33, 34);
+    EXPECT_EQ(Open_One<frmPosition>(V.Sim, 1)->Left, 11);
+    EXPECT_EQ(Open_One<frmPosition>(V.Sim, 1)->Height, 14);
+    Open_One<frmPosition>(V.Sim, 1)->Set_Place(31, 32, 33, 34);
     V.Stop();
     EXPECT_EQ(Saved_Indices(V.Saved()), (std::vector<std::int16_t>{1, 2, 1}));
 }
@@ -242,7 +247,7 @@ TEST(Stop, Whatever_Fails_Is_Told_And_The_Program_Ends) {
     V.Stop();
     EXPECT_EQ(V.Take_Boxes(), Texts{"Subscript out of range"});
     EXPECT_TRUE(V.Sim.Ended);
-    EXPECT_EQ(V.Saved().Open_Form_Count, 20);
+    EXPECT_EQ(V.Saved().Of<Shell_State>().Open_Form_Count, 20);
 
     Virtual_Simulator Full_Disk;
     Full_Disk.Start(Two_Windows());
@@ -258,12 +263,12 @@ TEST(Stop, Whatever_Fails_Is_Told_And_The_Program_Ends) {
     // No data folder can be made, and the setup stands elsewhere: it is loaded, and saved as it was.
     Virtual_Simulator No_Folder(0, {"/my/own.ini", false, "", 0});
     No_Folder.Disk.Refuse_Folder = true;
-    No_Folder.Disk.Content["/my/own.ini"] = Write_Setup(Two_Windows());
+    No_Folder.Disk.Content["/my/own.ini"] = Write_Setup(Two_Windows(), All_Windows());
     No_Folder.Start();
     EXPECT_EQ(No_Folder.Take_Boxes(), Texts{"Path/File access error"});
     No_Folder.Stop();
     EXPECT_TRUE(No_Folder.Sim.Ended);
-    EXPECT_EQ(No_Folder.Saved("/my/own.ini").UDP_Port_Number[1], 60002);
+    EXPECT_EQ(No_Folder.Saved("/my/own.ini").Of<Link_State>().UDP_Port_Number[1], 60002);
 }
 
 TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
@@ -283,7 +288,7 @@ TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
         V.Sim.State.Of<Link_State>().TCP_Port = 4711;
         V.Stop();
         EXPECT_EQ(V.Disk.Content.at(Setup_Name), Broken);
-        EXPECT_EQ(V.Saved(Beside).TCP_Port, 4711);
+        EXPECT_EQ(V.Saved(Beside).Of<Link_State>().TCP_Port, 4711);
         ASSERT_EQ(V.Told.size(), 1u);
         EXPECT_NE(V.Told[0].Text.find(Beside), std::string::npos);
     }
@@ -292,11 +297,11 @@ TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
         Virtual_Simulator V;
         V.Disk.Content[Setup_Name] = Broken;
         V.Start();
-        V.Click(As ? V.Sim.Main->mnuFileSaveAs : V.Sim.Main->mnuFileSave);
+        V.Click(As ? Main_Window(V.Sim).Item("mnuFileSaveAs") : Main_Window(V.Sim).Item("mnuFileSave"));
         if (As) V.Answer_File(Setup_Name);
         V.Sim.State.Of<Link_State>().TCP_Port = 4711;
         V.Stop();
-        EXPECT_EQ(V.Saved().TCP_Port, 4711);
+        EXPECT_EQ(V.Saved().Of<Link_State>().TCP_Port, 4711);
         EXPECT_FALSE(V.Disk.Content.contains(Beside));
     }
     // A file too large to be a setup, told by the system.

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "ownship/set_sog/frm_set_sog.hpp"
-#include "ownship/ship/frm_ship.hpp"
 #include "ownship/setup/frm_ship_setup.hpp"
+#include "ownship/ship/frm_ship.hpp"
 #include "ownship/ship/joystick.hpp"
 #include "sentences/number_pattern.hpp"
-#include "tests/support/virtual_simulator.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 #include <functional>
 #include <optional>
@@ -25,16 +25,16 @@ struct Ship_Bench : Virtual_Simulator {
     explicit Ship_Bench(const std::function<void(Simulator_State&)>& Change = {}, Joystick* Stick = nullptr) {
         if (Stick) World.Its_Joystick.reset(Stick);
         Simulator_State Setup;
-        Load_Default_Data(Setup);
+        Load_Default_Data(Setup, All_Windows());
         Setup.Of<Shell_State>().Start_With_Last_Navdata = true;
         if (Change) Change(Setup);
         Start(Setup);
         Told.clear();
         // The sky draws from the same stream.
-        Sim.Main->timer_Sky.Set_Interval(0);
+        Main_Window(Sim).timer_Sky.Set_Interval(0);
         World.Random.Seed(0);
     }
-    frmShip& Ship() { return *Sim.Ship; }
+    frmShip& Ship() { return *Open_One<frmShip>(Sim); }
     Simulator_State& State() { return Sim.State; }
     void Set(Control& Target, const Control_Value& New) {
         Sim.Windows.Event([&] { Sim.Windows.User_Set(Target, New); });

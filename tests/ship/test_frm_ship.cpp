@@ -1,11 +1,11 @@
 // The ship window: opening, throttle, rate of turn, heading, noise, labels, freeze and pause.
 
-#include "ship_bench.hpp"
 #include "gnss/gnss_state.hpp"
+#include "ownship/navdata_state.hpp"
 #include "sensors/gyro/gyro_state.hpp"
 #include "sensors/log/log_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "ship_bench.hpp"
 
 #include <gtest/gtest.h>
 
@@ -27,9 +27,9 @@ TEST(Frm_Ship, Opening_Shows_The_State_And_Takes_What_The_Sliders_Hold) {
         S.Of<Navdata_State>().Ship_ROT_Noise_Index = 10;
     });
     const frmShip& W = B.Ship();
-    EXPECT_EQ(B.State().Nav_SOG, 12.4F); // 31 % of 40
-    EXPECT_EQ(B.State().Nav_Rudder, 7.2F);
-    EXPECT_EQ(B.State().Nav_HDG, 45.678);
+    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 12.4F); // 31 % of 40
+    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 7.2F);
+    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, 45.678);
     EXPECT_EQ(W.sldThrottle.Value(), -31);
     EXPECT_EQ(W.sldRudder.Value(), 72); // half way: to even
     EXPECT_EQ(Shown(W.lblThrottle), "31 % ahead");
@@ -47,7 +47,7 @@ TEST(Frm_Ship, Opening_Shows_The_State_And_Takes_What_The_Sliders_Hold) {
     EXPECT_EQ(W.cmbROTNoise.Items().size(), 11U);
     EXPECT_EQ(W.Path(), "frmShip");
     EXPECT_EQ(W.Caption, "Ship Simulator");
-    EXPECT_TRUE(*B.Sim.Main->mnuShip.Checked);
+    EXPECT_TRUE(*Main_Window(B.Sim).Item("mnuShip").Checked);
     EXPECT_TRUE(*W.lblJoystick.Visible);
     EXPECT_FALSE(*W.frameJoystick.Visible || *W.frameArrows.Visible || *W.lblFreeze.Visible ||
                  *W.lblPause.Visible);
@@ -63,8 +63,8 @@ TEST(Frm_Ship, Opening_Brings_Speed_And_Rate_Of_Turn_Within_Their_Limits) {
             S.Of<Navdata_State>().Nav_SOG = 45 * Sign;
             S.Of<Navdata_State>().Nav_Rudder = 31 * Sign;
         });
-        EXPECT_EQ(B.State().Nav_SOG, Sign > 0 ? 40 : -5);
-        EXPECT_EQ(B.State().Nav_Rudder, 30 * Sign);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, Sign > 0 ? 40 : -5);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 30 * Sign);
     }
 }
 
@@ -78,7 +78,7 @@ TEST(Frm_Ship, Starts_At_The_Start_Position_Unless_Told_Otherwise) {
             S.Of<Navdata_State>().Nav_SOG = -2.5F;
             S.Of<Shell_State>().LatLon_Format = 1;
         });
-        EXPECT_EQ(B.State().Nav_Lat, Last ? 50 : -10);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Lat, Last ? 50 : -10);
         EXPECT_EQ(Shown(B.Ship().lblLat[0]), Last ? "50\xB0"
                                                     "00'00.000\"N"
                                                   : "10\xB0"
@@ -96,26 +96,27 @@ TEST(Frm_Ship, Has_One_Size_And_Keeps_Its_Place) {
     B.Sim.Windows.Event([&] { B.Ship().Set_Place(100, 200, 9000, 1); });
     EXPECT_EQ(B.Ship().Width, 7212);
     EXPECT_EQ(B.Ship().Height, 5700);
-    const std::weak_ptr<frmShip> Gone = B.Sim.Ship;
+    const std::weak_ptr<Form> Gone = B.Sim.Windows.Forms.back();
+    ASSERT_EQ(Gone.lock().get(), Open_One<frmShip>(B.Sim));
     B.Close(B.Ship());
     EXPECT_TRUE(Gone.expired());
-    EXPECT_FALSE(*B.Sim.Main->mnuShip.Checked);
-    EXPECT_EQ(B.Sim.Ship, nullptr);
-    ASSERT_EQ(B.State().Open_Form_Count, 1);
-    EXPECT_EQ(B.State().Open_Form_List[1].Name, "frmShip");
-    EXPECT_EQ(B.State().Open_Form_List[1].Index, 0);
-    B.State().Nav_SOG = 10;
-    const double Lat = B.State().Nav_Lat;
+    EXPECT_FALSE(*Main_Window(B.Sim).Item("mnuShip").Checked);
+    EXPECT_EQ(Open_One<frmShip>(B.Sim), nullptr);
+    ASSERT_EQ(B.State().Of<Shell_State>().Open_Form_Count, 1);
+    EXPECT_EQ(B.State().Of<Shell_State>().Open_Form_List[1].Name, "frmShip");
+    EXPECT_EQ(B.State().Of<Shell_State>().Open_Form_List[1].Index, 0);
+    B.State().Of<Navdata_State>().Nav_SOG = 10;
+    const double Lat = B.State().Of<Navdata_State>().Nav_Lat;
     B.Run_s(10);
-    EXPECT_EQ(B.State().Nav_Lat, Lat) << "only an open window moves the ship";
-    B.Click(B.Sim.Main->mnuShip);
+    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Lat, Lat) << "only an open window moves the ship";
+    B.Click(Main_Window(B.Sim).Item("mnuShip"));
     EXPECT_EQ(B.Ship().Left, 100);
     EXPECT_EQ(B.Ship().Top, 200);
-    const frmShip* Same = B.Sim.Ship.get();
-    B.Click(B.Sim.Main->mnuShip);
-    EXPECT_EQ(B.Sim.Ship.get(), Same);
+    const frmShip* Same = Open_One<frmShip>(B.Sim);
+    B.Click(Main_Window(B.Sim).Item("mnuShip"));
+    EXPECT_EQ(Open_One<frmShip>(B.Sim), Same);
     B.Run_s(10);
-    EXPECT_GT(B.State().Nav_Lat, Lat);
+    EXPECT_GT(B.State().Of<Navdata_State>().Nav_Lat, Lat);
 }
 
 TEST(Frm_Ship, Throttle_And_Rate_Of_Turn_Act_At_Once) {
@@ -132,7 +133,7 @@ TEST(Frm_Ship, Throttle_And_Rate_Of_Turn_Act_At_Once) {
                      {0, 0, "0 %", "0.0 knot"}};
     for (const auto& T : Throttles) {
         B.Place(W.sldThrottle, T.Throttle);
-        EXPECT_EQ(B.State().Nav_SOG, T.SOG_kn) << T.Throttle;
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, T.SOG_kn) << T.Throttle;
         EXPECT_EQ(Shown(W.lblThrottle), T.Percent);
         EXPECT_EQ(Shown(W.lblSOG), T.Speed);
     }
@@ -147,7 +148,7 @@ TEST(Frm_Ship, Throttle_And_Rate_Of_Turn_Act_At_Once) {
                  {0, 0, "0.0", Ink::Black}};
     for (const auto& R : Rates) {
         B.Place(W.sldRudder, R.Tenths);
-        EXPECT_EQ(B.State().Nav_Rudder, R.Rate) << R.Tenths;
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, R.Rate) << R.Tenths;
         EXPECT_EQ(Shown(W.lblRudder), R.Text);
         EXPECT_EQ(*W.lblRudder.Fore_Colour, R.Colour);
     }
@@ -159,15 +160,15 @@ TEST(Frm_Ship, All_Stop_Stops_What_The_Sliders_Are_Too_Coarse_For) {
     for (const int Place : {0, -30}) {
         B.Place(W.sldThrottle, Place);
         B.Place(W.sldRudder, Place);
-        B.State().Nav_SOG = 0.1F;
-        B.State().Nav_Rudder = 0.01F;
+        B.State().Of<Navdata_State>().Nav_SOG = 0.1F;
+        B.State().Of<Navdata_State>().Nav_Rudder = 0.01F;
         B.Click(W.cmdZeroRudder);
-        EXPECT_EQ(B.State().Nav_Rudder, 0);
-        EXPECT_EQ(B.State().Nav_SOG, 0.1F);
-        B.State().Nav_Rudder = 0.01F;
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 0);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 0.1F);
+        B.State().Of<Navdata_State>().Nav_Rudder = 0.01F;
         B.Click(W.cmdZero);
-        EXPECT_EQ(B.State().Nav_SOG, 0);
-        EXPECT_EQ(B.State().Nav_Rudder, 0);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 0);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 0);
         EXPECT_EQ(W.sldThrottle.Value(), 0);
         EXPECT_EQ(W.sldRudder.Value(), 0);
         EXPECT_EQ(Shown(W.lblSOG), "0.0 knot");
@@ -184,15 +185,15 @@ TEST(Frm_Ship, Heading_List_Takes_What_Is_A_Heading) {
                 {"-1", 0, "000"},          {"north", 0, "north"}, {"1e999", 360, "360"}, {"", 0, ""},
                 {"-1e999", 0, "000"},      {"nan", 0, "nan"},     {"345", 345, "345"}};
     for (const auto& R : Rows) {
-        B.State().Nav_HDG = 1;
+        B.State().Of<Navdata_State>().Nav_HDG = 1;
         B.Set(B.Ship().cmbHDG, std::string("200"));
         B.Set(B.Ship().cmbHDG, std::string(R.Typed));
-        EXPECT_EQ(B.State().Nav_HDG, R.Heading_deg) << R.Typed;
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, R.Heading_deg) << R.Typed;
         EXPECT_EQ(B.Ship().cmbHDG.Text(), R.Left);
     }
     B.Set(B.Ship().cmbHDG, std::string("360"));
     B.Run_s(1);
-    EXPECT_EQ(B.State().Nav_HDG, 0);
+    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, 0);
     EXPECT_EQ(B.Ship().cmbHDG.Text(), "000.0");
 }
 
@@ -213,7 +214,7 @@ TEST(Frm_Ship, Labels_After_A_Step) {
     EXPECT_EQ(Shown(W.lblGyro[1]), "354.81 deg");
     EXPECT_EQ(Shown(W.lblCOG), "005.06 deg");
     EXPECT_EQ(W.cmbHDG.Text(), "005.1");
-    EXPECT_EQ(B.State().Nav_HDG, 5.06) << "the label rounds, the ship does not";
+    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, 5.06) << "the label rounds, the ship does not";
     EXPECT_EQ(Shown(W.lblLog[0]), "13.0 knot");
     EXPECT_EQ(Shown(W.lblLog[1]), "12.0 knot");
     EXPECT_EQ(Shown(W.lblSet), "185.1 deg");
@@ -222,7 +223,7 @@ TEST(Frm_Ship, Labels_After_A_Step) {
     W.GUI_Off = true;
     B.Run_s(60);
     EXPECT_EQ(Shown(W.lblLat[0]), "62\xB0 35.5033' N");
-    EXPECT_GT(B.State().GNSS_Lat[1], 62.594);
+    EXPECT_GT(B.State().Of<GNSS_State>().GNSS_Lat[1], 62.594);
 }
 
 TEST(Frm_Ship, Noise_Is_Of_The_Sensors_And_Of_The_Way_Sailed_Only) {
@@ -232,18 +233,18 @@ TEST(Frm_Ship, Noise_Is_Of_The_Sensors_And_Of_The_Way_Sailed_Only) {
     B.Place(W.sldRudder, -100);
     B.Set(W.cmbROTNoise, std::string("0.5 \xB0"));
     B.Set(W.cmbSOGNoise, std::string("1.0 kt"));
-    EXPECT_EQ(B.State().Ship_ROT_Noise_Index, 5);
-    EXPECT_EQ(B.State().Ship_SOG_Noise_Index, 10);
+    EXPECT_EQ(B.State().Of<Navdata_State>().Ship_ROT_Noise_Index, 5);
+    EXPECT_EQ(B.State().Of<Navdata_State>().Ship_SOG_Noise_Index, 10);
     std::mt19937_64 Draws(0); // the generator of the standard, whose 10000th draw is fixed by it
     const auto Draw = [&] { return std::ldexp(static_cast<double>(Draws() >> 11), -53); };
     for (int Second = 0; Second < 100; ++Second) {
         B.Run_s(1);
         const double ROT = -10 - 0.5 + Draw(), SOG_kn = 12 - 1 + 2 * Draw(); // the rate is drawn first
-        EXPECT_NEAR(B.State().Gyro_ROT[2], ROT, 1e-6);
-        EXPECT_NEAR(B.State().GNSS_SOG[1], SOG_kn, 1e-6);
-        EXPECT_EQ(B.State().Log_Speed[1], 12);
-        EXPECT_EQ(B.State().Nav_SOG, 12);
-        EXPECT_EQ(B.State().Nav_Rudder, -10);
+        EXPECT_NEAR(B.State().Of<Gyro_State>().Gyro_ROT[2], ROT, 1e-6);
+        EXPECT_NEAR(B.State().Of<GNSS_State>().GNSS_SOG[1], SOG_kn, 1e-6);
+        EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[1], 12);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 12);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, -10);
         EXPECT_NEAR(Val_Dot(Shown(W.lblRudder)), -ROT, 0.0051);
         EXPECT_EQ(*W.lblRudder.Fore_Colour, Ink::Red);
         EXPECT_NEAR(Val_Dot(Shown(W.lblSOG)), SOG_kn, 0.0051);
@@ -259,11 +260,12 @@ TEST(Frm_Ship, Noise_Of_A_Setup_File_May_Be_Anything) {
     for (const float Stored : {-1.0F, 11.0F, 1e30F, -1e30F, std::numeric_limits<float>::quiet_NaN()}) {
         Ship_Bench B;
         B.Close(B.Ship());
-        B.State().Ship_SOG_Noise_Index = B.State().Ship_ROT_Noise_Index = Stored;
-        B.Click(B.Sim.Main->mnuShip);
+        B.State().Of<Navdata_State>().Ship_SOG_Noise_Index =
+            B.State().Of<Navdata_State>().Ship_ROT_Noise_Index = Stored;
+        B.Click(Main_Window(B.Sim).Item("mnuShip"));
         EXPECT_EQ(B.Ship().cmbSOGNoise.List_Index(), 0) << Stored;
         EXPECT_EQ(B.Ship().cmbROTNoise.List_Index(), 0) << Stored;
-        EXPECT_EQ(B.State().Ship_ROT_Noise_Index, 0);
+        EXPECT_EQ(B.State().Of<Navdata_State>().Ship_ROT_Noise_Index, 0);
         EXPECT_EQ(B.Take_Boxes(), Texts{});
     }
 }
@@ -316,12 +318,12 @@ TEST(Frm_Ship, A_Freeze_Of_The_Last_Session_Is_Kept) {
     });
     EXPECT_EQ(Shown(B.Ship().cmdFreeze), "continue");
     EXPECT_TRUE(*B.Ship().lblFreeze.Visible);
-    const double Lat = B.State().Nav_Lat;
+    const double Lat = B.State().Of<Navdata_State>().Nav_Lat;
     B.Run_s(10);
-    EXPECT_EQ(B.State().Nav_Lat, Lat);
+    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Lat, Lat);
     B.Click(B.Ship().cmdFreeze);
     B.Run_s(1);
-    EXPECT_GT(B.State().Nav_Lat, Lat);
+    EXPECT_GT(B.State().Of<Navdata_State>().Nav_Lat, Lat);
 }
 
 } // namespace

@@ -1,12 +1,12 @@
 // What the ship does in a second and in a day.
 
-#include "ownship/ship/ship_motion.hpp"
-#include "ship_bench.hpp"
 #include "gnss/gnss_state.hpp"
+#include "ownship/navdata_state.hpp"
+#include "ownship/ship/ship_motion.hpp"
 #include "sensors/gyro/gyro_state.hpp"
 #include "sensors/log/log_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "ship_bench.hpp"
 
 #include <gtest/gtest.h>
 
@@ -84,8 +84,10 @@ TEST(Ship_Motion, Voyages_Agree_With_An_Independent_Computation) {
         EXPECT_EQ(S.Of<GNSS_State>().GNSS_Lat[1], S.Of<Navdata_State>().Nav_Lat);
         EXPECT_EQ(S.Of<GNSS_State>().GNSS_Lon[1], S.Of<Navdata_State>().Nav_Lon);
         EXPECT_EQ(S.Of<GNSS_State>().GNSS_COG[2], Single(S.Of<Navdata_State>().Nav_COG));
-        EXPECT_EQ(S.Of<Gyro_State>().Gyro_HDG[2], Single(S.Of<Navdata_State>().Nav_HDG)) << "gyro 2 has no offset";
-        EXPECT_EQ(S.Of<Log_State>().Log_Speed[2], S.Of<Navdata_State>().Nav_SOG) << "log 2 has none either, and no noise";
+        EXPECT_EQ(S.Of<Gyro_State>().Gyro_HDG[2], Single(S.Of<Navdata_State>().Nav_HDG))
+            << "gyro 2 has no offset";
+        EXPECT_EQ(S.Of<Log_State>().Log_Speed[2], S.Of<Navdata_State>().Nav_SOG)
+            << "log 2 has none either, and no noise";
     }
 }
 
@@ -113,7 +115,7 @@ TEST(Ship_Motion, A_Slow_Turn_Turns_The_Ship) {
     Ship_Bench B;
     B.Place(B.Ship().sldRudder, 1);
     B.Run_s(600);
-    EXPECT_NEAR(B.State().Nav_HDG, 1, 1e-6);
+    EXPECT_NEAR(B.State().Of<Navdata_State>().Nav_HDG, 1, 1e-6);
     EXPECT_EQ(B.Ship().cmbHDG.Text(), "001.0");
 }
 
@@ -121,14 +123,18 @@ void Expect_Sane(const Simulator_State& S, const std::string& Which) {
     for (int I = 1; I <= 2; ++I) {
         EXPECT_LE(std::abs(S.Of<GNSS_State>().GNSS_Lat[I]), 90) << Which;
         EXPECT_LE(std::abs(S.Of<GNSS_State>().GNSS_Lon[I]), 180) << Which;
-        EXPECT_TRUE(std::isfinite(S.Of<GNSS_State>().GNSS_SOG[I]) && std::isfinite(S.Of<Gyro_State>().Gyro_ROT[I])) << Which;
+        EXPECT_TRUE(std::isfinite(S.Of<GNSS_State>().GNSS_SOG[I]) &&
+                    std::isfinite(S.Of<Gyro_State>().Gyro_ROT[I]))
+            << Which;
         EXPECT_TRUE(S.Of<GNSS_State>().GNSS_COG[I] >= 0 && S.Of<GNSS_State>().GNSS_COG[I] <= 360) << Which;
         EXPECT_TRUE(S.Of<Gyro_State>().Gyro_HDG[I] >= 0 && S.Of<Gyro_State>().Gyro_HDG[I] <= 360) << Which;
         EXPECT_TRUE(std::isfinite(S.Of<Log_State>().Log_Speed[I])) << Which;
     }
     EXPECT_LE(std::abs(S.Of<Navdata_State>().Nav_Lat), 90) << Which;
     EXPECT_LE(std::abs(S.Of<Navdata_State>().Nav_Lon), 180) << Which;
-    EXPECT_TRUE(std::isfinite(S.Of<Navdata_State>().Current_Drift) && S.Of<Navdata_State>().Current_Set >= 0 && S.Of<Navdata_State>().Current_Set <= 360) << Which;
+    EXPECT_TRUE(std::isfinite(S.Of<Navdata_State>().Current_Drift) &&
+                S.Of<Navdata_State>().Current_Set >= 0 && S.Of<Navdata_State>().Current_Set <= 360)
+        << Which;
 }
 
 TEST(Ship_Motion, Hours_At_The_Poles_And_Across_The_Date_Line) {
@@ -168,7 +174,8 @@ TEST(Ship_Motion, The_Date_Line_Is_Crossed_Both_Ways_And_The_Pole_Is_Not) {
     EXPECT_NEAR(S.Of<Navdata_State>().Nav_Lat, 90, 40.0 / 3600 / 60);
     S.Of<Navdata_State>().Nav_HDG = 180;
     for (int Second = 0; Second < 3600; ++Second) Move_Ship(S, 40, 0);
-    EXPECT_NEAR(S.Of<Navdata_State>().Nav_Lat, 90 - 40.0 / 60, 40.0 / 3600 / 60) << "and it leaves the pole again";
+    EXPECT_NEAR(S.Of<Navdata_State>().Nav_Lat, 90 - 40.0 / 60, 40.0 / 3600 / 60)
+        << "and it leaves the pole again";
 }
 
 // A setup file may hold numbers that no ship has.
@@ -180,19 +187,19 @@ TEST(Ship_Motion, A_Frozen_Ship_Feeds_Its_Sensors_Once) {
         S.Of<Navdata_State>().Nav_Lat = 95;
         S.Of<Navdata_State>().Nav_Lon = -540;
     });
-    EXPECT_EQ(B.State().GNSS_COG[1], 270);
-    EXPECT_EQ(B.State().GNSS_Lat[1], 90);
-    EXPECT_EQ(std::abs(B.State().GNSS_Lon[1]), 180);
-    EXPECT_EQ(B.State().Log_Speed[2], 20);
+    EXPECT_EQ(B.State().Of<GNSS_State>().GNSS_COG[1], 270);
+    EXPECT_EQ(B.State().Of<GNSS_State>().GNSS_Lat[1], 90);
+    EXPECT_EQ(std::abs(B.State().Of<GNSS_State>().GNSS_Lon[1]), 180);
+    EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[2], 20);
     // While it is frozen no value of a sensor changes, whatever is done to the window.
     B.Place(B.Ship().sldThrottle, -10);
     B.Close(B.Ship());
-    B.Click(B.Sim.Main->mnuShip);
+    B.Click(Main_Window(B.Sim).Item("mnuShip"));
     B.Run_s(3);
-    EXPECT_EQ(B.State().Log_Speed[2], 20);
+    EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[2], 20);
     B.Click(B.Ship().cmdFreeze);
     B.Run_s(1.5);
-    EXPECT_EQ(B.State().Log_Speed[2], 4);
+    EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[2], 4);
 }
 
 TEST(Ship_Motion, Numbers_Beyond_All_Ships_Stay_Finite) {
@@ -200,9 +207,12 @@ TEST(Ship_Motion, Numbers_Beyond_All_Ships_Stay_Finite) {
     for (const float Wild : {Huge, -Huge, 1e30F, -1e30F}) {
         Ship_Bench B([&](Simulator_State& S) {
             S.Of<Navdata_State>().Nav_SOG = S.Of<Navdata_State>().Nav_Rudder = Wild;
-            S.Of<Navdata_State>().Max_Speed_Ahead = S.Of<Navdata_State>().Max_Speed_Astern = S.Of<Navdata_State>().Max_Rudder = Wild;
-            S.Of<Navdata_State>().Nav_Lat = S.Of<Navdata_State>().Nav_Lon = S.Of<Navdata_State>().Nav_HDG = S.Of<Navdata_State>().Nav_COG = static_cast<double>(Wild) * 1e200;
-            S.Of<Navdata_State>().Lat_Offset = S.Of<Navdata_State>().Lon_Offset = static_cast<double>(Wild) * 1e200;
+            S.Of<Navdata_State>().Max_Speed_Ahead = S.Of<Navdata_State>().Max_Speed_Astern =
+                S.Of<Navdata_State>().Max_Rudder = Wild;
+            S.Of<Navdata_State>().Nav_Lat = S.Of<Navdata_State>().Nav_Lon = S.Of<Navdata_State>().Nav_HDG =
+                S.Of<Navdata_State>().Nav_COG = static_cast<double>(Wild) * 1e200;
+            S.Of<Navdata_State>().Lat_Offset = S.Of<Navdata_State>().Lon_Offset =
+                static_cast<double>(Wild) * 1e200;
             S.Of<Gyro_State>().Gyro_Offset[1] = S.Of<Log_State>().Log_Offset[1] = Wild;
             S.Of<Navdata_State>().Ship_SOG_Noise_Index = S.Of<Navdata_State>().Ship_ROT_Noise_Index = Wild;
         });

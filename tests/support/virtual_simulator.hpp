@@ -7,13 +7,16 @@
 #include "links/tcp_server.hpp"
 #include "links/udp_links.hpp"
 #include "shell/main/file_menu.hpp"
-#include "shell/monitors/extended_monitor/frm_extended_monitor.hpp"
 #include "shell/main/frm_main.hpp"
+#include "shell/main/window_table.hpp"
+#include "shell/monitors/extended_monitor/frm_extended_monitor.hpp"
 #include "shell/monitors/monitor/frm_monitor.hpp"
-#include "shell/transmit/send_nmea.hpp"
-#include "shell/state/simulator.hpp"
-#include "tests/support/played_platform.hpp"
+#include "shell/state/fault_state.hpp"
 #include "shell/state/link_state.hpp"
+#include "shell/state/simulator.hpp"
+#include "shell/state/windows.hpp"
+#include "shell/transmit/send_nmea.hpp"
+#include "tests/support/played_platform.hpp"
 
 #include <gtest/gtest.h>
 
@@ -25,6 +28,10 @@
 #include <vector>
 
 namespace brinewright {
+
+namespace form_index {
+inline constexpr std::int16_t GNSS_1 = 1, Gyro_1 = 3, Log_1 = 5, Echosounder_1 = 7, Wind_1 = 9;
+}
 
 // Files and settings that refuse what they are told to.
 struct Faulty_Files : Memory_Files {
@@ -54,12 +61,21 @@ inline constexpr const char* Setup_Name = "/data/Brinewright.ini";
 // answered at once, unless Hold_Boxes is set.
 struct Virtual_Simulator {
     explicit Virtual_Simulator(double Time_Of_Day = 36000, Start_Options Options = {})
-        : World(Disk, Settings, Day_us + std::llround(Time_Of_Day * 1e6)), Sim(World, With_Folder(Options)) {
+        : World(Disk, Settings, Day_us + std::llround(Time_Of_Day * 1e6)),
+          Made(Make_Simulator(World, With_Folder(Options))), Sim(*Made) {
         Sim.Windows.Boxes.On_Show = [this](const Message_Box& Box) {
             Told.push_back(Box);
             if (!Hold_Boxes) Sim.Windows.Boxes.Answer(Box.Id);
         };
-        Sim.On_Sent.push_back([this](std::string_view Text, int Port) { Left.emplace_back(Port, Text); });
+        Sim.Told.Sent.Add(this, [this](const Sent_Sentence& S) {
+            if (S.Link_Took_It) Left.emplace_back(S.Port, S.Text);
+        });
+    }
+
+    // The timers of TCP clients stand in the main window, so it goes first.
+    ~Virtual_Simulator() {
+        Sim.Main->On_Unload = nullptr;
+        if (Sim.Main->Loaded) Sim.Windows.Event([this] { Sim.Windows.Unload(*Sim.Main); });
     }
 
     // Loads the main window on a setup file with this state, or on what the disk holds.
@@ -67,13 +83,13 @@ struct Virtual_Simulator {
         Sim.Windows.Event([this] { MDIForm_Load(Sim); });
     }
     void Start(const Simulator_State& Setup) {
-        Disk.Content[Setup_Name] = Write_Setup(Setup);
+        Disk.Content[Setup_Name] = Write_Setup(Setup, All_Windows());
         Start();
     }
-    void Stop() { Click(Sim.Main->mnuFileExit); }
+    void Stop() { Click(Main_Window(Sim).Item("mnuFileExit")); }
     Simulator_State Saved(const std::string& File = Setup_Name) const {
         Simulator_State State;
-        Read_Setup(Disk.Content.at(File), State);
+        Read_Setup(Disk.Content.at(File), State, All_Windows());
         return State;
     }
 
@@ -107,7 +123,7 @@ struct Virtual_Simulator {
         Sim.Windows.Event([&] { Sim.Windows.User_Click(Target); });
     }
     void Open_Form(std::int16_t Index) {
-        Sim.Windows.Event([&] { mnuOpenForm_Click(Sim, Index); });
+        Sim.Windows.Event([&] { Open_Window_Of_Index(Sim, Index); });
     }
     void Close(Form& Window) {
         Sim.Windows.Event([&] { Sim.Windows.User_Close(Window); });
@@ -142,8 +158,9 @@ struct Virtual_Simulator {
     Played_Platform World;
     std::vector<Message_Box> Told;
     bool Hold_Boxes = false;
-    std::vector<std::pair<int, std::string>> Left; // port and text, as told by On_Sent
-    Simulator Sim;
+    std::vector<std::pair<int, std::string>> Left; // port and text of what a link took
+    std::unique_ptr<Simulator> Made;
+    Simulator& Sim;
 };
 
 using Texts = std::vector<std::string>;

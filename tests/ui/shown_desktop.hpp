@@ -12,7 +12,7 @@
 namespace brinewright {
 
 // The desktop over a simulator in virtual time. It looks when Settle is called and not by its clock.
-struct Shown_Desktop : All_Windows {
+struct Shown_Desktop : Every_Window {
     Shown_Desktop() : Colours(*qApp) { View.emplace(Sim, Colours); }
 
     void Open(const Simulator_State& Setup = Full_Setup()) {
@@ -28,8 +28,8 @@ struct Shown_Desktop : All_Windows {
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    void Open_All_Windows() {
-        All_Windows::Open_All_Windows();
+    void Open_Every_Window() {
+        Every_Window::Open_Every_Window();
         Settle();
     }
 

@@ -299,7 +299,7 @@ struct Bindings : testing::Test, Shown_Desktop {
 
 TEST_F(Bindings, Every_Control_Of_Every_Window_Has_A_Widget_Bound_Both_Ways) {
     Open();
-    Open_All_Windows();
+    Open_Every_Window();
     std::set<std::string> Names;
     for (const auto& F : Sim.Windows.Forms) Names.insert(F->Path());
     ASSERT_EQ(Names,
@@ -317,9 +317,10 @@ TEST_F(Bindings, Every_Control_Of_Every_Window_Has_A_Widget_Bound_Both_Ways) {
 
 TEST_F(Bindings, The_Windows_Of_Ship_Mode_Are_Bound_As_Well) {
     Open(Full_Setup("Ship"));
-    Open_All_Windows();
-    for (Form* F : {static_cast<Form*>(Sim.Ship.get()), static_cast<Form*>(Sim.ShipSetup.get()),
-                    static_cast<Form*>(Sim.SetSOG.get())}) {
+    Open_Every_Window();
+    for (Form* F :
+         {static_cast<Form*>(Open_One<frmShip>(Sim)), static_cast<Form*>(Open_One<frmShipSetup>(Sim)),
+          static_cast<Form*>(Open_One<frmSetSOG>(Sim))}) {
         ASSERT_TRUE(F);
         EXPECT_GE(Check_Window(*F), 8U);
     }
@@ -388,7 +389,7 @@ TEST_F(Bindings, What_Hides_A_Frame_Hides_What_Stands_In_It) {
 
 TEST_F(Bindings, Every_Control_That_Can_Be_Operated_Tells_What_It_Is_For) {
     Open(Full_Setup("Ship"));
-    Open_All_Windows();
+    Open_Every_Window();
     std::string Untold;
     for (const auto& F : Sim.Windows.Forms)
         for (const Control* C : F->Controls) {

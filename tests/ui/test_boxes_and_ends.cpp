@@ -1,7 +1,7 @@
 // Message boxes, file dialogs, and how windows and the program are closed by hand.
 
-#include "tests/ui/shown_desktop.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/ui/shown_desktop.hpp"
 
 #include <QFileDialog>
 #include <QMdiSubWindow>
@@ -67,10 +67,10 @@ TEST_F(Boxes_And_Ends, Boxes_Stand_One_At_A_Time_Until_Answered) {
 TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
     Simulator_State Other = Full_Setup();
     Other.Of<Shell_State>().Open_Form_Count = 1;
-    Disk.Content["/data/other.ini"] = Write_Setup(Other);
+    Disk.Content["/data/other.ini"] = Write_Setup(Other, All_Windows());
 
     // Cancelled by hand.
-    Click(Sim.Main->mnuFileOpen);
+    Click(Main_Window(Sim).Item("mnuFileOpen"));
     Settle();
     auto* Asking = Top_Level<QFileDialog>();
     ASSERT_TRUE(Asking);
@@ -79,21 +79,21 @@ TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
     Asking->reject();
     Settle();
     EXPECT_TRUE(Sim.Windows.File_Dialogs.empty());
-    EXPECT_TRUE(Sim.frmPosition_Instance[2]);
+    EXPECT_TRUE(Open_One<frmPosition>(Sim, 2));
 
     // Answered by automation: the dialog goes, and what is done to it afterwards means nothing.
-    Click(Sim.Main->mnuFileOpen);
+    Click(Main_Window(Sim).Item("mnuFileOpen"));
     Settle();
     ASSERT_TRUE(Top_Level<QFileDialog>());
     Answer_File("/data/other.ini");
     Settle();
     EXPECT_FALSE(Top_Level<QFileDialog>());
-    EXPECT_TRUE(Sim.frmPosition_Instance[1]);
-    EXPECT_FALSE(Sim.frmPosition_Instance[2]);
+    EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
+    EXPECT_FALSE(Open_One<frmPosition>(Sim, 2));
 
     // Two questions come one after the other.
-    Click(Sim.Main->mnuFileSaveAs);
-    Click(Sim.Main->mnuFileOpen);
+    Click(Main_Window(Sim).Item("mnuFileSaveAs"));
+    Click(Main_Window(Sim).Item("mnuFileOpen"));
     Settle();
     ASSERT_TRUE(Top_Level<QFileDialog>());
     EXPECT_EQ(Top_Level<QFileDialog>()->acceptMode(), QFileDialog::AcceptSave);
@@ -108,7 +108,7 @@ TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
 }
 
 TEST_F(Boxes_And_Ends, The_Title_Button_Of_A_Child_Window_Unloads_Its_Form) {
-    Open_All_Windows();
+    Open_Every_Window();
     std::vector<std::string> Paths;
     for (const auto& F : Sim.Windows.Forms)
         if (F != Sim.Main) Paths.push_back(F->Path());
@@ -120,14 +120,14 @@ TEST_F(Boxes_And_Ends, The_Title_Button_Of_A_Child_Window_Unloads_Its_Form) {
         EXPECT_FALSE(View->Window_Of(Path)) << Path;
     }
     EXPECT_EQ(Sim.Windows.Forms.size(), 1U);
-    EXPECT_FALSE(*Sim.Main->mnuOpenForm(1)->Checked);
-    EXPECT_FALSE(*Sim.Main->mnuTraffic.Checked);
+    EXPECT_FALSE(*Main_Window(Sim).Item("mnuOpenForm", 1).Checked);
+    EXPECT_FALSE(*Main_Window(Sim).Item("mnuTraffic").Checked);
 }
 
 // What is on the screen between the end of a form and the next look belongs to nobody: it can be painted and
 // operated, and does nothing.
 TEST_F(Boxes_And_Ends, A_Window_Whose_Form_Has_Gone_Is_Harmless) {
-    Open_All_Windows();
+    Open_Every_Window();
     std::vector<QPointer<QWidget>> Windows;
     for (const auto& F : Sim.Windows.Forms)
         if (F != Sim.Main) Windows.push_back(View->Window_Of(F->Path()));

@@ -1,9 +1,9 @@
 // Focus, keys and mnemonics.
 
-#include "tests/ui/shown_desktop.hpp"
 #include "gnss/gnss_state.hpp"
 #include "shell/state/iec450_state.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/ui/shown_desktop.hpp"
 
 #include <QAction>
 #include <QDialog>
@@ -16,7 +16,7 @@ namespace {
 
 struct Keyboard : testing::Test, Shown_Desktop {
     void SetUp() override { Open(); }
-    frmPosition& Window() { return *Sim.frmPosition_Instance[1]; }
+    frmPosition& Window() { return *Open_One<frmPosition>(Sim, 1); }
     template <class Open_It>
     QWidget& Dialog_Of(const char* Path, Open_It Open_Dialog) {
         Open_Dialog();
@@ -32,7 +32,7 @@ struct Keyboard : testing::Test, Shown_Desktop {
 TEST_F(Keyboard, A_Refused_Talker_Takes_The_Focus_Back) {
     Hold_Boxes = true;
     View->Window_Of("frmPosition[1]")->activateWindow();
-    Click(Sim.Main->mnuOpenForm_Items[1]);
+    Click(Main_Window(Sim).Item("mnuOpenForm", 1));
     Settle();
     auto& Talker = Shown_As<QLineEdit>(Window().txtTalker);
     auto& Latitude = Shown_As<QLineEdit>(Window().txtLat);
@@ -77,7 +77,7 @@ TEST_F(Keyboard, Enter_Takes_A_Text_Over_And_Stays) {
 }
 
 TEST_F(Keyboard, The_Arrow_Keys_Steer) {
-    Click(Sim.Main->mnuOpenForm_Items[1]);
+    Click(Main_Window(Sim).Item("mnuOpenForm", 1));
     Settle();
     QTest::mouseClick(Widget_Of(Window().cmdArrows), Qt::LeftButton);
     Settle();
@@ -106,7 +106,7 @@ TEST_F(Keyboard, The_Arrow_Keys_Steer) {
 TEST(Ship_Keyboard, Keys_With_Their_Modifiers_Reach_The_Ship) {
     Shown_Desktop D;
     D.Open(Shown_Desktop::Full_Setup("Ship"));
-    frmShip& W = *D.Sim.Ship;
+    frmShip& W = *Open_One<frmShip>(D.Sim);
     D.View->Window_Of("frmShip")->activateWindow();
     QTest::mouseClick(D.Widget_Of(W.cmdArrows), Qt::LeftButton);
     D.Settle();
@@ -156,7 +156,7 @@ TEST(Ship_Keyboard, Keys_With_Their_Modifiers_Reach_The_Ship) {
 TEST(Ship_Window, Latches_And_Speed_Show_By_Colour_And_Text) {
     Shown_Desktop D;
     D.Open(Shown_Desktop::Full_Setup("Ship"));
-    frmShip& W = *D.Sim.Ship;
+    frmShip& W = *Open_One<frmShip>(D.Sim);
     const struct {
         Button& Key;
         Label& Lamp;
@@ -184,39 +184,42 @@ TEST(Ship_Window, Latches_And_Speed_Show_By_Colour_And_Text) {
 }
 
 TEST_F(Keyboard, Enter_Presses_OK_And_Escape_Cancel) {
-    const auto Open_Format = [&] { Click(Sim.Main->mnuSetupLatLonFormat); };
+    const auto Open_Format = [&] { Click(Main_Window(Sim).Item("mnuSetupLatLonFormat")); };
     QWidget* Dialog = &Dialog_Of("frmGeoFormat", Open_Format);
-    QTest::mouseClick(Widget_Of(*Sim.GeoFormat->optFormat.Buttons[1]), Qt::LeftButton, {}, QPoint(6, 8));
+    QTest::mouseClick(Widget_Of(*Open_One<frmGeoFormat>(Sim)->optFormat.Buttons[1]), Qt::LeftButton, {},
+                      QPoint(6, 8));
     QTest::keyClick(Dialog, Qt::Key_Escape);
     Settle();
-    EXPECT_FALSE(Sim.GeoFormat);
+    EXPECT_FALSE(Open_One<frmGeoFormat>(Sim));
     EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 0);
     EXPECT_FALSE(View->Window_Of("frmGeoFormat"));
 
     Dialog = &Dialog_Of("frmGeoFormat", Open_Format);
-    QTest::mouseClick(Widget_Of(*Sim.GeoFormat->optFormat.Buttons[1]), Qt::LeftButton, {}, QPoint(6, 8));
+    QTest::mouseClick(Widget_Of(*Open_One<frmGeoFormat>(Sim)->optFormat.Buttons[1]), Qt::LeftButton, {},
+                      QPoint(6, 8));
     QTest::keyClick(Dialog, Qt::Key_Return);
-    EXPECT_FALSE(Sim.GeoFormat);
+    EXPECT_FALSE(Open_One<frmGeoFormat>(Sim));
     EXPECT_EQ(Sim.State.Of<Shell_State>().LatLon_Format, 1);
 
     // From within a text: what is typed is taken over before OK.
-    Dialog_Of("frmIEC61162", [&] { Click(Sim.Main->mnuOptionIEC450); });
-    auto& Source = Shown_As<QLineEdit>(Sim.IEC61162->txtSourceId);
+    Dialog_Of("frmIEC61162", [&] { Click(Main_Window(Sim).Item("mnuOptionIEC450")); });
+    auto& Source = Shown_As<QLineEdit>(Open_One<frmIEC61162>(Sim)->txtSourceId);
     Source.setFocus();
     Settle();
     QTest::keyClicks(&Source, QStringLiteral("GP0001"));
     QTest::keyClick(&Source, Qt::Key_Return);
-    EXPECT_FALSE(Sim.IEC61162);
-    EXPECT_EQ(Sim.State.Of<IEC450_State>().s_Tag, "GP0001") << "the whole text was chosen on entering, and typed over";
+    EXPECT_FALSE(Open_One<frmIEC61162>(Sim));
+    EXPECT_EQ(Sim.State.Of<IEC450_State>().s_Tag, "GP0001")
+        << "the whole text was chosen on entering, and typed over";
     Settle();
 
     // A button that has the focus is pressed by Enter itself.
-    Dialog_Of("frmIEC61162", [&] { Click(Sim.Main->mnuOptionIEC450); });
-    Sim.IEC61162->txtSourceId.Set_Text("other");
-    QWidget* Cancel = Widget_Of(Sim.IEC61162->cmdCancel);
+    Dialog_Of("frmIEC61162", [&] { Click(Main_Window(Sim).Item("mnuOptionIEC450")); });
+    Open_One<frmIEC61162>(Sim)->txtSourceId.Set_Text("other");
+    QWidget* Cancel = Widget_Of(Open_One<frmIEC61162>(Sim)->cmdCancel);
     Cancel->setFocus();
     QTest::keyClick(Cancel, Qt::Key_Return);
-    EXPECT_FALSE(Sim.IEC61162);
+    EXPECT_FALSE(Open_One<frmIEC61162>(Sim));
     EXPECT_EQ(Sim.State.Of<IEC450_State>().s_Tag, "GP0001");
 }
 
@@ -249,7 +252,7 @@ INSTANTIATE_TEST_SUITE_P(Keyboard, Tab_Order, testing::Values("Sensor", "Ship"),
                          [](const auto& Info) { return std::string(Info.param); });
 TEST_P(Tab_Order, Follows_The_Reading_Order) {
     Open(Full_Setup(GetParam()));
-    Open_All_Windows();
+    Open_Every_Window();
     for (const auto& F : Sim.Windows.Forms) {
         if (F == Sim.Main) continue;
         QWidget* Window = View->Window_Of(F->Path());

@@ -1,8 +1,7 @@
 // Every window is shown whole on a small bench display, at every scaling. Runs at 150 and 200 % as well.
 
-#include "shell/kit/layout.hpp"
-#include "tests/ui/shown_desktop.hpp"
 #include "shell/state/shell_state.hpp"
+#include "tests/ui/shown_desktop.hpp"
 
 #include <QMdiSubWindow>
 #include <QScrollBar>
@@ -47,7 +46,7 @@ INSTANTIATE_TEST_SUITE_P(Layout, In_Mode, testing::Values("Sensor", "Ship"),
 
 TEST_P(In_Mode, No_Caption_Is_Cut) {
     Open(Full_Setup(GetParam()));
-    Open_All_Windows();
+    Open_Every_Window();
     for (const auto& F : Sim.Windows.Forms)
         if (F != Sim.Main) Expect_Whole(F->Path());
 }
@@ -59,8 +58,8 @@ TEST_P(In_Mode, Every_Window_Fits_The_Display) {
     Open(Setup);
     View->showMaximized();
     Settle();
-    for (const int I : {1, 2}) Click(*Sim.Main->mnuOpenForm(I));
-    Open_All_Windows();
+    for (const int I : {1, 2}) Click(Main_Window(Sim).Item("mnuOpenForm", I));
+    Open_Every_Window();
     EXPECT_LE(View->minimumSizeHint().width(), 1366);
     EXPECT_LE(View->minimumSizeHint().height(), 768 - 30);
     for (const auto& F : Sim.Windows.Forms) {
@@ -83,9 +82,9 @@ TEST_P(In_Mode, Every_Window_Fits_The_Display) {
 // stays so.
 TEST_F(Layout, Windows_Grow_With_What_They_Show) {
     Open();
-    Click(*Sim.Main->mnuOpenForm(form_index::Wind_1));
+    Click(Main_Window(Sim).Item("mnuOpenForm", form_index::Wind_1));
     Settle();
-    frmWind& W = *Sim.frmWind_Instance[1];
+    frmWind& W = *Open_One<frmWind>(Sim, 1);
     auto& Child = *qobject_cast<QMdiSubWindow*>(View->Window_Of("frmWind[1]"));
     const auto& Scroll = *qobject_cast<QScrollArea*>(Child.widget());
     const auto Show = [&](const char* Text) {
@@ -109,7 +108,7 @@ TEST_F(Layout, Windows_Grow_With_What_They_Show) {
 // A larger window gives what it gains to lists and sentences, and nothing overlaps in it.
 TEST_P(In_Mode, Windows_Grow_Without_Overlaps) {
     Open(Full_Setup(GetParam()));
-    Open_All_Windows();
+    Open_Every_Window();
     for (const auto& F : Sim.Windows.Forms) {
         if (F == Sim.Main) continue;
         QWidget* Window = View->Window_Of(F->Path());

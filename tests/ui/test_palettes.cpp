@@ -67,7 +67,7 @@ void Expect_Dark(const char* Mode) {
     D.View.reset();
     D.View.emplace(D.Sim, D.Colours);
     D.Open(Shown_Desktop::Full_Setup(Mode));
-    D.Open_All_Windows();
+    D.Open_Every_Window();
     const double Readout = Luminance(Theme::Colour_In(Palette_Kind::Night, Token::Readout));
     for (const auto& F : D.Sim.Windows.Forms) {
         const QImage Picture =
