@@ -100,7 +100,16 @@ SHIP_WINDOWS = [
         ("click", {"path": "frmShip.cmdFreeze"}), ("click", {"path": "frmShip.cmdPause"}),
         ("click", {"path": "frmShip.cmdArrows"})]),
 ]
-RUNS = [("sensor.ini", SENSOR_PREPARE, SENSOR_WINDOWS), ("demo.ini", SHIP_PREPARE, SHIP_WINDOWS)]
+DETECTION_WINDOWS = [
+    ("frmProgress", "port-detection", [
+        ("click", {"path": "frmMain.mnuSetupPort"}), ("click", {"path": "frmSetup.cmdReset"})]),
+    ("frmMain", "main-box", [("close", {"path": "frmSetup"})]),
+]
+RUNS = [
+    ("sensor.ini", SENSOR_PREPARE, SENSOR_WINDOWS),
+    ("demo.ini", SHIP_PREPARE, SHIP_WINDOWS),
+    ("demo.ini", [], DETECTION_WINDOWS),
+]
 
 
 class Automation:

@@ -16,8 +16,8 @@ TEST_F(Port_Setup, Detection_Tells_Present_Busy_And_Absent_Ports_Apart) {
     EXPECT_TRUE(*F.chkEnable[16].Enabled);
     EXPECT_FALSE(World.Coms[2]->Opened); // closed again
     // What stands in a hidden frame is hidden with it, so that nobody can operate it.
-    EXPECT_FALSE(*F.chkEnable[1].Visible);
-    EXPECT_FALSE(*F.cmbBaudRate[1].Visible);
+    EXPECT_FALSE(F.chkEnable[1].Shown());
+    EXPECT_FALSE(F.cmbBaudRate[1].Shown());
     EXPECT_EQ(F.cmbBaudRate[2].Text() + F.cmbDataBits[2].Text() + F.cmbParity[2].Text() +
                   F.cmbStopBits[2].Text(),
               "48008none1");

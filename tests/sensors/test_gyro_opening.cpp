@@ -151,7 +151,7 @@ TEST(Gyro_Opening, Ship_Mode_Leaves_The_Sentences_Alone) {
     EXPECT_TRUE(W.lblShipControl.Visible);
     std::string Shown;
     for (const Control* C : W.Controls)
-        if (C->Kind != Control_Kind::Timer && static_cast<const Visible_Control*>(C)->Visible)
+        if (C->Kind != Control_Kind::Timer && static_cast<const Visible_Control*>(C)->Shown())
             Shown += C->Path() + " ";
     EXPECT_EQ(Shown,
               "frameNMEAMessages txtTalker cmbComPort lblShipControl lblModeIndicator cmbModeIndicator "

@@ -72,7 +72,7 @@ TEST(Log_Opening, Ship_Mode_Hides_The_Hand_Controls_Alone) {
     EXPECT_TRUE(W.lblShipControl.Visible);
     for (Visible_Control* Part :
          std::initializer_list<Visible_Control*>{&W.frmSpeed, &W.scrSpeed, &W.lblSpeed, &W.txtSpeed})
-        EXPECT_FALSE(Part->Visible) << Part->Name;
+        EXPECT_FALSE(Part->Shown()) << Part->Name;
     EXPECT_THROW(Bench.Sim.Windows.User_Set(W.txtSpeed, std::string("5")), User_Refusal);
     Bench.Click(W.chkNoise);
     EXPECT_TRUE(Bench.S.Of<Log_State>().Log_Noise_Enabled[1]);
