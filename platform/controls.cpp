@@ -231,9 +231,6 @@ void Option_Button::User_Set(const Control_Value& V) {
 Option_Group::Option_Group(Stand At, const std::string& Name, std::initializer_list<Wording> Choices) {
     for (const Wording& Choice : Choices) Add(At, Name, Choice.Caption, Choice.Tip);
 }
-Option_Group::Option_Group(Stand At, const std::string& Name, const std::vector<std::string>& Captions) {
-    for (const std::string& Text : Captions) Add(At, Name, Text, {});
-}
 void Option_Group::Add(Stand At, const std::string& Name, std::string Caption, std::string Tip) {
     const int Index = static_cast<int>(Buttons.size());
     Buttons.push_back(

@@ -202,7 +202,6 @@ struct Option_Button : Visible_Control {
 // but only on a change.
 struct Option_Group {
     Option_Group(Stand At, const std::string& Name, std::initializer_list<Wording> Choices);
-    Option_Group(Stand At, const std::string& Name, const std::vector<std::string>& Captions);
     std::function<void(int)> Click;
     int Selected() const { return Chosen; } // -1 = none
     void Select(int Which);

@@ -1,7 +1,7 @@
 #include "gnss/configuration/frm_gnss.hpp"
 
 #include "gnss/gnss_state.hpp"
-#include "shell/kit/control_text.hpp"
+#include "shell/kit/kept_choice.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
 

@@ -3,7 +3,6 @@
 #include "gnss/gnss_state.hpp"
 #include "gnss/position/position_parts.hpp"
 #include "ownship/navdata_state.hpp"
-#include "shell/kit/control_text.hpp"
 #include "shell/kit/kept_choice.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"

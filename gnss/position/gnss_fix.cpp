@@ -1,7 +1,8 @@
 #include "gnss/position/frm_position.hpp"
 #include "gnss/position/position_parts.hpp"
 #include "sentences/number_text.hpp"
-#include "shell/kit/control_text.hpp"
+#include "shell/kit/kept_choice.hpp"
+#include "shell/kit/shown_number.hpp"
 #include "shell/state/simulator.hpp"
 
 #include <charconv>

@@ -1,6 +1,6 @@
 #include "gnss/position/frm_position.hpp"
 #include "gnss/position/position_parts.hpp"
-#include "shell/kit/control_text.hpp"
+#include "shell/kit/shown_number.hpp"
 
 #include <algorithm>
 #include <cmath>

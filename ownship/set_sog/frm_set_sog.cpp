@@ -2,7 +2,7 @@
 
 #include "ownship/navdata_state.hpp"
 #include "sentences/number_pattern.hpp"
-#include "shell/kit/control_text.hpp"
+#include "shell/kit/shown_number.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
 

@@ -6,7 +6,7 @@
 #include "sensors/log/log_state.hpp"
 #include "sentences/number_pattern.hpp"
 #include "sentences/utc_state.hpp"
-#include "shell/kit/control_text.hpp"
+#include "shell/kit/shown_number.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"

@@ -5,7 +5,7 @@
 #include "ownship/navdata_state.hpp"
 #include "sensors/gyro/gyro_state.hpp"
 #include "sensors/log/log_state.hpp"
-#include "shell/kit/control_text.hpp"
+#include "shell/kit/shown_number.hpp"
 #include "shell/state/simulator_state.hpp"
 
 #include <algorithm>

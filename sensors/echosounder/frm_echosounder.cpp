@@ -2,9 +2,9 @@
 
 #include "sensors/echosounder/echo_state.hpp"
 #include "sentences/number_text.hpp"
-#include "shell/kit/control_text.hpp"
 #include "shell/kit/depth_wind_parts.hpp"
 #include "shell/kit/kept_choice.hpp"
+#include "shell/kit/shown_number.hpp"
 #include "shell/kit/value_bars.hpp"
 #include "shell/state/simulator.hpp"
 

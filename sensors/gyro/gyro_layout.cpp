@@ -1,6 +1,6 @@
 #include "sensors/gyro/frm_gyro.hpp"
-#include "shell/kit/control_text.hpp"
 #include "shell/kit/sensor_layout.hpp"
+#include "shell/kit/shown_number.hpp"
 
 namespace brinewright {
 

@@ -8,9 +8,9 @@
 #include "sensors/wind/wind_state.hpp"
 #include "sensors/wind/wind_units.hpp"
 #include "sentences/number_text.hpp"
-#include "shell/kit/control_text.hpp"
 #include "shell/kit/depth_wind_parts.hpp"
 #include "shell/kit/kept_choice.hpp"
+#include "shell/kit/shown_number.hpp"
 #include "shell/kit/value_bars.hpp"
 #include "shell/state/simulator.hpp"
 
@@ -76,19 +76,13 @@ void Send_MWD(Simulator& Sim, frmWind& W) {
 constexpr Interval_Choices MWV_Choices{Depth_Wind_Intervals, 2};
 constexpr Interval_Choices MWD_Choices{Depth_Wind_Intervals, 0};
 
-// In the setup file the second gauge keeps MWV in a section far from the first one's.
-constexpr Sentence_Row Second_At(Sentence_Row Row, Setup_Place Kept) {
-    Row.Kept[1] = Kept;
-    return Row;
-}
-
 // The window has no START: its sentences run as soon as they are ticked.
 constexpr int No_Start = 0;
 constexpr Sentence_Row Rows[] = {
-    Second_At(Row<&frmWind::MWV_Record, &Wind_State::MWV_Enabled, &Wind_State::MWV_Interval, Send_MWV>(
-                  {.Choices = &MWV_Choices, .New_Setup_Interval = 2, .Stagger_s = 0.15F}, "MWV",
-                  "angle and speed of the relative or true wind", No_Start, {"REM Active messages", 31}),
-              {"REM Utvidelser v6", 7}),
+    Kept_Apart(Row<&frmWind::MWV_Record, &Wind_State::MWV_Enabled, &Wind_State::MWV_Interval, Send_MWV>(
+                   {.Choices = &MWV_Choices, .New_Setup_Interval = 2, .Stagger_s = 0.15F}, "MWV",
+                   "angle and speed of the relative or true wind", No_Start, {"REM Active messages", 31}),
+               {"REM Utvidelser v6", 7}),
     Row<&frmWind::MWD_Record, &Wind_State::MWD_Enabled, &Wind_State::MWD_Interval, Send_MWD>(
         {.Choices = &MWD_Choices, .Stagger_s = 0.15F}, "MWD", "direction and speed of the true wind",
         No_Start, {"REM MWD", 1}),
@@ -101,7 +95,6 @@ void Wire_True_Wind(Simulator& Sim, frmWind& W) {
     float& Speed = S.Wind_Speed[W.Instance];
     W.scrHDG.Set_Value(Direction_Place(W.scrHDG, Direction));
     W.scrSpeed.Set_Value(Bar_Place(W.scrSpeed, Speed, Bar_Steps));
-    Show_Size(W.lblSpeed, W.txtSpeed, Speed);
     Wire_Typed_Bar(Sim, W,
                    {W.scrHDG, W.txtHDG, "Wind direction must be 0.0 to 360.0 degrees. Try again!",
                     [&] {
@@ -109,13 +102,8 @@ void Wire_True_Wind(Simulator& Sim, frmWind& W) {
                         CalculateRelativeWind(Sim, W, W.Instance);
                     },
                     [&] { return Direction_Shown(W.scrHDG); }, true});
-    const auto Take = [&](float New) {
-        Speed = New;
-        Show_Size(W.lblSpeed, W.txtSpeed, Speed);
-        CalculateRelativeWind(Sim, W, W.Instance);
-    };
-    W.scrSpeed.Change = [&W, Take] { Take(Bar_Value(W.scrSpeed)); };
-    W.txtSpeed.Lost_Focus = [&W, Take] { Take(Typed_Size(W.scrSpeed, W.txtSpeed)); };
+    Wire_Size_Bar({W.scrSpeed, W.lblSpeed, W.txtSpeed}, Speed,
+                  [&] { CalculateRelativeWind(Sim, W, W.Instance); });
 }
 
 // The unit is not kept: a window starts with knots. The numbers of the true wind stay as they are when it

@@ -1,8 +1,15 @@
 #include "shell/kit/kept_choice.hpp"
 
-#include "shell/kit/control_text.hpp"
-
 namespace brinewright {
+
+void Add_Items(Combo_Box& List, std::span<const char* const> Entries) {
+    for (const char* Entry : Entries) List.Add_Item(Entry);
+}
+
+void Restore_Choice(Combo_Box& List, int Stored, int Default) {
+    const int Count = static_cast<int>(List.Items().size());
+    List.Set_List_Index(Stored >= 0 && Stored < Count ? Stored : Default);
+}
 
 void Keep(Check_Box& Box, bool& Stored) {
     Box.Click = [&Box, &Stored] { Stored = Box.Value(); };

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "platform/controls.hpp"
-#include "shell/kit/sentence_family.hpp"
 
 #include <cstdint>
+#include <span>
 
 namespace brinewright {
+
+// Fills a list.
+void Add_Items(Combo_Box& List, std::span<const char* const> Entries);
 
 // One line for each control that keeps what the user chooses: it shows what is stored, and stores what is
 // chosen from then on. The variable is one of the state and outlives the window.
@@ -19,11 +22,7 @@ void Keep(Option_Group& Group, bool& Stored);
 // Default, in the variable too. Each choice runs After, also the first one.
 void Keep(Combo_Box& List, std::int16_t& Stored, int Default, Handler After = nullptr);
 
-// The row of a sentence of which the setup file keeps the choice of instance 2 elsewhere than on the line
-// behind that of instance 1.
-constexpr Sentence_Row Kept_Apart(Sentence_Row Of, Setup_Place Second) {
-    Of.Kept[1] = Second;
-    return Of;
-}
+// Shows a stored choice, or Default in place of one that the list does not have.
+void Restore_Choice(Combo_Box& List, int Stored, int Default);
 
 } // namespace brinewright

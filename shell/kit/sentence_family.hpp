@@ -106,6 +106,13 @@ constexpr Sentence_Row Row(const Sentence_Row& Common, const char* Type, const c
     return New;
 }
 
+// The row of a sentence of which the setup file keeps the choice of instance 2 elsewhere than on the line
+// behind that of instance 1.
+constexpr Sentence_Row Kept_Apart(Sentence_Row Of, Setup_Place Second) {
+    Of.Kept[1] = Second;
+    return Of;
+}
+
 // A row at work in an open window: its controls, and what of the state they show.
 struct Sentence_Line {
     Sentence_Line(Form& W, const Sentence_Row& Its_Row);

@@ -1,7 +1,7 @@
 #include "shell/kit/value_bars.hpp"
 
 #include "ownship/geodesy/angles.hpp"
-#include "shell/kit/control_text.hpp"
+#include "shell/kit/shown_number.hpp"
 #include "shell/state/simulator.hpp"
 
 #include <algorithm>
@@ -11,6 +11,25 @@
 namespace brinewright {
 
 double Signed_Draw(Simulator& Sim) { return 2 * (Sim.Services.Random.Draw() - 0.5); }
+
+int Bar_Place(const Scroll_Bar& Bar, double Value, int Steps) {
+    const int Least = std::min<int>(Bar.Min, Bar.Max), Most = std::max<int>(Bar.Min, Bar.Max);
+    if (std::isnan(Value)) return std::clamp(0, Least, Most);
+    return static_cast<int>(
+        std::nearbyint(std::clamp(Value * Steps, static_cast<double>(Least), static_cast<double>(Most))));
+}
+
+bool Wrap_Direction_Bar(Scroll_Bar& Bar) {
+    if (Bar.Value() == Bar.Max) {
+        Bar.Set_Value(0);
+        return true;
+    }
+    if (Bar.Value() == Bar.Min) {
+        Bar.Set_Value(Bar.Max - 1);
+        return true;
+    }
+    return false;
+}
 
 int Direction_Place(const Scroll_Bar& Bar, double Angle_deg) {
     const int Circle = Bar.Max;
@@ -71,10 +90,6 @@ void Wire_Size_Bar(const Size_Bar& B, float& Value, Handler Taken) {
     Show_Size(B.Shown, B.Box, Value);
     B.Bar.Change = [B, Take] { Take(Bar_Value(B.Bar)); };
     B.Box.Lost_Focus = [B, Take] { Take(Typed_Size(B.Bar, B.Box)); };
-}
-
-void Hide(std::initializer_list<Visible_Control*> Parts) {
-    for (Visible_Control* Part : Parts) Part->Visible = false;
 }
 
 } // namespace brinewright

@@ -3,7 +3,6 @@
 #include "platform/controls.hpp"
 
 #include <functional>
-#include <initializer_list>
 #include <string>
 
 namespace brinewright {
@@ -16,6 +15,14 @@ inline constexpr int Bar_Steps = 10; // of a degree, knot or metre on every bar 
 
 // The next draw, -1 to under 1: times the largest noise it is the noise to either side.
 double Signed_Draw(Simulator& Sim);
+
+// The place on a bar of Steps to the unit that is nearest to Value, ties to even; held within the bar.
+int Bar_Place(const Scroll_Bar& Bar, double Value, int Steps);
+
+// A bar of a direction in tenths of a degree runs from -1 to 3600; both ends are the wrap and no places to
+// stand on. Called first in the bar's handler: at an end it sets the bar to the other side, which runs the
+// handler anew, and returns true, whereupon the handler is to return.
+bool Wrap_Direction_Bar(Scroll_Bar& Bar);
 
 // Where a bar of a direction shows an angle, whatever circle it is in: nearest tenth, 0 to 3599.
 int Direction_Place(const Scroll_Bar& Bar, double Angle_deg);
@@ -33,7 +40,7 @@ void Move_Bar(Scroll_Bar& Bar, int Place);
 struct Box_Of_Bar {
     Scroll_Bar& Bar;
     Text_Box& Box;
-    const char* Refusal; // what is told when the bar does not reach it
+    const char* Refusal; // the text of the box when the bar does not reach it
     std::string Shown;   // what the box shows while nobody types
 };
 
@@ -73,9 +80,5 @@ struct Size_Bar {
 // Shows Value, wherever it lies, without writing it; from then on what bar or box is set to goes into Value,
 // and Taken runs after it. Value is a member of the window or outlives it.
 void Wire_Size_Bar(const Size_Bar& B, float& Value, Handler Taken = nullptr);
-
-// Hides every control of a list: what stands in a hidden frame is hidden one by one too, so that nobody can
-// work it from outside either.
-void Hide(std::initializer_list<Visible_Control*> Parts);
 
 } // namespace brinewright
