@@ -178,7 +178,9 @@ struct Windows : Every_Window, testing::TestWithParam<Case> {
     void Do(const std::string& What, const Work& Its_Work) {
         Out += What + "\n";
         const Facts Before = Look();
+        const std::int64_t Before_us = Now_us();
         Sim.Windows.Event(Its_Work);
+        if (Now_us() != Before_us) Out += "    takes " + Shown(Now_us() - Before_us) + " us\n";
         for (const auto& [Path, Fact] : Look()) {
             const auto Was = Before.find(Path);
             if (Was == Before.end() || Was->second != Fact) Out += "    " + Path + " " + Fact + "\n";
@@ -219,6 +221,9 @@ struct Windows : Every_Window, testing::TestWithParam<Case> {
             return Push(Mouse_Button::Right);
         case Control_Kind::Check_Box: Push(Mouse_Button::Left); [[fallthrough]];
         case Control_Kind::Button:
+        case Control_Kind::Menu_Item:
+            if (Path == "mnuFileExit") return;
+            [[fallthrough]];
         case Control_Kind::Option_Button: return Push(Mouse_Button::Left);
         case Control_Kind::Combo_Box: {
             const auto& List = static_cast<const Combo_Box&>(C);
@@ -259,7 +264,8 @@ struct Windows : Every_Window, testing::TestWithParam<Case> {
 };
 
 std::vector<Case> All_Cases() {
-    std::vector<Case> Cases;
+    static const Window_Class Main{.Name = "frmMain"}; // its menus
+    std::vector<Case> Cases{{&Main, "Ship"}};
     for (const Window_Class* Class : All_Windows())
         for (const char* Mode : {"Ship", "Sensor"})
             if (Mode == std::string("Ship") || !Class->Sentences.empty()) Cases.push_back({Class, Mode});
@@ -341,7 +347,10 @@ TEST_P(Windows, Make_The_Best_Of_Garbage) {
         Spoil_Area(S.Of<GNSS_State>()), Spoil_Area(S.Of<Gyro_State>()), Spoil_Area(S.Of<Log_State>());
         Spoil_Area(S.Of<Echo_State>()), Spoil_Area(S.Of<Wind_State>()), Spoil_Area(S.Of<Navdata_State>());
         S.Of<Shell_State>().Mode = GetParam().Mode;
-        for (auto& Slot : S.Of<Link_State>().Sensor_Table) Slot.Port = Odd;
+        V.Use({18});
+        if (Instance > 0)
+            S.Of<Link_State>().Sensor_Table[Class.First_Form_Index + Instance - 1].Port =
+                Odd == -1 ? 18 : Odd;
         for (const Sentence_Row& Row : Class.Sentences) Row.Setting(S, Instance).Enabled = true;
         V.Sim.Windows.Event([&] { Open_Window(V.Sim, Class, Instance); });
         V.Run_s(3);
@@ -355,6 +364,7 @@ TEST_P(Windows, Make_The_Best_Of_Garbage) {
             if (C->Kind == Control_Kind::Combo_Box || C->Kind == Control_Kind::Scroll_Bar ||
                 C->Kind == Control_Kind::Text_Box)
                 Out += "    " + C->Path() + " " + Value(*C) + "\n";
+        for (const auto& [Port, Text] : V.Left) Out += "    " + Shown(Port) + " " + Shown(Text) + "\n";
         for (const std::string& Box : V.Take_Boxes()) Out += "    box " + Shown(Box) + "\n";
     }
     Check("garbage");
