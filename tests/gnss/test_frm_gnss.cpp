@@ -33,34 +33,6 @@ std::string Shown(const frmGNSS& F) {
     return *F.lblGNSModeIndicator.Caption + " " + *F.lblGNSS_Config.Caption + " " + *F.lblGNSTalker.Caption;
 }
 
-TEST(GNSS_Configuration, Opens_On_The_Stored_Settings_Beside_Its_Window) {
-    Dialog_Bench Bench;
-    frmPosition& W = Bench.Open(2);
-    W.Set_Place(300, 400, 7000, 9330);
-    EXPECT_EQ(*W.lblGNS_ModeIndicator.Caption + *W.lblGNSS.Caption + *W.lblGNS_Talker.Caption, "AGPSGP");
-    frmGNSS& F = Bench.Configure(2);
-    EXPECT_EQ(F.Caption, "GNSS 2 Configuration");
-    EXPECT_EQ(F.Path(), "frmGNSS[2]");
-    EXPECT_TRUE(F.Left == 1300 && F.Top == 1400 && F.Width == 5955 && F.Height == 3420);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Config_Index, 2);
-    EXPECT_EQ(Shown(F), "A GPS GP");
-    ASSERT_EQ(F.Systems.size(), 6U);
-    EXPECT_EQ(*F.Systems[5].lblGNSS_System.Caption, "6 - NavIC (IRNSS)");
-    for (const GNSS_System_Row& Row : F.Systems) {
-        const bool GPS = Row.chkUse.Index == 0;
-        EXPECT_EQ(Row.chkUse.Value(), GPS);
-        EXPECT_EQ(*Row.cmbMode.Enabled, GPS);
-        EXPECT_EQ(Row.cmbMode.Items().size(), 9U);
-        EXPECT_EQ(Row.cmbMode.Text(),
-                  GPS ? "A - Autonomous.(Non-differential mode)" : "N - Not used or not valid");
-    }
-    for (const Control* C : F.Controls)
-        EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
-    Bench.Configure(2);
-    EXPECT_EQ(Open_One<frmGNSS>(Bench.Sim, 2), &F) << "the second press finds it open";
-    EXPECT_EQ(Bench.Last_Box(), "");
-}
-
 TEST(GNSS_Configuration, Letters_Names_And_Talker_Follow_The_Choice) {
     Dialog_Bench Bench;
     Bench.Open();

@@ -167,29 +167,6 @@ TEST(Position_Simulator, Noise_Accumulates_Only_When_Asked_And_A_Seed_Repeats_It
     EXPECT_NE(Walk(2, true).second.Lat, Reported_Walked.Lat);
 }
 
-TEST(Position_Simulator, Noise_Controls) {
-    GNSS_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Enabled[2] =
-        Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Accumulated[2] = true;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Index[2] = 18;
-    frmPosition& W = Bench.Open(2);
-    EXPECT_TRUE(W.chkNoise.Value());
-    EXPECT_EQ(W.optAccumulatedNoise.Selected(), 1);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Max[2], 50);
-    for (const auto& [Index, Metres] : {std::pair{0, 0}, {16, 16}, {17, 25}, {18, 50}, {19, 100}}) {
-        W.cmbNoise.Set_List_Index(Index);
-        EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Max[2], Metres);
-        EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Index[2], Index);
-    }
-    Bench.Click(*W.optAccumulatedNoise.Buttons[0]);
-    EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Accumulated[2]);
-    Bench.Click(W.chkNoise);
-    EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().GNSS_Noise_Enabled[2]);
-    EXPECT_FALSE(W.cmbNoise.Enabled);
-    EXPECT_FALSE(W.optAccumulatedNoise.Buttons[1]->Enabled);
-    EXPECT_FALSE(Bench.Open(1).cmbNoise.Enabled);
-}
-
 TEST(Position_Simulator, A_Held_Offset_Follows_The_True_Position_Of_GNSS_1) {
     GNSS_Bench Bench;
     frmPosition& First = Start_At(Bench, {60, 5}, 0, 0, 1);
@@ -243,34 +220,6 @@ TEST(Position_Simulator, The_Labels_Slip_When_The_Offset_Is_Released) {
     EXPECT_EQ(W.txtLon.Text(), "000\xB0 00.0000' E");
     frmPosition& First = Bench.Open(1);
     EXPECT_THROW(Bench.Click(First.chkFixOffset), User_Refusal);
-}
-
-TEST(Position_Simulator, Position_Boxes_Set_The_True_Position_Only) {
-    GNSS_Bench Bench;
-    frmPosition& W = Start_At(Bench, {1, 2}, 0, 0);
-    Bench.Run_To(1.5);
-    EXPECT_THROW(Bench.Type(W.txtLat, "10 N"), User_Refusal);
-    Bench.Click(W.cmdPause);
-    EXPECT_EQ(*W.cmdStart.Caption, "Continue");
-    Bench.Type(W.txtLat, "62 30,5 S");
-    EXPECT_EQ(W.txtLat.Text(), "62\xB0 30.5000' S");
-    EXPECT_EQ(*W.cmdStart.Caption, "START");
-    Bench.Type(W.txtLon, "6 10 E");
-    Expect_Near(True_Position(Bench), {-(62 + 30.5 / 60), 6 + 10.0 / 60}, 1e-12);
-    EXPECT_EQ(Reported(Bench).Lat, 1);
-    Bench.Click(W.cmdStart);
-    Bench.Run_For(1.1);
-    Expect_Near(Reported(Bench), True_Position(Bench), 0);
-    EXPECT_EQ(Bench.Box_Count(), 0U);
-
-    Bench.Click(W.cmdPause);
-    Bench.Sim.State.Of<Shell_State>().LatLon_Format = 1;
-    Bench.Type(W.txtLat, "62 35 30 N");
-    EXPECT_EQ(W.txtLat.Text(), "62\xB0"
-                               "35'30.000\"N");
-    Bench.Type(W.txtLat, "91 0 0 N");
-    EXPECT_EQ(Bench.Last_Box(), "LATITUDE FORMAT ERROR. Max 90 deg allowed");
-    EXPECT_EQ(True_Position(Bench).Lat, 90);
 }
 
 } // namespace

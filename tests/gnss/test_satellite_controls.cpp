@@ -25,12 +25,6 @@ std::vector<int> Filled(const List& Numbers) {
     return Found;
 }
 
-std::string Numbers_In_Table(const frmPosition& W) {
-    std::string Found;
-    for (int Row = 0; Row < W.hfgGSV.Rows(); ++Row) Found += W.hfgGSV.At(Row, 0).Text + " ";
-    return Found;
-}
-
 void Choose(GNSS_Bench& Bench, Combo_Box& List, int Entry) {
     Bench.Sim.Windows.User_Set(List, std::int64_t{Entry});
 }
@@ -41,23 +35,6 @@ void Tick(GNSS_Bench& Bench, Timer& Clock) {
 }
 
 using Ints = std::vector<int>;
-
-TEST(GNSS_Satellite_Controls, Open_With_Their_Captions_And_Choices) {
-    GNSS_Bench Bench;
-    const frmPosition& W = Bench.Open();
-    EXPECT_EQ(*W.chkSv[3].Caption, "03");
-    EXPECT_EQ(*W.chkGLSv[24].Caption, "24");
-    EXPECT_EQ(*W.chkWAASSv[1].Caption, "124 ");
-    EXPECT_EQ(*W.chkWAASSv[6].Tool_Tip, "137 (MTSAT-2) NMEA Index 50");
-    EXPECT_EQ(W.cmbSats.Items().size(), 64U);
-    EXPECT_EQ(W.cmbSats.Text(), "8");
-    EXPECT_EQ(W.cmbInView.Text(), "8");
-    EXPECT_EQ(W.hfgGSV.Rows(), 8);
-    EXPECT_EQ(Numbers_In_Table(W), "03 06 08 12 19 24 25 32 ");
-    EXPECT_EQ(*W.hfgGSV.Width, 2050);
-    EXPECT_FALSE(*W.lblGSAWarning.Visible);
-    EXPECT_EQ(W.timer_GSVUpdate.Interval_ms(), 60'000);
-}
 
 TEST(GNSS_Satellite_Controls, The_Number_Takes_The_Lowest_Free_And_Gives_Up_The_Last) {
     GNSS_Bench Bench;
@@ -89,68 +66,6 @@ TEST(GNSS_Satellite_Controls, The_Number_Takes_The_Lowest_Free_And_Gives_Up_The_
     EXPECT_TRUE(Bench.Sent.empty());
     Tick(Bench, W.Sentences["GSA"].Clock);
     EXPECT_EQ(Bench.Sent.at(0).Text, Framed("GPGSA,A,3,,,,,,,,,,,,,2.6,1.4,2.2"));
-}
-
-TEST(GNSS_Satellite_Controls, The_Boxes_Set_The_Number_And_The_Lists) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    Choose(Bench, W.cmbInView, 20);
-    for (Check_Box* Box : {&W.chkGLSv[1], &W.chkWAASSv[0], &W.chkWAASSv[2], &W.chkSv[1]}) Bench.Click(*Box);
-    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_Use),
-              (Ints{1, 3, 6, 8, 12, 19, 24, 25, 32, 33, 44, 65}));
-    EXPECT_EQ(Numbers_In_Table(W), "01 03 06 08 12 19 24 25 32 120 131 GL01 ");
-    EXPECT_EQ(W.cmbSats.Text(), "12");
-    EXPECT_EQ(W.cmbInView.Text(), "12") << "as many in view as in use again";
-    EXPECT_EQ(Checked(W).size(), 12U) << "the number must not drive the boxes back";
-    EXPECT_FALSE(*W.lblGSAWarning.Visible);
-
-    Bench.Click(W.chkGLSv[24]);
-    EXPECT_TRUE(*W.lblGSAWarning.Visible);
-    EXPECT_EQ(W.cmbSats.Text(), "13");
-    Tick(Bench, W.Sentences["GSA"].Clock);
-    EXPECT_EQ(Bench.Sent.at(0).Text, Framed("GPGSA,A,3,1,3,6,8,12,19,24,25,32,120,131,65,2.6,1.4,2.2"));
-    Tick(Bench, W.Sentences["GSV"].Clock);
-    ASSERT_EQ(Bench.Sent.size(), 4U);
-    EXPECT_EQ(Bench.Sent[2].Text.substr(0, 19), "$GPGSV,4,3,13,32,0,");
-    EXPECT_NE(Bench.Sent[2].Text.find(",120,"), std::string::npos);
-    EXPECT_EQ(Bench.Sent[3].Text.substr(0, 17), "$GPGSV,4,4,13,88,");
-    Tick(Bench, W.Sentences["GGA"].Clock);
-    EXPECT_NE(Bench.Sent.at(0).Text.find(",1,13,1.4,"), std::string::npos);
-    Bench.Click(W.chkSv[1]);
-    EXPECT_FALSE(*W.lblGSAWarning.Visible);
-    Choose(Bench, W.cmbSats, 13);
-    EXPECT_TRUE(*W.lblGSAWarning.Visible);
-}
-
-TEST(GNSS_Satellite_Controls, In_View_Adds_Free_GPS_Satellites_And_Refuses_Fewer_Than_In_Use) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    Choose(Bench, W.cmbInView, 10);
-    EXPECT_EQ(Numbers_In_Table(W), "03 06 08 12 19 24 25 32 01 02 ");
-    EXPECT_EQ(W.hfgGSV.At(7, 0).Colour, Ink::Black);
-    EXPECT_EQ(W.hfgGSV.At(8, 0).Colour, Ink::Red);
-    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_View).size(), 24U)
-        << "all free ones, not just two";
-    EXPECT_TRUE(Bench.Sim.State.Of<GNSS_State>().Sky_Table[31].In_View);
-    Choose(Bench, W.cmbInView, 20);
-    EXPECT_EQ(*W.hfgGSV.Width, 2350);
-
-    Choose(Bench, W.cmbInView, 7);
-    EXPECT_EQ(Bench.Last_Box(), "Satellites in view can not be less than used satellites");
-    EXPECT_EQ(Bench.Sim.Windows.Boxes.Standing.back().Title, "Illegal choice");
-    EXPECT_EQ(Bench.Box_Count(), 1U);
-    EXPECT_EQ(W.cmbInView.Text(), "8");
-    EXPECT_EQ(W.GSV_Record.In_View, 8);
-    Bench.Sim.Windows.Boxes.Answer(1);
-
-    Choose(Bench, W.cmbInView, 34); // two more than there are
-    EXPECT_EQ(W.hfgGSV.At(31, 0).Text, "31");
-    EXPECT_EQ(W.hfgGSV.At(33, 0).Text, "00");
-    EXPECT_EQ(W.hfgGSV.At(33, 1).Text, "");
-    Tick(Bench, W.Sentences["GSV"].Clock);
-    ASSERT_EQ(Bench.Sent.size(), 9U);
-    EXPECT_EQ(Bench.Sent[8].Text, Framed("GPGSV,9,9,34,,,,,,,,,,,,,,,,"));
-    EXPECT_EQ(Bench.Last_Box(), "");
 }
 
 TEST(GNSS_Satellite_Controls, The_Table_Rounds_And_Follows_The_Sky_Once_A_Minute) {

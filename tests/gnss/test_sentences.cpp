@@ -27,26 +27,6 @@ GNSS_Bench& Place(GNSS_Bench& Bench, int I = 1) {
     return Bench;
 }
 
-TEST(GNSS_Sentences, Start_With_The_Told_Values) {
-    GNSS_Bench Bench(10 * 3600 * us_Per_Second);
-    frmPosition& W = Place(Bench).Open();
-    const std::string At = "6235.5000,N,00610.0000,W";
-    EXPECT_EQ(Tick(Bench, W.Sentences["GGA"].Clock),
-              Framed("GPGGA,100000," + At + ",1,8,1.4,0.0,M,0.0,M,5.0,0100"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["GLL"].Clock), Framed("GPGLL," + At + ",100000,A,A"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["RMC"].Clock),
-              Framed("GPRMC,100000,A," + At + ",12.3,359.0,010170,002.5,E,A,S"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock),
-              Framed("GPGNS,100000," + At + ",A,8,1.4,0.0,0.0,5.0,0,S"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["VTG"].Clock), Framed("GPVTG,359.0,T,001.5,M,12.3,N,022.78,K,A"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["ZDA"].Clock), Framed("GPZDA,100000,01,01,1970,00,00"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["DTM"].Clock), Framed("GPDTM,W84, ,0,N,0,E,0,W84"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["GSA"].Clock),
-              Framed("GPGSA,A,3,3,6,8,12,19,24,25,32,,,,,2.6,1.4,2.2"));
-    EXPECT_EQ(Tick(Bench, W.Sentences["GST"].Clock),
-              Framed("GPGST,100000,0.00,0.00,0.00,000,0.00,0.00,0.00"));
-}
-
 TEST(GNSS_Sentences, Follow_State_Decimals_And_Their_Own_Instance) {
     GNSS_Bench Bench;
     frmPosition& W = Place(Bench, 2).Open(2);
@@ -98,67 +78,6 @@ TEST(GNSS_Sentences, Tag_Block_Stands_In_Front_But_Never_Of_The_Second_GSA) {
     EXPECT_EQ(Bench.Sent[1].Text, Framed("GLGSA,M,2,65,,,,,,,,,,,,2.6,1.4,9.0"));
 }
 
-TEST(GNSS_Sentences, START_And_PAUSE_Reach_Only_Their_Own_Sentences) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    Timer* const Clocks[] = {&W.Sentences["GGA"].Clock, &W.Sentences["GLL"].Clock, &W.Sentences["RMC"].Clock,
-                             &W.Sentences["VTG"].Clock, &W.Sentences["GNS"].Clock, &W.Sentences["ZDA"].Clock,
-                             &W.Sentences["DTM"].Clock, &W.Sentences["GSA"].Clock, &W.Sentences["GSV"].Clock,
-                             &W.Sentences["GST"].Clock};
-    for (Check_Box* Box :
-         {&W.Sentences["GGA"].Box, &W.Sentences["GLL"].Box, &W.Sentences["RMC"].Box, &W.Sentences["VTG"].Box,
-          &W.Sentences["GNS"].Box, &W.Sentences["ZDA"].Box, &W.Sentences["DTM"].Box, &W.Sentences["GSA"].Box,
-          &W.Sentences["GSV"].Box, &W.Sentences["GST"].Box})
-        Bench.Click(*Box);
-    const auto Running = [&] {
-        std::string Names;
-        for (const Timer* Clock : Clocks)
-            Names += Clock->Interval_ms() > 0 ? Clock->Name.substr(6) + " " : "";
-        return Names;
-    };
-    const std::string All = "GGA GLL RMC VTG GNS ZDA DTM GSA GSV GST ";
-    EXPECT_EQ(Running(), All);
-    EXPECT_EQ(W.timer_Simulator.Interval_ms(), 0);
-
-    Bench.Click(W.cmdStart);
-    EXPECT_TRUE(W.cmdPause.Enabled);
-    EXPECT_FALSE(W.txtLat.Enabled);
-    EXPECT_FALSE(W.txtLon.Enabled);
-    EXPECT_EQ(*W.cmdStart.Caption, "START");
-    EXPECT_EQ(W.timer_Simulator.Interval_ms(), 1000);
-
-    Bench.Click(W.cmdPause);
-    EXPECT_EQ(Running(), "GNS ZDA DTM GSA GSV GST ");
-    EXPECT_EQ(W.timer_Simulator.Interval_ms(), 0);
-    EXPECT_TRUE(W.txtLat.Enabled);
-    EXPECT_EQ(*W.cmdStart.Caption, "Continue");
-
-    Bench.Click(W.Sentences["GGA"].Box);
-    for (Timer* Clock : {&W.Sentences["GSA"].Clock, &W.Sentences["GSV"].Clock, &W.Sentences["GST"].Clock})
-        Clock->Set_Interval(0);
-    Bench.Click(W.cmdStart);
-    EXPECT_EQ(Running(), "GLL RMC VTG GNS ZDA DTM ") << "unticked and GSA, GSV, GST stay as they are";
-    EXPECT_EQ(*W.cmdStart.Caption, "Continue");
-}
-
-TEST(GNSS_Sentences, START_Restarts_The_Phases_In_Its_Own_Order) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    for (Check_Box* Box :
-         {&W.Sentences["DTM"].Box, &W.Sentences["ZDA"].Box, &W.Sentences["GNS"].Box, &W.Sentences["VTG"].Box,
-          &W.Sentences["RMC"].Box, &W.Sentences["GLL"].Box, &W.Sentences["GGA"].Box})
-        Bench.Click(*Box);
-    for (Combo_Box* List : {&W.Sentences["DTM"].Interval_List, &W.Sentences["ZDA"].Interval_List})
-        List->Set_List_Index(0);
-    Bench.Run_To(0.7);
-    Bench.Click(W.cmdStart);
-    Bench.Run_To(1.8);
-    std::string Order;
-    for (const std::string& Text : Bench.Texts()) Order += Text.substr(3, 3) + " ";
-    EXPECT_EQ(Order, "GGA GLL RMC VTG GNS ZDA DTM ");
-    EXPECT_EQ(Bench.Sent.front().Time_us, 1'700'000);
-}
-
 TEST(GNSS_Sentences, A_New_Interval_Restarts_The_Phase_Of_A_Ticked_Sentence_Only) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
@@ -175,36 +94,6 @@ TEST(GNSS_Sentences, A_New_Interval_Restarts_The_Phase_Of_A_Ticked_Sentence_Only
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[0].Time_us, 2'950'000);
     EXPECT_EQ(Bench.Sent[1].Time_us, 4'950'000);
-}
-
-TEST(GNSS_Sentences, Talker_Rule) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    Bench.Sim.Windows.User_Focus(W.txtTalker);
-    EXPECT_EQ(*W.txtTalker.Select_All_Count, 1U);
-    Bench.Type(W.txtTalker, "g\xE6");
-    EXPECT_EQ(W.txtTalker.Text(), "G\xC6");
-    Bench.Type(W.txtTalker, "1a");
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[1], "1A");
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[2], "GP");
-    for (Timer* Clock : {&W.Sentences["GGA"].Clock, &W.Sentences["GLL"].Clock, &W.Sentences["RMC"].Clock,
-                         &W.Sentences["VTG"].Clock, &W.Sentences["ZDA"].Clock, &W.Sentences["DTM"].Clock,
-                         &W.Sentences["GSA"].Clock, &W.Sentences["GST"].Clock})
-        EXPECT_EQ(Tick(Bench, *Clock).substr(0, 3), "$1A") << Clock->Name;
-    EXPECT_EQ(W.GSV_Record.Talker, "1A");
-    EXPECT_EQ(W.GNS_Record.Talker, "1A");
-    EXPECT_EQ(Tick(Bench, W.Sentences["GNS"].Clock).substr(0, 3), "$GP") << "the constellation setup decides";
-    EXPECT_EQ(W.GSA2_Record.Talker, "GL");
-
-    for (const char* Wrong : {"G", "", "GPS"}) {
-        Bench.Type(W.txtTalker, Wrong);
-        EXPECT_EQ(Bench.Last_Box(), "NMEA Talker ID must be two characters. Try again!");
-        EXPECT_EQ(Bench.Sim.Windows.Boxes.Standing.back().Title, "NMEA Talker ID");
-        EXPECT_EQ(W.txtTalker.Text(), "1A");
-        EXPECT_EQ(Bench.Sim.Windows.Focus, &W.txtTalker);
-    }
-    EXPECT_EQ(Bench.Box_Count(), 3U);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_Talker[1], "1A");
 }
 
 } // namespace

@@ -41,23 +41,6 @@ struct Ten_Seconds {
 
 } // namespace
 
-// As a window opens with them, before a tick has brought values.
-TEST(Sensor_Sentences, Fresh_Records_Have_Their_Sensors_Talker_And_Are_Valid) {
-    EXPECT_EQ(Compose_HDT({}, 1, true), "$HEHDT,000.0,T");
-    EXPECT_EQ(Compose_THS({}, 1, true), "$HETHS,000.0,A");
-    EXPECT_EQ(Compose_ROT({}, 1, true), "$HEROT,000.0,A");
-    EXPECT_EQ(Compose_ATT({}, true), "$PFEC,HEatt,000.0,000.0,000.0");
-    EXPECT_EQ(Compose_PRDID({}, true), "$PRDID,000.0,000.0,000.0");
-    EXPECT_EQ(Compose_VHW({}, true), "$VWVHW,000.0,T,000.0,M,0.0,N,0.0,K");
-    EXPECT_EQ(Compose_VBW({}, true), "$VWVBW,0.0,0.0,A,0.0,0.0,A,0.0,A,0.0,A");
-    EXPECT_EQ(Compose_VDR({}, true), "$VWVDR,000.0,T,000.0,M,0.0,N");
-    EXPECT_EQ(Ten_Seconds().Send(0, 0), "$VWVLW,0.0000,N,0.0,N,0.0000,N,0.0,N,");
-    EXPECT_EQ(Compose_DBT({}, true), "$SDDBT,0.0,f,0.0,M,0.0,F");
-    EXPECT_EQ(Compose_DPT({}, true), "$SDDPT,0.0,0.0,0.0");
-    EXPECT_EQ(Compose_MWV({}, true), "$WIMWV,000.0,R,000.0,N,A");
-    EXPECT_EQ(Compose_MWD({}, true), "$WIMWD,000.0,T,000.0,M,000.0,N,000.0,M");
-}
-
 TEST(Sensor_Sentences, Att_Keeps_Two_Characters_For_The_Talker) {
     EXPECT_EQ(Compose_ATT({"GPS", 1, 2, 3}, true), "$PFEC,GPatt,001.0,002.0,003.0");
     EXPECT_EQ(Compose_ATT({"G", 1, 2, 3}, true), "$PFEC,G att,001.0,002.0,003.0");

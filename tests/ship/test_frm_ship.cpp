@@ -16,47 +16,6 @@
 namespace brinewright {
 namespace {
 
-TEST(Frm_Ship, Opening_Shows_The_State_And_Takes_What_The_Sliders_Hold) {
-    Ship_Bench B([](Simulator_State& S) {
-        S.Of<Navdata_State>().Nav_SOG = 12.3F;
-        S.Of<Navdata_State>().Nav_Rudder = 7.25F;
-        S.Of<Navdata_State>().Nav_HDG = 45.678;
-        S.Of<Navdata_State>().Nav_COG = 46.25;
-        S.Of<Gyro_State>().Gyro_Offset[1] = 1.5F;
-        S.Of<Navdata_State>().Ship_SOG_Noise_Index = 3;
-        S.Of<Navdata_State>().Ship_ROT_Noise_Index = 10;
-    });
-    const frmShip& W = B.Ship();
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 12.4F); // 31 % of 40
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 7.2F);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, 45.678);
-    EXPECT_EQ(W.sldThrottle.Value(), -31);
-    EXPECT_EQ(W.sldRudder.Value(), 72); // half way: to even
-    EXPECT_EQ(Shown(W.lblThrottle), "31 % ahead");
-    EXPECT_EQ(Shown(W.lblSOG), "12.4 knot");
-    EXPECT_EQ(Shown(W.lblRudder), "7.2");
-    EXPECT_EQ(*W.lblRudder.Fore_Colour, Ink::Green);
-    EXPECT_EQ(W.cmbHDG.Text(), "046.3") << "the course, as required";
-    EXPECT_EQ(Shown(W.lblGyro[0]), "047.18 deg");
-    EXPECT_EQ(Shown(W.lblLat[0]), "62\xB0 35.5000' N");
-    EXPECT_EQ(Shown(W.lblLon[0]), "006\xB0 10.0000' E");
-    EXPECT_EQ(W.cmbHDG.Items().size(), 24U);
-    EXPECT_EQ(W.cmbHDG.Items().back().Text, "345");
-    EXPECT_EQ(W.cmbSOGNoise.Text(), "0.3 kt");
-    EXPECT_EQ(W.cmbROTNoise.Text(), "1.0 \xB0");
-    EXPECT_EQ(W.cmbROTNoise.Items().size(), 11U);
-    EXPECT_EQ(W.Path(), "frmShip");
-    EXPECT_EQ(W.Caption, "Ship Simulator");
-    EXPECT_TRUE(*Main_Window(B.Sim).Item("mnuShip").Checked);
-    EXPECT_TRUE(*W.lblJoystick.Visible);
-    EXPECT_FALSE(*W.frameJoystick.Visible || *W.frameArrows.Visible || *W.lblFreeze.Visible ||
-                 *W.lblPause.Visible);
-    for (const Control* C : W.Controls) {
-        if (C->Kind == Control_Kind::Timer) continue;
-        EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
-    }
-}
-
 TEST(Frm_Ship, Opening_Brings_Speed_And_Rate_Of_Turn_Within_Their_Limits) {
     for (const float Sign : {1.0F, -1.0F}) {
         Ship_Bench B([&](Simulator_State& S) {
@@ -119,41 +78,6 @@ TEST(Frm_Ship, Has_One_Size_And_Keeps_Its_Place) {
     EXPECT_GT(B.State().Of<Navdata_State>().Nav_Lat, Lat);
 }
 
-TEST(Frm_Ship, Throttle_And_Rate_Of_Turn_Act_At_Once) {
-    Ship_Bench B;
-    frmShip& W = B.Ship();
-    const struct {
-        int Throttle;
-        float SOG_kn;
-        const char *Percent, *Speed;
-    } Throttles[] = {{-100, 40, "100 % ahead", "40.0 knot"},
-                     {-1, 0.4F, "1 % ahead", "0.4 knot"},
-                     {50, -2.5F, "50 % astern", "-2.5 knot"},
-                     {100, -5, "100 % astern", "-5.0 knot"},
-                     {0, 0, "0 %", "0.0 knot"}};
-    for (const auto& T : Throttles) {
-        B.Place(W.sldThrottle, T.Throttle);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, T.SOG_kn) << T.Throttle;
-        EXPECT_EQ(Shown(W.lblThrottle), T.Percent);
-        EXPECT_EQ(Shown(W.lblSOG), T.Speed);
-    }
-    const struct {
-        int Tenths;
-        float Rate;
-        const char* Text;
-        Ink Colour;
-    } Rates[] = {{125, 12.5F, "12.5", Ink::Green},
-                 {-3, -0.3F, "0.3", Ink::Red},
-                 {999, 30, "30.0", Ink::Green},
-                 {0, 0, "0.0", Ink::Black}};
-    for (const auto& R : Rates) {
-        B.Place(W.sldRudder, R.Tenths);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, R.Rate) << R.Tenths;
-        EXPECT_EQ(Shown(W.lblRudder), R.Text);
-        EXPECT_EQ(*W.lblRudder.Fore_Colour, R.Colour);
-    }
-}
-
 TEST(Frm_Ship, All_Stop_Stops_What_The_Sliders_Are_Too_Coarse_For) {
     Ship_Bench B;
     frmShip& W = B.Ship();
@@ -173,28 +97,6 @@ TEST(Frm_Ship, All_Stop_Stops_What_The_Sliders_Are_Too_Coarse_For) {
         EXPECT_EQ(W.sldRudder.Value(), 0);
         EXPECT_EQ(Shown(W.lblSOG), "0.0 knot");
     }
-}
-
-TEST(Frm_Ship, Heading_List_Takes_What_Is_A_Heading) {
-    Ship_Bench B;
-    const struct {
-        const char* Typed;
-        double Heading_deg;
-        const char* Left;
-    } Rows[] = {{"123.4", 123.4, "123.4"}, {"45", 45, "45"},      {"7,5", 7.5, "7,5"},   {"361", 360, "360"},
-                {"-1", 0, "000"},          {"north", 0, "north"}, {"1e999", 360, "360"}, {"", 0, ""},
-                {"-1e999", 0, "000"},      {"nan", 0, "nan"},     {"345", 345, "345"}};
-    for (const auto& R : Rows) {
-        B.State().Of<Navdata_State>().Nav_HDG = 1;
-        B.Set(B.Ship().cmbHDG, std::string("200"));
-        B.Set(B.Ship().cmbHDG, std::string(R.Typed));
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, R.Heading_deg) << R.Typed;
-        EXPECT_EQ(B.Ship().cmbHDG.Text(), R.Left);
-    }
-    B.Set(B.Ship().cmbHDG, std::string("360"));
-    B.Run_s(1);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, 0);
-    EXPECT_EQ(B.Ship().cmbHDG.Text(), "000.0");
 }
 
 TEST(Frm_Ship, Labels_After_A_Step) {
@@ -254,20 +156,6 @@ TEST(Frm_Ship, Noise_Is_Of_The_Sensors_And_Of_The_Way_Sailed_Only) {
     B.Place(W.sldRudder, 50);
     B.Run_s(1);
     EXPECT_EQ(Shown(W.lblRudder), "5.0") << "as the slider wrote it";
-}
-
-TEST(Frm_Ship, Noise_Of_A_Setup_File_May_Be_Anything) {
-    for (const float Stored : {-1.0F, 11.0F, 1e30F, -1e30F, std::numeric_limits<float>::quiet_NaN()}) {
-        Ship_Bench B;
-        B.Close(B.Ship());
-        B.State().Of<Navdata_State>().Ship_SOG_Noise_Index =
-            B.State().Of<Navdata_State>().Ship_ROT_Noise_Index = Stored;
-        B.Click(Main_Window(B.Sim).Item("mnuShip"));
-        EXPECT_EQ(B.Ship().cmbSOGNoise.List_Index(), 0) << Stored;
-        EXPECT_EQ(B.Ship().cmbROTNoise.List_Index(), 0) << Stored;
-        EXPECT_EQ(B.State().Of<Navdata_State>().Ship_ROT_Noise_Index, 0);
-        EXPECT_EQ(B.Take_Boxes(), Texts{});
-    }
 }
 
 TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {

@@ -26,46 +26,6 @@ frmShipSetup& Open_Setup(Ship_Bench& B) {
 
 void Type(Ship_Bench& B, Text_Box& Box, const std::string& Text) { B.Set(Box, Text); }
 
-void Expect_Tips(const Form& F) {
-    for (const Control* C : F.Controls)
-        EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
-}
-
-TEST(Set_SOG, Holds_The_Limits_Of_The_Ship) {
-    Ship_Bench B;
-    frmSetSOG& F = Open_Set_SOG(B);
-    EXPECT_EQ(F.Width, 3195);
-    EXPECT_EQ(F.Height, 2430);
-    Expect_Tips(F);
-    const struct {
-        const char *Typed, *Shown, *Box;
-    } Speeds[] = {{"12,3", "12.30", ""},
-                  {"-10", "-5.00", "SOG Astern can't be more than Max 5"},
-                  {"-5", "-5.00", ""},
-                  {"40.01", "40.00", "SOG Ahead can't be more than Max 40"},
-                  {"1e999", "40.00", "SOG Ahead can't be more than Max 40"},
-                  {"fast", "0.00", ""},
-                  {"nan", "0.00", ""}};
-    for (const auto& T : Speeds) {
-        Type(B, F.txtSOG, T.Typed);
-        EXPECT_EQ(F.txtSOG.Text(), T.Shown) << T.Typed;
-        if (*T.Box) {
-            ASSERT_EQ(B.Told.size(), 1U) << T.Typed;
-            EXPECT_EQ(B.Told[0].Title, "Invalid SOG");
-            EXPECT_EQ(B.Take_Boxes(), Texts{T.Box});
-        }
-        EXPECT_EQ(B.Take_Boxes(), Texts{});
-    }
-    const struct {
-        const char *Typed, *Shown;
-    } Courses[] = {{"359.99", "359.99"}, {"360", "000.00"}, {"-0.1", "000.00"},
-                   {"7,255", "007.26"},  {"400", "000.00"}, {"x", "000.00"}};
-    for (const auto& T : Courses) {
-        Type(B, F.txtCOG, T.Typed);
-        EXPECT_EQ(F.txtCOG.Text(), T.Shown) << T.Typed;
-    }
-}
-
 TEST(Set_SOG, OK_Sets_Speed_Heading_And_Slider) {
     Ship_Bench B;
     const struct {
@@ -118,47 +78,6 @@ TEST(Set_SOG, Without_A_Limit_And_Without_The_Window) {
     Type(B, Again.txtSOG, "8");
     B.Click(Again.cmdOK);
     EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 8);
-}
-
-TEST(Ship_Setup, Shows_What_Is_Stored) {
-    Ship_Bench B([](Simulator_State& S) {
-        S.Of<Navdata_State>().Start_Lat = 59.5;
-        S.Of<Navdata_State>().Start_Lon = -10.25;
-        S.Of<Navdata_State>().Magnetic_Variation = -3;
-        S.Of<Navdata_State>().Lat_Offset = -12.34;
-        S.Of<Gyro_State>().Gyro_Offset[2] = -5.5F;
-        S.Of<Log_State>().Log_Offset[1] = 0.25F;
-        S.Of<UTC_State>().Use_UTC = true;
-        S.Of<UTC_State>().UTC_Offset_Hours = 120;
-        S.Of<UTC_State>().UTC_Offset_Minutes = 59;
-        S.Of<UTC_State>().GNSS2_UTC_Offset_Hours = -210;
-        S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds = 7;
-    });
-    frmShipSetup& F = Open_Setup(B);
-    Expect_Tips(F);
-    EXPECT_EQ(F.Caption, "Ship & Environment Setup");
-    EXPECT_EQ(F.Height, 3960);
-    EXPECT_EQ(F.txtStartLat.Text(), "59\xB0 30.0000' N");
-    EXPECT_EQ(F.txtStartLon.Text(), "010\xB0 15.0000' W");
-    EXPECT_EQ(F.cmbMaxSpeedAhead.Text(), "40");
-    EXPECT_EQ(F.cmbMaxSpeedAhead.Items().size(), 20U);
-    EXPECT_EQ(F.cmbMaxSpeedAstern.Text(), "5");
-    EXPECT_EQ(F.cmbMaxRudder.Text(), "030");
-    EXPECT_EQ(F.cmbMaxRudder.Items().back().Text, "360");
-    EXPECT_EQ(F.cmbMagneticDeviation.Text(), "-3");
-    EXPECT_EQ(F.txtLatOffset.Text(), "-12.3 m");
-    EXPECT_EQ(F.txtGyroOffset[0].Text(), "000.0 deg");
-    EXPECT_EQ(F.txtGyroOffset[1].Text(), "-005.5 deg");
-    EXPECT_EQ(F.txtLogOffset[0].Text(), "0.3 knop");
-    EXPECT_TRUE(F.chkUseUTC.Value());
-    EXPECT_EQ(F.cmbUTCOffsetHours[0].Text(), "-02") << "with the other sign, as required";
-    EXPECT_EQ(F.cmbUTCOffsetHours[1].Text(), "+03");
-    EXPECT_EQ(F.cmbUTCOffsetHours[1].Items()[13].Text, "00");
-    EXPECT_EQ(F.cmbUTCOffsetMinutes[0].Text(), "59");
-    EXPECT_EQ(F.cmbGNSS2OffsetSeconds.Text(), "07");
-    const auto Selected = *F.txtLogOffset[1].Select_All_Count;
-    B.Sim.Windows.Event([&] { B.Sim.Windows.User_Focus(F.txtLogOffset[1]); });
-    EXPECT_EQ(*F.txtLogOffset[1].Select_All_Count, Selected + 1);
 }
 
 TEST(Ship_Setup, Apply_Takes_All_And_Moves_The_Ship_Only_For_A_New_Start) {
@@ -269,25 +188,6 @@ TEST(Ship_Setup, Stored_Values_Beyond_The_Lists) {
     EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Minutes, -1);
     EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds, 32767);
     EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Hours, 32767) << "held within its 16 bits";
-    EXPECT_EQ(B.Take_Boxes(), Texts{});
-}
-
-TEST(Ship_Setup, Bad_Texts_Are_Told_And_Nothing_Breaks) {
-    Ship_Bench B;
-    frmShipSetup& F = Open_Setup(B);
-    Type(B, F.txtStartLat, "91 0 N");
-    EXPECT_EQ(B.Take_Boxes(), Texts{"LATITUDE FORMAT ERROR. Max 90 deg allowed"});
-    EXPECT_EQ(F.txtStartLat.Text(), "90\xB0 00.0000' N");
-    Type(B, F.txtStartLon, "99999999999999999999 E");
-    Type(B, F.txtLonOffset, "1e999");
-    Type(B, F.txtGyroOffset[0], "-1e999");
-    B.Take_Boxes();
-    B.Click(F.cmdOK);
-    B.Place(B.Ship().sldThrottle, -100);
-    B.Run_s(5);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Lat, 90);
-    EXPECT_LE(std::abs(B.State().Of<GNSS_State>().GNSS_Lon[2]), 180);
-    EXPECT_TRUE(B.State().Of<Gyro_State>().Gyro_HDG[1] >= 0 && B.State().Of<Gyro_State>().Gyro_HDG[1] <= 360);
     EXPECT_EQ(B.Take_Boxes(), Texts{});
 }
 
