@@ -126,7 +126,7 @@ struct Windows : Every_Window, testing::TestWithParam<Case> {
             const auto& Part = static_cast<const Visible_Control&>(*C);
             if (Part.Kind != Control_Kind::Label && !Part.Caption->empty())
                 Fact += " " + Shown(*Part.Caption);
-            if (!*Part.Visible) Fact += " hidden";
+            if (!Part.Shown()) Fact += " hidden";
             if (!*Part.Enabled) Fact += " disabled";
             if (*Part.Fore_Colour != Ink::Normal)
                 Fact += " ink " + Shown(static_cast<int>(*Part.Fore_Colour));
