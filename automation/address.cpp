@@ -16,6 +16,7 @@ constexpr std::string_view State_Prefix = "state.";
 
 // Whether it may be open, so that a path into a closed window can be told from a wrong one.
 bool Is_Known_Window(const Automation_Target& Target, std::string_view Path) {
+    if (Path == "frmMain") return true; // the container of all windows stands in no table
     return std::any_of(Target.Window_Table.begin(), Target.Window_Table.end(),
                        [&](const Window_Class* Known) {
                            if (Known->Count == 0) return Path == Known->Name;

@@ -41,9 +41,9 @@ void mnuHelp_Click(Simulator& Sim) {
 // An entry that opens no window.
 struct Command {
     const char* Name;
-    int Index;
     const char* Menu;
     const char* Text;
+    int Index;
     int Place; // among all entries of the menu, from the top
     void (*Click)(Simulator&);
     bool (*Checked)(const Simulator&) = nullptr;
@@ -53,53 +53,53 @@ constexpr int Alone = Control::No_Index;
 constexpr const char* Menu_Order[] = {"File", "Mode", "Setup", "Window", "Options", "Help"};
 
 constexpr Command Commands[] = {
-    {"mnuFileOpen", Alone, "File", "&Open", 1, mnuFileOpen_Click},
-    {"mnuFileSave", Alone, "File", "&Save", 2, mnuFileSave_Click},
-    {"mnuFileSaveAs", Alone, "File", "Save &As", 3, mnuFileSaveAs_Click},
-    {"mnuFileExit", Alone, "File", "E&xit", 4, [](Simulator& Sim) { Sim.Windows.Unload(*Sim.Main); }},
-    {"mnuMode", 1, "Mode", "&Ship simulator", 1, [](Simulator& Sim) { mnuMode_Click(Sim, 1); }, In_Ship_Mode},
-    {"mnuMode", 2, "Mode", "S&ensor", 2, [](Simulator& Sim) { mnuMode_Click(Sim, 2); },
+    {"mnuFileOpen", "File", "&Open", Alone, 1, mnuFileOpen_Click},
+    {"mnuFileSave", "File", "&Save", Alone, 2, mnuFileSave_Click},
+    {"mnuFileSaveAs", "File", "Save &As", Alone, 3, mnuFileSaveAs_Click},
+    {"mnuFileExit", "File", "E&xit", Alone, 4, [](Simulator& Sim) { Sim.Windows.Unload(*Sim.Main); }},
+    {"mnuMode", "Mode", "&Ship simulator", 1, 1, [](Simulator& Sim) { mnuMode_Click(Sim, 1); }, In_Ship_Mode},
+    {"mnuMode", "Mode", "S&ensor", 2, 2, [](Simulator& Sim) { mnuMode_Click(Sim, 2); },
      [](const Simulator& Sim) { return !In_Ship_Mode(Sim); }},
-    {"mnuSetupStartOption", Alone, "Setup", "Start with navdata from last session", 2,
+    {"mnuSetupStartOption", "Setup", "Start with navdata from last session", Alone, 2,
      mnuSetupStartOption_Click,
      [](const Simulator& Sim) { return Sim.State.Of<Shell_State>().Start_With_Last_Navdata; }},
-    {"mnuOptionsChecksumDisabled", Alone, "Options", "Checksum disabled", 2,
+    {"mnuOptionsChecksumDisabled", "Options", "Checksum disabled", Alone, 2,
      [](Simulator& Sim) {
          Switch(Sim, Sim.State.Of<Fault_State>().Fault_No_Checksum,
                 "Checksum disabled. All simulated NMEA messages will be without checksum",
                 "Checksum enabled again. All simulated NMEA messages will be with checksum");
      },
      Is_On<&Fault_State::Fault_No_Checksum>},
-    {"mnuOptionsFaultyChecksum", Alone, "Options", "Simulate faulty checksum", 3,
+    {"mnuOptionsFaultyChecksum", "Options", "Simulate faulty checksum", Alone, 3,
      [](Simulator& Sim) {
          Switch(
              Sim, Sim.State.Of<Fault_State>().Fault_Faulty_Checksum,
              "Faulty checksum enabled. All simulated NMEA messages will be simulated with faulty checksum");
      },
      Is_On<&Fault_State::Fault_Faulty_Checksum>},
-    {"mnuOptionsCrLfDisabled", Alone, "Options", "Simulate merged msgs (No CarriageReturn/LineFeed)", 4,
+    {"mnuOptionsCrLfDisabled", "Options", "Simulate merged msgs (No CarriageReturn/LineFeed)", Alone, 4,
      [](Simulator& Sim) {
          Switch(Sim, Sim.State.Of<Fault_State>().Fault_Merged,
                 "Merged messages will be simulated. All simulated NMEA messages will be without Carriage "
                 "return/Line Feed");
      },
      Is_On<&Fault_State::Fault_Merged>},
-    {"mnuOptionCuttedMsg", Alone, "Options", "Simulate cutted messages", 5,
+    {"mnuOptionCuttedMsg", "Options", "Simulate cutted messages", Alone, 5,
      [](Simulator& Sim) {
          Switch(Sim, Sim.State.Of<Fault_State>().Fault_Cut,
                 "Cutted messages will be simulated. All simulated NMEA messages will be cutted at a random "
                 "character");
      },
      Is_On<&Fault_State::Fault_Cut>},
-    {"mnuOptionSplittedMsg", Alone, "Options", "Simulate splitted messages", 6,
+    {"mnuOptionSplittedMsg", "Options", "Simulate splitted messages", Alone, 6,
      [](Simulator& Sim) {
          Switch(Sim, Sim.State.Of<Fault_State>().Fault_Split,
                 "Splitted messages will be simulated. All simulated NMEA messages will be cutted at a random "
                 "character and remaining characters will start next message");
      },
      Is_On<&Fault_State::Fault_Split>},
-    {"mnuHelpContents", Alone, "Help", "&Contents", 1, mnuHelp_Click},
-    {"mnuHelpSearch", Alone, "Help", "&Search For Help On...", 2, mnuHelp_Click},
+    {"mnuHelpContents", "Help", "&Contents", Alone, 1, mnuHelp_Click},
+    {"mnuHelpSearch", "Help", "&Search For Help On...", Alone, 2, mnuHelp_Click},
 };
 
 // One entry of a menu, whatever stands behind it.

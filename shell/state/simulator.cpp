@@ -9,9 +9,9 @@ Simulator::Simulator(Platform& Its_Platform, Start_Options Its_Options,
 
 // The windows hold timers of the queue and handlers on the simulator, so they go while both still stand.
 Simulator::~Simulator() {
-    Links.State_Checks.clear();
     for (const auto& Window : Windows.Forms) Window->On_Unload = nullptr;
     while (!Windows.Forms.empty()) Windows.Event([this] { Windows.Unload(*Windows.Forms.back()); });
+    Links.State_Checks.clear(); // controls of the main window, which is still held
 }
 
 } // namespace brinewright
