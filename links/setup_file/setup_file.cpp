@@ -13,8 +13,8 @@ namespace {
 constexpr std::string_view UTF8_Mark = "\xEF\xBB\xBF"; // some editors put it in front of what they save
 
 // The section of a sentence that has one of its own comes behind all others.
-std::vector<std::string_view> Later_Sections(Window_Span Windows) {
-    std::vector<std::string_view> Later = Sections_Of_Sentences(Windows);
+std::vector<std::string_view> Later_Sections(const std::vector<Kept_Sentence>& All) {
+    std::vector<std::string_view> Later = Sections_Of(All);
     for (const Setup_Section& Section : Setup_Sections()) std::erase(Later, Section.Marker);
     return Later;
 }
@@ -37,7 +37,8 @@ bool Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Wind
     bool Known = false;
     Setup_Reader Reader{Bytes};
     if (Bytes.starts_with(UTF8_Mark)) Reader.Position = UTF8_Mark.size();
-    const auto Later = Later_Sections(Windows);
+    const auto Sentences = Kept_Sentences(State, Windows);
+    const auto Later = Later_Sections(Sentences);
     while (!At_End(Reader)) {
         // Whatever is not a known marker is passed over field by field: unknown sections, junk, surplus
         // fields.
@@ -46,7 +47,7 @@ bool Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Wind
         const Setup_Section* Section = Find_Section(Text);
         if (!Section && std::find(Later.begin(), Later.end(), Text) == Later.end()) continue;
         if (Section) Section->Read(Reader, State);
-        Read_Sentences(Reader, State, Windows, Text);
+        Read_Sentences(Reader, Sentences, Text);
         Known = true;
     }
     return Known;
@@ -54,15 +55,16 @@ bool Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Wind
 
 std::string Write_Setup(const Simulator_State& State, Window_Span Windows) {
     Setup_Writer Writer;
-    Simulator_State Choices = State; // their rows lead to variables, and these are not to be written to
+    Simulator_State Copy = State; // the rows lead to variables, and those of State are not to be written to
+    const auto Sentences = Kept_Sentences(Copy, Windows);
     for (const Setup_Section& Section : Setup_Sections()) {
         Write_Marker(Writer, Section.Marker);
         Section.Write(Writer, State);
-        Write_Sentences(Writer, Choices, Windows, Section.Marker);
+        Write_Sentences(Writer, Sentences, Section.Marker);
     }
-    for (const std::string_view Marker : Later_Sections(Windows)) {
+    for (const std::string_view Marker : Later_Sections(Sentences)) {
         Write_Marker(Writer, Marker);
-        Write_Sentences(Writer, Choices, Windows, Marker);
+        Write_Sentences(Writer, Sentences, Marker);
     }
     return std::move(Writer.Bytes);
 }

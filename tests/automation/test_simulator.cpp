@@ -87,7 +87,7 @@ TEST_F(Whole_Program, Ends_By_Its_Menu) {
     Do("click", {"frmMain.mnuFileExit"});
     EXPECT_TRUE(Services.Quitting);
     EXPECT_EQ(Do("list"), Json::array());
-    EXPECT_TRUE(Ask("click", {"frmMain.mnuFileExit"}).contains("error"));
+    EXPECT_EQ(Ask("click", {"frmMain.mnuFileExit"})["error"]["code"], -32001);
 }
 
 } // namespace
