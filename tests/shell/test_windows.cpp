@@ -58,7 +58,8 @@ void Each_Variable(Simulator_State& S, const Leaf& At_Leaf) {
 
 using Facts = std::map<std::string, std::string>;
 constexpr const char* Typed_Texts[] = {"12,34 x", "-5", "1e300", "north", "359.96", "60 01.5 s", "zz9", ""};
-constexpr std::int16_t Garbage[] = {-1, 32767, -32768};
+// The small ones are each one past the end of some list.
+constexpr std::int16_t Garbage[] = {-1, 32767, -32768, 3, 4, 7, 15, 20, 21};
 const std::map<Control_Kind, const char*> Kind_Names{{Control_Kind::Button, "Button"},
                                                      {Control_Kind::Check_Box, "Check_Box"},
                                                      {Control_Kind::Combo_Box, "Combo_Box"},
