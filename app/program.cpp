@@ -65,8 +65,10 @@ std::string Settings_File_Of(const Program_Options& Chosen) {
     return Chosen.Own_Data_Folder ? Settings_File_In(Chosen.Data_Folder) : Default_Settings_File();
 }
 
-// A box that nobody can answer by hand is printed, and answered at once unless it is to be held.
+// Where no desktop shows it: what the program says is printed, and so is a box, which is answered at once
+// unless it is to be held.
 void Tell_Boxes(Simulator& Sim, bool Hold) {
+    Sim.Told.Said.Add(&Sim, [](const std::string& Text) { std::cerr << Text << std::endl; });
     Sim.Windows.Boxes.On_Show = [&Sim, Hold](const Message_Box& Box) {
         Print_Box(Box);
         if (!Hold) Sim.Windows.Boxes.Answer(Box.Id);

@@ -55,6 +55,7 @@ struct Reports {
     Listeners<int> Panel;                        // the panel of a serial port has changed in the state
     Listeners<> Ship_Speed;                      // the ship has another speed than its window set
     Listeners<> Ship_Limits;                     // its limits have changed
+    Listeners<const std::string&> Said;          // see Say
     Listeners<TCP_News, int> TCP;                // with the element of the history that changed, from 0
 };
 

@@ -28,6 +28,7 @@ struct Shell_State {
     bool Pause_Active = false;            // the transmit path discards every sentence
     bool Freeze_Active = false;           // ship and targets stand still, sentences keep flowing
     bool Start_With_Last_Navdata = false; // take the navdata of the setup file at start
+    std::string Last_Said;                // in the status bar, see Say
     std::int16_t LatLon_Format = 0;       // in text boxes: 0 degrees and minutes, else with seconds
 };
 

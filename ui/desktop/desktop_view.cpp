@@ -1,17 +1,15 @@
 #include "ui/desktop/desktop_view.hpp"
 
 #include "shell/main/frm_main.hpp"
-#include "shell/state/fault_state.hpp"
+#include "ui/desktop/box_view.hpp"
 #include "ui/desktop/form_window.hpp"
+#include "ui/desktop/link_panels.hpp"
+#include "ui/desktop/menu_bar.hpp"
+#include "ui/desktop/status_strip.hpp"
+#include "ui/desktop/working_area.hpp"
 
-#include <QActionGroup>
-#include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
-#include <QMdiSubWindow>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPainter>
 #include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -25,67 +23,22 @@ namespace {
 constexpr int Look_Pause_ms = 50; // 20 looks a second: figures and sentences cannot be read faster
 constexpr std::int64_t Look_Takes_us = 12'000;
 constexpr int Postponed_Looks_Limit = 10;
-constexpr const char* Palette_Key = "Palette";
-
-// The empty area says what to do.
-class Working_Area : public QMdiArea {
-  public:
-    Working_Area(const Theme& Its_Theme, QWidget* Parent) : QMdiArea(Parent), Colours(Its_Theme) {
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-        setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    }
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter Painter(viewport());
-        Painter.fillRect(viewport()->rect(), Colours.Colour(Token::Window));
-        if (!subWindowList().isEmpty()) return;
-        Painter.setPen(Colours.Colour(Token::Dim_Text));
-        Painter.setFont(Readout_Font(16));
-        Painter.drawText(viewport()->rect(), Qt::AlignCenter,
-                         QStringLiteral("No window is open: Window > GNSS 1"));
-    }
-
-  private:
-    const Theme& Colours;
-};
-
-struct Fault_Text {
-    bool Fault_State::*Fault;
-    const char* Text;
-};
-
-constexpr Fault_Text Fault_Texts[] = {
-    {&Fault_State::Fault_No_Checksum, "no checksum"},
-    {&Fault_State::Fault_Faulty_Checksum, "faulty checksum"},
-    {&Fault_State::Fault_Merged, "merged messages"},
-    {&Fault_State::Fault_Cut, "cut messages"},
-    {&Fault_State::Fault_Split, "split messages"},
-};
-
-// The filter of a file dialog as the program tells it, "Name|*.ini", in the toolkit's form.
-QString File_Filter(const std::string& Filter) {
-    const QStringList Parts = To_Screen(Filter).split(QLatin1Char('|'));
-    return Parts.size() < 2 ? QString()
-                            : Parts[0].section(QStringLiteral(" ("), 0, 0) + " (" + Parts[1] + ")";
-}
 
 } // namespace
 
 Desktop_View::Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme)
-    : Sim(Its_Simulator), Colours(Its_Theme), Area(new Working_Area(Its_Theme, this)),
-      Fault_Strip(new QLabel) {
+    : Sim(Its_Simulator), Colours(Its_Theme), Strip(new Status_Strip(Its_Simulator)),
+      Area(new Working_Area(Its_Theme, this)), Menus(new Menu_Bar(Its_Simulator, Its_Theme, *menuBar())),
+      Panels(new Link_Panels(Its_Simulator, *statusBar())), Boxes(new Box_View(Its_Simulator, *this)) {
     auto* Centre = new QWidget(this);
     auto* Column = new QVBoxLayout(Centre);
     Column->setContentsMargins(0, 0, 0, 0);
     Column->setSpacing(0);
-    Fault_Strip->setObjectName(QStringLiteral("fault_strip"));
-    Fault_Strip->hide();
-    Column->addWidget(Fault_Strip);
+    Column->addWidget(Strip);
     Column->addWidget(Area);
     setCentralWidget(Centre);
-    Make_Menus();
-    Make_Status_Bar();
+    connect(Menus, &Menu_Bar::Acted, this, &Desktop_View::Follow);
+    connect(Boxes, &Box_View::Acted, this, &Desktop_View::Follow);
     Look.setSingleShot(true);
     connect(&Look, &QTimer::timeout, this, &Desktop_View::Look_Between_Ticks);
     connect(&Colours, &Theme::Changed, this, [this] {
@@ -128,87 +81,19 @@ void Desktop_View::Look_Between_Ticks() {
     Follow();
 }
 
-void Desktop_View::Make_Menus() {
-    std::map<std::string, QMenu*> Menus;
-    for (Control* C : Sim.Main->Controls) {
-        if (C->Kind != Control_Kind::Menu_Item) continue;
-        auto& Item = static_cast<Menu_Item&>(*C);
-        QMenu*& Menu = Menus[Item.Menu];
-        if (!Menu) {
-            if (Item.Menu == "Window") Make_View_Menu();
-            Menu = menuBar()->addMenu("&" + To_Screen(Item.Menu));
-            Menu->setToolTipsVisible(true);
-        }
-        QAction* Action = Menu->addAction(To_Screen(*Item.Caption));
-        Action->setObjectName(To_Screen(Item.Path()));
-        connect(Action, &QAction::triggered, this, [this, &Item, Action] {
-            Action->setChecked(*Item.Checked); // the model decides
-            Sim.Windows.Event([&] { Sim.Windows.User_Click(Item); });
-            Follow();
-        });
-        Actions[&Item] = Action;
-    }
-}
-
-void Desktop_View::Make_View_Menu() {
-    QMenu* Menu = menuBar()->addMenu(QStringLiteral("&View"));
-    auto* Group = new QActionGroup(this);
-    const std::string Kept = Sim.Services.Settings().Get(Palette_Key, Palette_Names[0]);
-    for (std::size_t I = 0; I < Palette_Names.size(); ++I) {
-        QAction* Action = Menu->addAction(QString::fromLatin1(Palette_Names[I]));
-        Action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(I + 1)));
-        Action->setCheckable(true);
-        Group->addAction(Action);
-        const auto Kind = static_cast<Palette_Kind>(I);
-        connect(Action, &QAction::triggered, this, [this, Kind, I] {
-            Colours.Choose(Kind);
-            Sim.Services.Settings().Set(Palette_Key, Palette_Names[I]);
-        });
-        if (Kept == Palette_Names[I]) {
-            Action->setChecked(true);
-            if (Colours.Chosen() != Kind) Colours.Choose(Kind);
-        }
-    }
-}
-
-void Desktop_View::Make_Status_Bar() {
-    statusBar()->setSizeGripEnabled(false);
-    for (int Port = 1; Port <= 16; ++Port) {
-        auto* Panel = new QLabel(this);
-        Panel->setObjectName(To_Screen(Main_Window(Sim).sbStatusBar[Port].Path()));
-        statusBar()->addWidget(Panel);
-        Panels[Port] = Panel;
-    }
-}
-
 void Desktop_View::Follow() {
     if (!Sim.Main || Sim.Ended) return;
     Seen = Sim.Windows.Revision;
     Follow_Main();
     Follow_Windows();
-    Follow_Boxes();
-    Follow_File_Dialogs();
+    Boxes->Follow();
 }
 
 void Desktop_View::Follow_Main() {
     setWindowTitle(To_Screen(Sim.Main->Caption));
-    for (const auto& [Item, Action] : Actions) {
-        Action->setText(To_Screen(*Item->Caption));
-        Action->setEnabled(*Item->Enabled);
-        Action->setVisible(*Item->Visible);
-        if (*Item->Checked) Action->setCheckable(true);
-        Action->setChecked(*Item->Checked);
-        if (!*Item->Checked) Action->setCheckable(false);
-    }
-    for (const auto& [Port, Panel] : Panels) {
-        Panel->setText(To_Screen(*Main_Window(Sim).sbStatusBar[Port].Caption));
-        Panel->setVisible(*Main_Window(Sim).sbStatusBar[Port].Visible);
-    }
-    QStringList Faults;
-    for (const Fault_Text& Fault : Fault_Texts)
-        if (Sim.State.Of<Fault_State>().*Fault.Fault) Faults << QString::fromLatin1(Fault.Text);
-    Fault_Strip->setText(QStringLiteral("Fault injected: ") + Faults.join(QStringLiteral(", ")));
-    Fault_Strip->setVisible(!Faults.isEmpty());
+    Menus->Follow();
+    Panels->Follow();
+    Strip->Follow();
 }
 
 void Desktop_View::Follow_Windows() {
@@ -230,65 +115,6 @@ void Desktop_View::Follow_Windows() {
     const auto Found = Shown.find(Active);
     if (Active != Active_Seen && Found != Shown.end()) Found->second->Activate();
     Active_Seen = Active;
-}
-
-// One box at a time, the oldest. It does not stop the event loop: timers tick behind it.
-void Desktop_View::Follow_Boxes() {
-    const auto& Standing = Sim.Windows.Boxes.Standing;
-    const bool Still_Stands = Box && !Standing.empty() && Standing.front().Id == Box_Id;
-    if (Still_Stands) return;
-    if (Box) {
-        Box->deleteLater();
-        Box = nullptr;
-    }
-    if (Standing.empty()) return;
-    const Message_Box& Front = Standing.front();
-    constexpr QMessageBox::Icon Icons[] = {QMessageBox::NoIcon, QMessageBox::Information,
-                                           QMessageBox::Warning, QMessageBox::Critical};
-    const QMessageBox::StandardButtons Cancel =
-        Front.Buttons == Box_Buttons::OK_Cancel ? QMessageBox::Cancel : QMessageBox::NoButton;
-    Box_Id = Front.Id;
-    // Over the dialog that the user is in, so that the keyboard goes back there.
-    QWidget* const User_Is_In = QApplication::activeWindow();
-    const bool In_Dialog = qobject_cast<QDialog*>(User_Is_In) && !qobject_cast<QMessageBox*>(User_Is_In);
-    QWidget* const Below = In_Dialog ? User_Is_In : this;
-    Box = new QMessageBox(Icons[static_cast<int>(Front.Icon)],
-                          Front.Title.empty() ? QStringLiteral("Brinewright") : To_Screen(Front.Title),
-                          To_Screen(Front.Text), QMessageBox::Ok | Cancel, Below);
-    Box->setTextFormat(Qt::PlainText);
-    connect(Box, &QMessageBox::finished, this, [this, Id = Box_Id] {
-        Sim.Windows.Event([&] { Sim.Windows.Boxes.Answer(Id); });
-        Follow();
-    });
-    Box->setDefaultButton(QMessageBox::Ok);
-    Box->open();
-    Box->activateWindow();
-}
-
-// One question at a time, the oldest. One that automation has answered goes away.
-void Desktop_View::Follow_File_Dialogs() {
-    const auto& Questions = Sim.Windows.File_Dialogs;
-    if (!Questions.empty() && Questions.front().Id == Asked_Id) return;
-    if (Asking) {
-        Asking->disconnect(this);
-        Asking->close();
-    }
-    if (Questions.empty()) return;
-    const File_Dialog& Question = Questions.front();
-    Asked_Id = Question.Id;
-    Asking = new QFileDialog(this, To_Screen(Question.Title), QString::fromStdString(Question.Folder),
-                             File_Filter(Question.Filter));
-    Asking->setAttribute(Qt::WA_DeleteOnClose);
-    Asking->setAcceptMode(Question.Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    Asking->setFileMode(Question.Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    Asking->setDefaultSuffix(To_Screen(Question.Default_Extension).remove(QLatin1Char('.')));
-    connect(Asking, &QFileDialog::finished, this, [this, Dialog = Asking.data(), Id = Asked_Id](int Result) {
-        const std::string Path =
-            Result == QDialog::Accepted ? Dialog->selectedFiles().value(0).toStdString() : std::string();
-        Sim.Windows.Event([&] { Sim.Windows.Answer_File(Id, Path); });
-        Follow();
-    });
-    Asking->open();
 }
 
 QWidget* Desktop_View::Window_Of(const std::string& Form_Path) {

@@ -3,21 +3,20 @@
 #include "shell/state/simulator.hpp"
 #include "ui/binder/form_view.hpp"
 
-#include <QLabel>
 #include <QMainWindow>
-#include <QMdiArea>
-#include <QPointer>
 #include <QTimer>
 
 #include <map>
 #include <memory>
 
-class QFileDialog;
-class QMessageBox;
-
 namespace brinewright {
 
+class Box_View;
 class Form_Window;
+class Link_Panels;
+class Menu_Bar;
+class Status_Strip;
+class Working_Area;
 
 // The desktop as seen: the main window with menus, status bar and child windows, dialogs and message boxes.
 // Like every view it owns nothing of the program: it follows the forms that are open and reports what the
@@ -42,15 +41,10 @@ class Desktop_View : public QMainWindow {
     void changeEvent(QEvent* Changed) override;
 
   private:
-    void Make_Menus();
-    void Make_View_Menu();
-    void Make_Status_Bar();
     void Place_From_Model();
     void Report_Place();
     void Follow_Windows();
     void Follow_Main();
-    void Follow_Boxes();
-    void Follow_File_Dialogs();
     // A type of its own, so that the view finds its hook again among others.
     struct Settled_Hook {
         Desktop_View& View;
@@ -61,16 +55,13 @@ class Desktop_View : public QMainWindow {
 
     Simulator& Sim;
     Theme& Colours;
-    QMdiArea* Area;
-    QLabel* Fault_Strip;
+    Status_Strip* Strip;
+    Working_Area* Area;
+    Menu_Bar* Menus;
+    Link_Panels* Panels;
+    Box_View* Boxes;
     QTimer Look;
     std::map<const Form*, std::unique_ptr<Form_Window>> Shown;
-    std::map<const Menu_Item*, QAction*> Actions;
-    std::map<int, QLabel*> Panels;
-    QPointer<QMessageBox> Box; // goes with the dialog that it stands over
-    std::int64_t Box_Id = 0;
-    QPointer<QFileDialog> Asking;
-    std::int64_t Asked_Id = 0;
     std::uint64_t Seen = 0;
     int Postponed_Looks = 0;
     const Form* Active_Seen = nullptr;

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "shell/state/simulator.hpp"
+#include "ui/look/theme.hpp"
+
+#include <QAction>
+#include <QMenuBar>
+
+#include <map>
+
+namespace brinewright {
+
+// The menus of the main window: those of the model, and View, which concerns only what is seen.
+class Menu_Bar : public QObject {
+    Q_OBJECT
+  public:
+    Menu_Bar(Simulator& Its_Simulator, Theme& Its_Theme, QMenuBar& Its_Bar);
+
+    void Follow();
+
+  Q_SIGNALS:
+    void Acted(); // the user has chosen something
+
+  private:
+    void Make_View_Menu();
+
+    Simulator& Sim;
+    Theme& Colours;
+    QMenuBar& Bar;
+    std::map<const Menu_Item*, QAction*> Actions;
+};
+
+} // namespace brinewright
