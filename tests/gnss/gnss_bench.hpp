@@ -1,17 +1,15 @@
 #pragma once
 
-#include "gnss/gnss_state.hpp"
 #include "gnss/position/frm_position.hpp"
 #include "gnss/satellites/gnss_sky.hpp"
 #include "links/setup_file/setup_file.hpp"
 #include "platform/virtual_platform.hpp"
 #include "shell/main/frm_main.hpp"
 #include "shell/main/window_table.hpp"
-#include "shell/state/fault_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
+
+#include "tests/support/areas.hpp"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +21,7 @@ namespace brinewright {
 
 // A simulator in Sensor mode and in virtual time, with GNSS 1 on UDP link 0 and GNSS 2 on UDP link 1. The
 // local time starts at midnight of 1970-01-01, where the 32-bit time of day is finest.
-struct GNSS_Bench {
+struct GNSS_Bench : Areas<GNSS_Bench> {
     struct Sentence {
         std::int64_t Time_us = 0;
         std::string Text; // without line end
@@ -33,14 +31,13 @@ struct GNSS_Bench {
     explicit GNSS_Bench(std::int64_t Start_Local_us = 0)
         : Platform(Disk, Settings, Start_Local_us), Made(Make_Simulator(Platform, {})), Sim(*Made) {
         Load_Default_Data(Sim.State, All_Windows());
-        Sim.State.Of<Shell_State>().Mode = "Sensor";
-        for (const int Link : {0, 1}) {
-            Sim.State.Of<Link_State>().Port_Table[18 + Link].Present =
-                Sim.State.Of<Link_State>().Port_Table[18 + Link].Enabled = true;
-            Sim.State.Of<Link_State>().UDP_Port_Number[Link] = 60001 + Link;
-            Sim.State.Of<Link_State>().Sensor_Table[1 + Link].Port = static_cast<std::int16_t>(18 + Link);
-            Sim.Links.WinsockUDP[Link] = Platform.Make_UDP_Socket();
-            Sim.Links.WinsockUDP[Link]->Open("239.192.0.1", 60001 + Link);
+        Shell().Mode = "Sensor";
+        for (const int K : {0, 1}) {
+            Link().Port_Table[18 + K].Present = Link().Port_Table[18 + K].Enabled = true;
+            Link().UDP_Port_Number[K] = 60001 + K;
+            Link().Sensor_Table[1 + K].Port = static_cast<std::int16_t>(18 + K);
+            Sim.Links.WinsockUDP[K] = Platform.Make_UDP_Socket();
+            Sim.Links.WinsockUDP[K]->Open("239.192.0.1", 60001 + K);
         }
         Sim.Told.Sent.Add(this, [this](const Sent_Sentence& S) {
             if (!S.Link_Took_It) return;

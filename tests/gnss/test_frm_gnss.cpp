@@ -3,7 +3,6 @@
 #include "gnss_bench.hpp"
 
 #include "gnss/configuration/frm_gnss.hpp"
-#include "gnss/gnss_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -86,22 +85,22 @@ TEST(GNSS_Configuration, OK_Reaches_The_Next_GNS_And_Cancel_Nothing) {
     EXPECT_EQ(*Bench.Window().lblGNS_ModeIndicator.Caption, "ANNR");
     EXPECT_EQ(*Bench.Window().lblGNSS.Caption, "GPS-BDS");
     EXPECT_EQ(*Bench.Window().lblGNS_Talker.Caption, "GN");
-    EXPECT_TRUE(Bench.Sim.State.Of<GNSS_State>().GNSS_System_Used[4][1]);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[4][1], 4);
+    EXPECT_TRUE(Bench.GNSS().GNSS_System_Used[4][1]);
+    EXPECT_EQ(Bench.GNSS().GNSS_System_Mode[4][1], 4);
     EXPECT_EQ(Shown(Bench.Configure()), "ANNR GPS-BDS GN");
 }
 
 TEST(GNSS_Configuration, Survives_Stored_Garbage_And_A_Window_That_Closes) {
     Dialog_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[2][1] = 99;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[3][1] = -1;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Used[4][1] = true;
+    Bench.GNSS().GNSS_System_Mode[2][1] = 99;
+    Bench.GNSS().GNSS_System_Mode[3][1] = -1;
+    Bench.GNSS().GNSS_System_Used[4][1] = true;
     Bench.Open();
     frmGNSS& F = Bench.Configure();
     EXPECT_EQ(Shown(F), "ANNN GPS-BDS GN");
     Bench.Close();
     Bench.Press(F.cmdOK);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNS_Mode_Indicator[1], "ANNN");
+    EXPECT_EQ(Bench.GNSS().GNS_Mode_Indicator[1], "ANNN");
     EXPECT_EQ(*Bench.Open().lblGNS_ModeIndicator.Caption, "ANNN");
     EXPECT_EQ(Bench.Last_Box(), "");
 }

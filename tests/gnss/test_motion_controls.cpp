@@ -1,19 +1,9 @@
 // Speed and course: bars, boxes and arrow keys.
 
-#include "gnss/gnss_state.hpp"
 #include "gnss_bench.hpp"
-
-#include <limits>
 
 namespace brinewright {
 namespace {
-
-struct Typed_Value {
-    const char* Text;
-    float Value;
-    const char* Shown;
-    int Bar;
-};
 
 TEST(Motion_Controls, Arrow_Keys_Work_Until_Another_Control_Is_Chosen) {
     GNSS_Bench Bench;
@@ -23,7 +13,7 @@ TEST(Motion_Controls, Arrow_Keys_Work_Until_Another_Control_Is_Chosen) {
     };
     EXPECT_FALSE(W.txtDummy.Visible);
     Press(key::Up);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], 0);
+    EXPECT_EQ(Bench.GNSS().GNSS_SOG[1], 0);
     EXPECT_EQ(*W.cmdArrows.Caption, "Control SOG/COG by keyboard Arrow keys");
 
     Bench.Click(W.cmdArrows);
@@ -34,11 +24,11 @@ TEST(Motion_Controls, Arrow_Keys_Work_Until_Another_Control_Is_Chosen) {
     Press(key::Down);
     EXPECT_EQ(W.scrSOG.Value(), 0);
     Press(key::Left);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], 359.9F);
+    EXPECT_EQ(Bench.GNSS().GNSS_COG[1], 359.9F);
     Press(key::Right, 3);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_COG[1], 0.2F);
+    EXPECT_EQ(Bench.GNSS().GNSS_COG[1], 0.2F);
     Press(key::Up, 401);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], 40);
+    EXPECT_EQ(Bench.GNSS().GNSS_SOG[1], 40);
     Press(key::Down, 5);
     EXPECT_EQ(*W.lblSOG.Caption, "39.5");
 

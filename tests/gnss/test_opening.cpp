@@ -1,11 +1,6 @@
 // Opening and closing of a GNSS window.
 
-#include "gnss/gnss_state.hpp"
 #include "gnss_bench.hpp"
-#include "ownship/navdata_state.hpp"
-#include "shell/state/iec450_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 
 #include <array>
 #include <cmath>
@@ -58,14 +53,14 @@ TEST(GNSS_Opening, Closing_Stops_The_Sentences_And_Keeps_Place_And_Settings) {
     EXPECT_FALSE(*Main_Window(Bench.Sim).Item("mnuOpenForm", 1).Checked);
     Bench.Run_To(5);
     EXPECT_TRUE(Bench.Sent.empty());
-    const Open_Form_Entry& Place = Bench.Sim.State.Of<Shell_State>().Open_Form_List[1];
-    EXPECT_EQ(Bench.Sim.State.Of<Shell_State>().Open_Form_Count, 1);
+    const Open_Form_Entry& Place = Bench.Shell().Open_Form_List[1];
+    EXPECT_EQ(Bench.Shell().Open_Form_Count, 1);
     EXPECT_EQ(Place.Name, "frmPosition");
     EXPECT_EQ(Place.Index, 1);
     EXPECT_EQ(Place.Left, 100);
     EXPECT_EQ(Place.Height, 8000);
     const frmPosition& Again = Bench.Open();
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[1], 12.5F);
+    EXPECT_EQ(Bench.GNSS().GNSS_SOG[1], 12.5F);
     EXPECT_EQ(Again.txtSOG.Text(), "12.5");
     EXPECT_EQ(Again.scrSOG.Value(), 125);
     Bench.Run_To(7);
@@ -74,9 +69,9 @@ TEST(GNSS_Opening, Closing_Stops_The_Sentences_And_Keeps_Place_And_Settings) {
 
 TEST(GNSS_Opening, Closing_With_A_Full_List_Of_Places_Is_Told_And_Closes_All_The_Same) {
     GNSS_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().GGA_Enabled[1] = true;
+    Bench.GNSS().GGA_Enabled[1] = true;
     Bench.Open();
-    Bench.Sim.State.Of<Shell_State>().Open_Form_Count = 20;
+    Bench.Shell().Open_Form_Count = 20;
     Bench.Close();
     EXPECT_EQ(Bench.Last_Box(), "Subscript out of range");
     Bench.Sim.Windows.Boxes.Answer(1);

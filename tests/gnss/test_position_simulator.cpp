@@ -1,8 +1,6 @@
 // The position of a GNSS window: steps, noise, held offset and the position boxes.
 
-#include "gnss/gnss_state.hpp"
 #include "gnss_bench.hpp"
-#include "shell/state/shell_state.hpp"
 
 #include <cmath>
 #include <numbers>
@@ -44,18 +42,16 @@ Point Metres_Between(Point From, Point To) {
 }
 
 Point True_Position(const GNSS_Bench& B, int I = 1) {
-    return {B.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Start_Lon[I]};
+    return {B.GNSS().GNSS_Start_Lat[I], B.GNSS().GNSS_Start_Lon[I]};
 }
-Point Reported(const GNSS_Bench& B, int I = 1) {
-    return {B.Sim.State.Of<GNSS_State>().GNSS_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Lon[I]};
-}
+Point Reported(const GNSS_Bench& B, int I = 1) { return {B.GNSS().GNSS_Lat[I], B.GNSS().GNSS_Lon[I]}; }
 
 frmPosition& Start_At(GNSS_Bench& Bench, Point At, float SOG, float COG, std::int16_t I = 1) {
-    Bench.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I] = At.Lat;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_Start_Lon[I] = At.Lon;
+    Bench.GNSS().GNSS_Start_Lat[I] = At.Lat;
+    Bench.GNSS().GNSS_Start_Lon[I] = At.Lon;
     frmPosition& W = Bench.Open(I);
-    Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[I] = SOG;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[I] = COG;
+    Bench.GNSS().GNSS_SOG[I] = SOG;
+    Bench.GNSS().GNSS_COG[I] = COG;
     Bench.Click(W.cmdStart);
     return W;
 }
@@ -109,7 +105,7 @@ TEST(Position_Simulator, Shows_The_Reported_Position_In_The_Chosen_Format) {
     EXPECT_EQ(*W.lblLat.Caption, "00\xB0 00.0000' N");
     Bench.Run_To(1.5);
     EXPECT_EQ(*W.lblLon.Caption, "006\xB0 10.0000' W");
-    Bench.Sim.State.Of<Shell_State>().LatLon_Format = 1;
+    Bench.Shell().LatLon_Format = 1;
     Bench.Run_To(2.5);
     EXPECT_EQ(*W.lblLat.Caption, "62\xB0"
                                  "35'30.000\"N");

@@ -1,6 +1,5 @@
 // The boxes of the satellites, their number, those in view and the table: who drives whom.
 
-#include "gnss/gnss_state.hpp"
 #include "gnss_bench.hpp"
 
 namespace brinewright {
@@ -43,7 +42,7 @@ TEST(GNSS_Satellite_Controls, The_Number_Takes_The_Lowest_Free_And_Gives_Up_The_
     EXPECT_EQ(Checked(W), (Ints{1, 2, 3, 6, 8, 12, 19, 24, 25, 32}));
     Choose(Bench, W.cmbSats, 8);
     EXPECT_EQ(Checked(W), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
-    EXPECT_EQ(Filled(Bench.Sim.State.Of<GNSS_State>().Svs_In_Use), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
+    EXPECT_EQ(Filled(Bench.GNSS().Svs_In_Use), (Ints{1, 2, 3, 6, 8, 12, 19, 24}));
 
     // GPS first, then GLONASS, then SBAS; given up GLONASS, SBAS, GPS.
     Choose(Bench, W.cmbSats, 58);
@@ -73,7 +72,7 @@ TEST(GNSS_Satellite_Controls, The_Table_Rounds_And_Follows_The_Sky_Once_A_Minute
     frmPosition& W = Bench.Open();
     Choose(Bench, W.cmbInView, 9);
     for (const int I : {1, 3}) {
-        Sky_Satellite& S = Bench.Sim.State.Of<GNSS_State>().Sky_Table[I];
+        Sky_Satellite& S = Bench.GNSS().Sky_Table[I];
         S.Elevation = 62.5F;
         S.Azimuth = 7.25F;
         S.SNR = -0.25F;
@@ -95,7 +94,7 @@ TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
     frmPosition& Second = Bench.Open(2);
     Bench.Click(Second.chkSv[3]);
     Bench.Click(Second.chkGLSv[2]);
-    EXPECT_FALSE(Bench.Sim.State.Of<GNSS_State>().Sky_Table[3].Used);
+    EXPECT_FALSE(Bench.GNSS().Sky_Table[3].Used);
     EXPECT_TRUE(First.chkSv[3].Value()) << "the boxes of the other window stay";
     EXPECT_EQ(First.GSA_Record.PRN[1], 3);
     for (frmPosition* W : {&First, &Second}) {
@@ -104,7 +103,7 @@ TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
         EXPECT_NE(Bench.Sent.at(1).Text.find(",66,"), std::string::npos);
     }
     Choose(Bench, First.cmbInView, 9);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().Svs_In_View[3], 3) << "free by the other window's choice";
+    EXPECT_EQ(Bench.GNSS().Svs_In_View[3], 3) << "free by the other window's choice";
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 // The sky, and what GSA and GSV tell of it.
 
-#include "gnss/gnss_state.hpp"
 #include "gnss_bench.hpp"
-#include "shell/state/iec450_state.hpp"
 
 #include <cmath>
 #include <limits>
@@ -30,7 +28,7 @@ TEST(GNSS_Sky, Starts_Inside_Its_Ranges) {
     float Lowest_SNR = 1e9F, Highest_SNR = 0;
     for (int Round = 0; Round < 50; ++Round) {
         Init_Sky(Bench.Sim);
-        for (const Sky_Satellite& S : Bench.Sim.State.Of<GNSS_State>().Sky_Table) {
+        for (const Sky_Satellite& S : Bench.GNSS().Sky_Table) {
             EXPECT_TRUE(S.Max_Elevation >= 20 && S.Max_Elevation <= 90) << S.Max_Elevation;
             EXPECT_TRUE(S.Elevation >= 5 && S.Elevation <= static_cast<float>(S.Max_Elevation))
                 << S.Elevation;
@@ -52,7 +50,7 @@ TEST(GNSS_Sky, Starts_Inside_Its_Ranges) {
 TEST(GNSS_Sky, Drifts_In_Small_Steps_And_Turns_At_Its_Bounds) {
     GNSS_Bench Bench;
     Init_Sky(Bench.Sim);
-    auto& Sky = Bench.Sim.State.Of<GNSS_State>().Sky_Table;
+    auto& Sky = Bench.GNSS().Sky_Table;
     double Largest_deg = 0, Largest_SNR = 0;
     for (int Step = 0; Step < 20'000; ++Step) {
         const auto Before = Sky;
@@ -96,16 +94,15 @@ TEST(GNSS_Sky, Drifts_In_Small_Steps_And_Turns_At_Its_Bounds) {
 
 TEST(GNSS_Satellites, Opening_Puts_The_Eight_Into_All_Lists) {
     GNSS_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().Sky_Table[1].Used = Bench.Sim.State.Of<GNSS_State>().Sky_Table[88].Used =
-        true;
-    Bench.Sim.State.Of<GNSS_State>().Svs_In_Use[9] = 77;
+    Bench.GNSS().Sky_Table[1].Used = Bench.GNSS().Sky_Table[88].Used = true;
+    Bench.GNSS().Svs_In_Use[9] = 77;
     const frmPosition& W = Bench.Open();
     const std::vector<int> Eight{3, 6, 8, 12, 19, 24, 25, 32};
     std::vector<int> In_Use, Used, PRN;
-    for (const std::int16_t I : Bench.Sim.State.Of<GNSS_State>().Svs_In_Use)
+    for (const std::int16_t I : Bench.GNSS().Svs_In_Use)
         if (I != 0) In_Use.push_back(I);
     for (int I = 1; I <= 88; ++I)
-        if (Bench.Sim.State.Of<GNSS_State>().Sky_Table[I].Used) Used.push_back(I);
+        if (Bench.GNSS().Sky_Table[I].Used) Used.push_back(I);
     for (const std::int16_t I : W.GSA_Record.PRN)
         if (I != 0) PRN.push_back(I);
     EXPECT_EQ(In_Use, Eight);
@@ -119,8 +116,8 @@ TEST(GNSS_Satellites, Opening_Puts_The_Eight_Into_All_Lists) {
 TEST(GNSS_Satellites, GSV_Is_A_Series_With_Whole_Numbers_From_Below) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    auto& Sky = Bench.Sim.State.Of<GNSS_State>().Sky_Table;
-    for (const std::int16_t I : Bench.Sim.State.Of<GNSS_State>().Svs_In_Use)
+    auto& Sky = Bench.GNSS().Sky_Table;
+    for (const std::int16_t I : Bench.GNSS().Svs_In_Use)
         if (I != 0) {
             Sky[I].Elevation = static_cast<float>(I) + 0.99F;
             Sky[I].Azimuth = 100.5F + static_cast<float>(I);
@@ -175,8 +172,8 @@ TEST(GNSS_Satellites, GSV_Lists_Those_In_Use_Then_Those_In_View_Then_Nothing) {
 TEST(GNSS_Satellites, An_Identifier_Without_A_Satellite_Goes_Out_Empty) {
     GNSS_Bench Bench;
     frmPosition& W = Bench.Open();
-    Bench.Sim.State.Of<GNSS_State>().Svs_In_Use[1] = -5;
-    Bench.Sim.State.Of<GNSS_State>().Svs_In_Use[2] = 89;
+    Bench.GNSS().Svs_In_Use[1] = -5;
+    Bench.GNSS().Svs_In_Use[2] = 89;
     Tick_GSV(Bench, W);
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[0].Text.substr(0, 23), "$GPGSV,2,1,8,,,,,,,,,8,");

@@ -2,7 +2,6 @@
 
 #include "links/port_setup/frm_setup.hpp"
 #include "links/port_setup/port_detection.hpp"
-#include "shell/state/link_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -16,7 +15,7 @@ inline constexpr const char* None_Found = "No comports available on your PC";
 struct Port_Setup : testing::Test, Virtual_Simulator {
     Port_Setup() {
         for (int Port = 1; Port <= 16; ++Port) Answer(Port, "No such file or directory");
-        Sim.State.Of<Link_State>().TCP_Port = 8040;
+        Link().TCP_Port = 8040;
     }
     void Answer(int Port, const char* Failure) {
         World.Failures["COM " + std::to_string(Port) + " open"] = Failure;

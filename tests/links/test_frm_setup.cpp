@@ -7,14 +7,13 @@ namespace brinewright {
 namespace {
 
 TEST_F(Port_Setup, Shows_What_Is_Set_And_OK_Takes_It_Over) {
-    Sim.State.Of<Link_State>().Port_Table[1] = {true, true, 19200, 7, "even", 2};
-    Sim.State.Of<Link_State>().Port_Table[2] = {true, false,  38400,
-                                                5,    "mark", 2}; // values that the lists do not have
+    Link().Port_Table[1] = {true, true, 19200, 7, "even", 2};
+    Link().Port_Table[2] = {true, false, 38400, 5, "mark", 2}; // values that the lists do not have
     Virtual_Simulator::Set_Up_Link(Sim.State, 18);
-    Sim.State.Of<Link_State>().UDP_Port_Number[1] = 0;
-    Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
-    Sim.State.Of<Link_State>().Ports_Initialised = true;
-    Sim.State.Of<Link_State>().TCP_Port = 0;
+    Link().UDP_Port_Number[1] = 0;
+    Link().UDP_Remote_Host = "10.1.2.3";
+    Link().Ports_Initialised = true;
+    Link().TCP_Port = 0;
     frmSetup& F = Open();
     EXPECT_TRUE(Told.empty());
     EXPECT_EQ(F.cmbBaudRate[1].Text() + F.cmbDataBits[1].Text() + F.cmbParity[1].Text() +
@@ -57,7 +56,7 @@ TEST_F(Port_Setup, Shows_What_Is_Set_And_OK_Takes_It_Over) {
 
 TEST_F(Port_Setup, Cancel_Changes_Nothing) {
     Use({18});
-    Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
+    Link().UDP_Remote_Host = "10.1.2.3";
     const std::string Before = Write_Setup(Sim.State, All_Windows());
     frmSetup& F = Open();
     Type(F.txtPort, "9001");
@@ -67,13 +66,13 @@ TEST_F(Port_Setup, Cancel_Changes_Nothing) {
     Type(F.txtUDP_RemoteHost, "10.0.0.9");
     Click(F.cmdCancel);
     EXPECT_EQ(Write_Setup(Sim.State, All_Windows()), Before);
-    EXPECT_EQ(Sim.State.Of<Link_State>().UDP_Mode, 0);
+    EXPECT_EQ(Link().UDP_Mode, 0);
     EXPECT_FALSE(Open_One<frmSetup>(Sim));
 }
 
 TEST_F(Port_Setup, OK_Gives_The_Open_Sensor_Windows_Their_New_Ports) {
     Use({18});
-    Sim.State.Of<Link_State>().Sensor_Table[2].Port = 18;
+    Link().Sensor_Table[2].Port = 18;
     Open_Form(2);
     frmPosition& W = *Open_One<frmPosition>(Sim, 2);
     ASSERT_EQ(W.cmbComPort.Items().size(), 1u);
@@ -84,7 +83,7 @@ TEST_F(Port_Setup, OK_Gives_The_Open_Sensor_Windows_Their_New_Ports) {
     ASSERT_EQ(W.cmbComPort.Items().size(), 2u);
     EXPECT_EQ(W.cmbComPort.Items()[0].Text, "TCP/IP");
     EXPECT_EQ(W.cmbComPort.Text(), "UDP 60077"); // still its own
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Index, 2);
+    EXPECT_EQ(Shell().Open_Form_Index, 2);
 }
 
 TEST_F(Port_Setup, A_First_Start_Opens_It_And_Info_Tells_Of_The_Ports_Above_16) {

@@ -25,9 +25,9 @@ TEST_F(Port_Setup, Detection_Tells_Present_Busy_And_Absent_Ports_Apart) {
     Click(F.chkEnable[16]);
     Click(F.chkEnable[5]); // refused
     Click(F.cmdOK);
-    const auto& Table = Sim.State.Of<Link_State>().Port_Table;
-    EXPECT_EQ(Sim.State.Of<Link_State>().Present_Port_Count, 2);
-    EXPECT_EQ(Sim.State.Of<Link_State>().Comport_Count, 2);
+    const auto& Table = Link().Port_Table;
+    EXPECT_EQ(Link().Present_Port_Count, 2);
+    EXPECT_EQ(Link().Comport_Count, 2);
     EXPECT_TRUE(Table[2].Present && !Table[2].Enabled);
     EXPECT_TRUE(!Table[5].Present && !Table[5].Enabled);
     EXPECT_TRUE(Table[16].Present && Table[16].Enabled);
@@ -75,7 +75,7 @@ TEST_F(Port_Setup, Closing_Windows_While_Ports_Are_Tried_Harms_Nothing) {
     Run_s(1);
     EXPECT_EQ(World.Log.size(), Tried);
     EXPECT_LT(Tried, 16u);
-    EXPECT_FALSE(Sim.State.Of<Link_State>().Ports_Initialised);
+    EXPECT_FALSE(Link().Ports_Initialised);
     Open();
     Close(*Open_One<frmSetup>(Sim));
     EXPECT_FALSE(Open_One<frmProgress>(Sim));
@@ -111,9 +111,8 @@ TEST_F(Port_Setup, A_Port_That_Sends_Is_There_And_Its_Output_Goes_On) {
     EXPECT_TRUE(Before.chkEnable[2].Value());
     World.Log.clear();
     Click(Before.cmdReset);
-    EXPECT_FALSE(Sim.State.Of<Link_State>().Port_Table[2].Present ||
-                 Sim.State.Of<Link_State>().Port_Table[2].Enabled);
-    EXPECT_FALSE(Sim.State.Of<Link_State>().Ports_Initialised);
+    EXPECT_FALSE(Link().Port_Table[2].Present || Link().Port_Table[2].Enabled);
+    EXPECT_FALSE(Link().Ports_Initialised);
     Run_s(1);
     EXPECT_EQ(Shown(), std::vector<int>{2});
     for (const std::string& Line : World.Log) EXPECT_NE(Line.rfind("COM 2 ", 0), 0u) << Line;

@@ -1,6 +1,5 @@
 #include "links/port_list.hpp"
 #include "platform/form.hpp"
-#include "shell/state/link_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -9,8 +8,8 @@ namespace {
 TEST(Port_List, Offers_The_Links_In_Use_With_Their_Numbers) {
     Virtual_Simulator V;
     for (const int Port : {1, 16, 17, 18, 28}) Virtual_Simulator::Set_Up_Link(V.Sim.State, Port);
-    V.Sim.State.Of<Link_State>().Port_Table[2].Present = true;
-    V.Sim.State.Of<Link_State>().Port_Table[3].Enabled = true;
+    V.Link().Port_Table[2].Present = true;
+    V.Link().Port_Table[3].Enabled = true;
     Form Window(V.Sim.Windows, "Window", 0, Form_Kind::Child);
     Combo_Box List(Window, "List");
     int Clicks = 0;
@@ -32,8 +31,8 @@ TEST(Port_List, Offers_The_Links_In_Use_With_Their_Numbers) {
     }
     EXPECT_EQ(Clicks, 1);
 
-    V.Sim.State.Of<Link_State>().Virtual_Port_Option = true;
-    V.Sim.State.Of<Link_State>().Virtual_Port_Number = 7;
+    V.Link().Virtual_Port_Option = true;
+    V.Link().Virtual_Port_Number = 7;
     Expected.emplace_back("vCom 7", 18);
     EXPECT_EQ(Entries(18), Expected);
     EXPECT_EQ(List.Text(), "UDP 60001"); // the first of its number

@@ -1,4 +1,3 @@
-#include "shell/state/link_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -61,9 +60,9 @@ TEST(Serial_Ports, One_That_Does_Not_Open_Is_Told_And_The_Others_Open) {
 struct Receiving : testing::Test, Virtual_Simulator {
     void SetUp() override {
         Use({3, 4});
-        Sim.State.Of<Link_State>().Extended_Monitor_Port = 3;
+        Link().Extended_Monitor_Port = 3;
         Open_Window(Sim, "frmExtendedMonitor");
-        Sim.State.Of<Link_State>().Extended_Monitor_Lines = 100;
+        Link().Extended_Monitor_Lines = 100;
     }
     std::string Pane() { return Open_One<frmExtendedMonitor>(Sim)->txtInput.Text(); }
     Played_Platform::Serial& Com(int Number) { return *World.Coms[Number]; }
@@ -74,10 +73,10 @@ TEST_F(Receiving, Whole_Lines_Of_The_Watched_Port_Show) {
     EXPECT_EQ(Pane(), "one\r\n");
     Com(3).Arrive("o\n\nthree\nfo");
     EXPECT_EQ(Pane(), "one\r\ntwo\n\nthree\n");
-    EXPECT_EQ(Sim.State.Of<Link_State>().Transmit.Extended_Rx_Line_Count, 4);
+    EXPECT_EQ(Link().Transmit.Extended_Rx_Line_Count, 4);
     Com(4).Arrive("unseen\n");
     EXPECT_EQ(Com(4).Received, "unseen\n"); // it stays in the port
-    EXPECT_EQ(Sim.State.Of<Link_State>().Transmit.Extended_Rx_Line_Count, 4);
+    EXPECT_EQ(Link().Transmit.Extended_Rx_Line_Count, 4);
 
     // Frozen, lines are taken and lost. The buffer is one for all ports.
     Click(Open_One<frmExtendedMonitor>(Sim)->cmdFreeze);

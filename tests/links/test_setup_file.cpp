@@ -1,13 +1,5 @@
 #include "links/setup_file/setup_file.hpp"
-#include "ownship/autopilot/autopilot_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "platform/run_time_error.hpp"
-#include "sensors/echosounder/echo_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "sensors/wind/wind_state.hpp"
-#include "sentences/utc_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "test_setup_file_support.hpp"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,5 @@
 #include "links/setup_file/setup_file.hpp"
 #include "platform/run_time_error.hpp"
-#include "sentences/utc_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "test_setup_file_support.hpp"
 
 #include <gtest/gtest.h>

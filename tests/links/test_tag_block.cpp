@@ -1,8 +1,4 @@
 #include "dialogs/iec61162/frm_iec61162.hpp"
-#include "sentences/utc_state.hpp"
-#include "shell/state/fault_state.hpp"
-#include "shell/state/iec450_state.hpp"
-#include "shell/state/link_state.hpp"
 #include "shell/transmit/tag_block.hpp"
 #include "tests/support/virtual_simulator.hpp"
 

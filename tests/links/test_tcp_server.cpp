@@ -1,5 +1,4 @@
 #include "links/tcp_status/frm_tcpip.hpp"
-#include "shell/state/link_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -32,9 +31,9 @@ TEST_F(TCP, The_Window_At_First) {
     F().Left = 1234;
     F().Top = -40000; // outside of what the state can hold
     Close(F());
-    EXPECT_EQ(Sim.State.Of<Link_State>().frmTCPIP_Left, 1234);
-    EXPECT_LE(Sim.State.Of<Link_State>().frmTCPIP_Top, -32767);
-    Sim.State.Of<Link_State>().frmTCPIP_Top = 77;
+    EXPECT_EQ(Link().frmTCPIP_Left, 1234);
+    EXPECT_LE(Link().frmTCPIP_Top, -32767);
+    Link().frmTCPIP_Top = 77;
     Init();
     EXPECT_EQ(F().Left, 1234);
     EXPECT_EQ(F().Top, 77);
@@ -43,8 +42,8 @@ TEST_F(TCP, The_Window_At_First) {
 
 TEST_F(TCP, Clients_Come_And_Go) {
     World.Connect("10.0.0.7");
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 1);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 1);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 1);
+    EXPECT_EQ(Link().TCP_Client_Count, 1);
     EXPECT_EQ(State(0), 7);
     EXPECT_EQ(State(1), 2);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
@@ -63,8 +62,8 @@ TEST_F(TCP, Clients_Come_And_Go) {
 
     Run_s(1);
     Leave(0);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 1);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 2);
+    EXPECT_EQ(Link().TCP_Client_Count, 1);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 2);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
     EXPECT_EQ(F().cmbConnections.Text(),
               " 1-Connected to IP : 10.0.0.7 - 01.01.2026 10:00:00 - 01.01.2026 10:01:06 disconnected");
@@ -78,7 +77,7 @@ TEST_F(TCP, Clients_Come_And_Go) {
     EXPECT_EQ(F().cmbConnections.List_Index(), 2);
     Leave(1);
     Leave(2);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 0);
+    EXPECT_EQ(Link().TCP_Client_Count, 0);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 0 clients");
     EXPECT_EQ(History().size(), 3u);
     Send("$C", 17); // nobody there, and no failure
@@ -93,7 +92,7 @@ TEST_F(TCP, A_Client_That_Does_Not_Read_Disturbs_Nobody) {
     World.Clients[0]->Reads = false;
     for (int I = 0; I < 5; ++I) Send("$A", 17);
     EXPECT_EQ(Sent_On("TCP 1").size(), 5u);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 2);
+    EXPECT_EQ(Link().TCP_Client_Count, 2);
     EXPECT_TRUE(Told.empty());
 }
 
@@ -102,8 +101,8 @@ TEST_F(TCP, Timers_Of_Clients_That_Have_Gone_Stop) {
         World.Connect();
         if (I % 3) Leave(static_cast<std::size_t>(I));
     }
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 300);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 100);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 300);
+    EXPECT_EQ(Link().TCP_Client_Count, 100);
     Send("$A", 17);
     EXPECT_EQ(World.Sent.size(), 100u);
     Run_s(2.1);
@@ -119,15 +118,15 @@ TEST_F(TCP, Timers_Of_Clients_That_Have_Gone_Stop) {
 
 TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
     World.Connect("10.0.0.7");
-    Sim.State.Of<Link_State>().TCP_Port = 4001;
+    Link().TCP_Port = 4001;
     Set_Time_Of_Day(40000);
     World.Log.clear();
     Init();
     EXPECT_EQ(World.Log, (Texts{"listen close", "listen 4001"}));
     EXPECT_EQ(*F().lblPort.Caption, "4001");
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count,
+    EXPECT_EQ(Link().TCP_Client_Count,
               1); // closing the element that listens is no client going away
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 1);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 1);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
     EXPECT_EQ(History().back(), " 1-Connected to IP : 10.0.0.7 - 01.01.2026 11:06:40");
     EXPECT_EQ(F().cmbConnections.List_Index(), 0);
@@ -136,10 +135,10 @@ TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
     EXPECT_EQ(Sent_On("TCP 0").size() + Sent_On("TCP 1").size(), 2u);
 
     // Without the link in use all of it ends.
-    Sim.State.Of<Link_State>().Port_Table[17].Enabled = false;
+    Link().Port_Table[17].Enabled = false;
     Init();
     EXPECT_FALSE(World.Listener->Listening);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 0);
+    EXPECT_EQ(Link().TCP_Client_Count, 0);
     Send("$B", 17);
     EXPECT_EQ(World.Sent.size(), 2u);
 }
@@ -178,11 +177,11 @@ TEST(TCP_Failure, A_Port_That_Is_Taken_Is_Told_And_The_Rest_Goes_On) {
     V.Send("$A", 17);
     EXPECT_EQ(V.Sent_On("TCP 0").size(), 1u);
     V.World.Failures["listen"] = "Permission denied";
-    V.Sim.State.Of<Link_State>().TCP_Port = 80;
+    V.Link().TCP_Port = 80;
     V.Init();
     V.Send("$A", 17); // the client stays
     EXPECT_EQ(V.Sent_On("TCP 0").size(), 2u);
-    EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Client_Count, 1);
+    EXPECT_EQ(V.Link().TCP_Client_Count, 1);
 }
 
 } // namespace

@@ -4,8 +4,6 @@
 #include "sensors/gyro/frm_gyro.hpp"
 #include "sensors/log/frm_log.hpp"
 #include "sensors/wind/frm_wind.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 #include <cstdint>
@@ -81,21 +79,6 @@ inline std::string Framed(const std::string& Body) {
     for (const char C : Body) Sum ^= static_cast<unsigned char>(C);
     constexpr const char* Digits = "0123456789ABCDEF";
     return "$" + Body + "*" + Digits[Sum / 16] + Digits[Sum % 16];
-}
-
-// Every control that a user sees says its unit and range, or what it does; those of the list, "path=caption",
-// also bear their captions.
-inline void Expect_Texts(const Form& W, std::initializer_list<std::string> Captions) {
-    for (const Control* C : W.Controls)
-        if (C->Kind != Control_Kind::Timer) {
-            EXPECT_FALSE(static_cast<const Visible_Control*>(C)->Tool_Tip->empty()) << C->Path();
-        }
-    for (const std::string& Row : Captions) {
-        const std::string Path = Row.substr(0, Row.find('='));
-        const auto* const Found = static_cast<const Visible_Control*>(W.Find(Path));
-        ASSERT_TRUE(Found) << Path;
-        EXPECT_EQ(Path + '=' + *Found->Caption, Row);
-    }
 }
 
 inline Texts Entries(const Combo_Box& List) {

@@ -1,10 +1,6 @@
 // The echo sounder: its depth, its offset, its noise and what it sends.
 
 #include "sensor_bench.hpp"
-#include "sensors/echosounder/echo_state.hpp"
-#include "shell/state/fault_state.hpp"
-#include "shell/state/iec450_state.hpp"
-#include "shell/state/shell_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -18,29 +14,29 @@ struct Typed_Depth {
 
 TEST(Echosounder, Both_Start_From_The_Kept_Depth_And_Only_The_First_Writes_It) {
     Sensor_Bench Bench;
-    Bench.S.Of<Echo_State>().Echo_Depth = 512.25F;
+    Bench.Echo().Echo_Depth = 512.25F;
     frmEchosounder& First = Bench.Open_Echo(1);
     frmEchosounder& Second = Bench.Open_Echo(2);
-    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 512.25F) << "showing it has changed it";
+    EXPECT_EQ(Bench.Echo().Echo_Depth, 512.25F) << "showing it has changed it";
     EXPECT_EQ(First.scrDepth.Value(), 4000);
     EXPECT_EQ(Second.Depth_Value, 512.25F);
     Second.scrDepth.Set_Value(70);
     EXPECT_EQ(Second.Depth_Value, 7);
-    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 512.25F);
+    EXPECT_EQ(Bench.Echo().Echo_Depth, 512.25F);
     First.scrDepth.Set_Value(90);
-    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Depth, 9);
+    EXPECT_EQ(Bench.Echo().Echo_Depth, 9);
     EXPECT_EQ(Bench.Tick(Second.Sentences["DPT"].Clock), Framed("SDDPT,7.0,0.0,400.0"));
     EXPECT_EQ(Bench.Sent[0].Port, 23);
 
     Bench.Close(First);
-    Bench.S.Of<Echo_State>().Echo_Depth = -3;
+    Bench.Echo().Echo_Depth = -3;
     EXPECT_EQ(Bench.Tick(Bench.Open_Echo(1).Sentences["DPT"].Clock), Framed("SDDPT,0.0,0.0,400.0"));
 }
 
 TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
     Sensor_Bench Bench;
-    Bench.S.Of<Echo_State>().Echo_Noise_Enabled[2] = true;
-    Bench.S.Of<Echo_State>().Echo_Noise_Level[2] = 8;
+    Bench.Echo().Echo_Noise_Enabled[2] = true;
+    Bench.Echo().Echo_Noise_Level[2] = 8;
     frmEchosounder& W = Bench.Open_Echo(2);
     EXPECT_TRUE(W.chkNoise.Value());
     EXPECT_EQ(W.cmbNoise.Text(), "8");
@@ -67,8 +63,8 @@ TEST(Echosounder, Noise_Stays_Within_Its_Bound_And_Above_The_Bottom) {
 
     Bench.Click(W.chkNoise);
     W.cmbNoise.Set_List_Index(20);
-    EXPECT_FALSE(Bench.S.Of<Echo_State>().Echo_Noise_Enabled[2]);
-    EXPECT_EQ(Bench.S.Of<Echo_State>().Echo_Noise_Level[2], 20);
+    EXPECT_FALSE(Bench.Echo().Echo_Noise_Enabled[2]);
+    EXPECT_EQ(Bench.Echo().Echo_Noise_Level[2], 20);
     EXPECT_EQ(W.Depth_Value, 1);
     EXPECT_EQ(Bench.Tick(W.Sentences["DPT"].Clock), Framed("SDDPT,1.0,0.0,400.0"));
 }

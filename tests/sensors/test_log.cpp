@@ -1,12 +1,6 @@
 // The log window: opening, speed, noise, status and distances, and the sentences that leave it.
 
-#include "gnss/gnss_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "sensor_bench.hpp"
-#include "sensors/log/log_state.hpp"
-#include "shell/state/fault_state.hpp"
-#include "shell/state/iec450_state.hpp"
-#include "shell/state/shell_state.hpp"
 
 namespace brinewright {
 namespace {
@@ -17,10 +11,10 @@ TEST(Log_Noise, Reaches_Water_Speed_And_Drift_But_Not_The_Ground_And_Never_Below
     frmLog& W = Bench.Open_Log();
     for (int I = 0; I < 2; ++I) Bench.Click(W.chkNoise);
     Bench.Set(W.cmbNoise, std::string(" 3")); // can be chosen while noise is off
-    EXPECT_EQ(Bench.S.Of<Log_State>().Log_Noise_Level[1], 3);
+    EXPECT_EQ(Bench.Log().Log_Noise_Level[1], 3);
     Bench.Click(W.chkNoise);
-    Bench.S.Of<Log_State>().Log_Speed[1] = 7.5F;
-    Bench.S.Of<Navdata_State>().Current_Drift = 1.25F;
+    Bench.Log().Log_Speed[1] = 7.5F;
+    Bench.Nav().Current_Drift = 1.25F;
     EXPECT_EQ(Bench.Tick(W.Sentences["VHW"].Clock), Framed("VWVHW,000.0,T,000.0,M,5.46,N,10.11,K"));
     EXPECT_EQ(Bench.Tick(W.Sentences["VBW"].Clock), Framed("VWVBW,10.45,0.0,A,7.5,0.0,A,0.0,A,0.0,A"));
     EXPECT_EQ(*W.lblCurrentSpeed.Caption, "10.45");
@@ -29,18 +23,18 @@ TEST(Log_Noise, Reaches_Water_Speed_And_Drift_But_Not_The_Ground_And_Never_Below
     EXPECT_EQ(*W.lblCurrentSpeed.Caption, "10.45");
 
     // A level that the list does not have counts for all but VDR, which goes by the list.
-    Bench.S.Of<Log_State>().Log_Noise_Level[2] = 1.5F;
-    Bench.S.Of<Log_State>().Log_Noise_Enabled[2] = true;
-    Bench.S.Of<Log_State>().Log_Speed[2] = 10;
+    Bench.Log().Log_Noise_Level[2] = 1.5F;
+    Bench.Log().Log_Noise_Enabled[2] = true;
+    Bench.Log().Log_Speed[2] = 10;
     frmLog& Second = Bench.Open_Log(2);
     EXPECT_EQ(Second.cmbNoise.List_Index(), -1);
     EXPECT_EQ(Second.cmbNoise.Text(), "");
     EXPECT_EQ(Bench.Tick(Second.Sentences["VBW"].Clock), Framed("VWVBW,10.29,0.0,A,10.0,0.0,A,0.0,A,0.0,A"));
     EXPECT_EQ(Bench.Tick(Second.Sentences["VDR"].Clock), Framed("VWVDR,000.0,T,000.0,M,10.0,N"));
-    EXPECT_EQ(Bench.S.Of<Log_State>().Log_Noise_Level[2], 1.5F);
+    EXPECT_EQ(Bench.Log().Log_Noise_Level[2], 1.5F);
 
     Bench.Set(W.cmbNoise, std::string(" 1"));
-    Bench.S.Of<Log_State>().Log_Speed[1] = 0.2F;
+    Bench.Log().Log_Speed[1] = 0.2F;
     bool Seen_0 = false, Seen_Much = false;
     for (int I = 0; I < 300; ++I) {
         Bench.Tick(W.Sentences["VBW"].Clock);
@@ -58,13 +52,13 @@ TEST(Log_Noise, Reaches_Water_Speed_And_Drift_But_Not_The_Ground_And_Never_Below
 
 TEST(Log_VLW, Counts_Water_By_The_Log_And_Ground_By_The_GNSS_Of_The_Same_Number) {
     Sensor_Bench Bench;
-    Bench.S.Of<Log_State>().Log_Total_Water[2] = 100; // from before the box was ticked
-    Bench.S.Of<GNSS_State>().GNSS_SOG.Elements = {99, 18};
-    Bench.S.Of<Log_State>().Log_Speed.Elements = {99, 36};
+    Bench.Log().Log_Total_Water[2] = 100; // from before the box was ticked
+    Bench.GNSS().GNSS_SOG.Elements = {99, 18};
+    Bench.Log().Log_Speed.Elements = {99, 36};
     frmLog& W = Bench.Open_Log(2);
     EXPECT_FALSE(W.cmdResetVLW.Enabled);
     Bench.Set(W.Sentences["VLW"].Interval_List, std::int64_t{4});
-    EXPECT_EQ(Bench.S.Of<Log_State>().Log_VLW_Seconds[2], 5);
+    EXPECT_EQ(Bench.Log().Log_VLW_Seconds[2], 5);
     EXPECT_EQ(W.Sentences["VLW"].Clock.Interval_ms(), 0);
     Bench.Click(W.Sentences["VLW"].Box);
     EXPECT_TRUE(W.cmdResetVLW.Enabled);
@@ -76,7 +70,7 @@ TEST(Log_VLW, Counts_Water_By_The_Log_And_Ground_By_The_GNSS_Of_The_Same_Number)
     Bench.Click(W.cmdResetVLW);
     Bench.Set(W.Sentences["VLW"].Interval_List,
               std::int64_t{1}); // the next is a period away and counts as one
-    EXPECT_EQ(Bench.S.Of<Log_State>().Log_VLW_Seconds[2], 2);
+    EXPECT_EQ(Bench.Log().Log_VLW_Seconds[2], 2);
     Bench.Sent.clear();
     Bench.Run_s(2.5);
     ASSERT_EQ(Bench.Sent.size(), 1U);
@@ -85,15 +79,14 @@ TEST(Log_VLW, Counts_Water_By_The_Log_And_Ground_By_The_GNSS_Of_The_Same_Number)
     Bench.Click(W.Sentences["VLW"].Box);
     EXPECT_FALSE(W.cmdResetVLW.Enabled);
     EXPECT_THROW(Bench.Sim.Windows.User_Click(W.cmdResetVLW), User_Refusal);
-    EXPECT_NEAR(Bench.S.Of<Log_State>().Log_Total_Water[2], 0.22, 1e-6);
+    EXPECT_NEAR(Bench.Log().Log_Total_Water[2], 0.22, 1e-6);
     Bench.Run_s(10);
     EXPECT_EQ(Bench.Sent.size(), 1U);
     Bench.Click(W.Sentences["VLW"].Box);
-    for (const float Counter :
-         {Bench.S.Of<Log_State>().Log_Total_Water[2], Bench.S.Of<Log_State>().Log_Trip_Water[2],
-          Bench.S.Of<Log_State>().Log_Total_Ground[2], Bench.S.Of<Log_State>().Log_Trip_Ground[2]})
+    for (const float Counter : {Bench.Log().Log_Total_Water[2], Bench.Log().Log_Trip_Water[2],
+                                Bench.Log().Log_Total_Ground[2], Bench.Log().Log_Trip_Ground[2]})
         EXPECT_EQ(Counter, 0);
-    EXPECT_EQ(Bench.S.Of<Log_State>().Log_VLW_Seconds[1], 0);
+    EXPECT_EQ(Bench.Log().Log_VLW_Seconds[1], 0);
 }
 
 } // namespace

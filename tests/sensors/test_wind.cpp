@@ -1,18 +1,13 @@
 // The wind gauge: what it sends, its true wind, units, noise and what it keeps.
 
-#include "ownship/navdata_state.hpp"
 #include "sensor_bench.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "sensors/wind/wind_state.hpp"
-#include "shell/state/fault_state.hpp"
 
 namespace brinewright {
 namespace {
 
 void Set_Wind(Sensor_Bench& Bench, int k, float Speed, float From_deg) {
-    Bench.S.Of<Wind_State>().Wind_Speed[k] = Speed;
-    Bench.S.Of<Wind_State>().Wind_Direction[k] = From_deg;
+    Bench.Wind().Wind_Speed[k] = Speed;
+    Bench.Wind().Wind_Direction[k] = From_deg;
 }
 
 TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
@@ -49,9 +44,9 @@ TEST(Wind_Gauge, Sends_Relative_Wind_From_Its_Own_Gyro_And_Log) {
 TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
     Sensor_Bench Bench;
     Set_Wind(Bench, 1, 3600, 90); // enough for every digit of the factors to show
-    Bench.S.Of<Gyro_State>().Gyro_HDG[1] = 90;
-    Bench.S.Of<Log_State>().Log_Speed[1] = 10;
-    Bench.S.Of<Wind_State>().Wind_Relative_Ref[1] = true;
+    Bench.Gyro().Gyro_HDG[1] = 90;
+    Bench.Log().Log_Speed[1] = 10;
+    Bench.Wind().Wind_Relative_Ref[1] = true;
     frmWind& W = Bench.Open_Wind();
     EXPECT_EQ(Entries(W.cmbUnits), (Texts{"knots", "m/s", "km/h"}));
     // 3600 m/s are 6997.840 knots; 3600 km/h are 1000 m/s, 1943.844 knots. The log adds 10 knots.
@@ -72,7 +67,7 @@ TEST(Wind_Gauge, Units_Count_In_Every_Sentence) {
                   Framed(std::string("WIMWD,090.0,T,090.0,M,") + Row.MWD));
         EXPECT_EQ(Bench.Tick(W.Sentences["MWV"].Clock),
                   Framed(std::string("WIMWV,000.0,R,") + Row.MWV + ",A"));
-        EXPECT_EQ(Bench.S.Of<Wind_State>().Wind_Speed[1], 3600);
+        EXPECT_EQ(Bench.Wind().Wind_Speed[1], 3600);
     }
 }
 

@@ -1,6 +1,5 @@
 #include "shell/monitors/traffic/frm_traffic.hpp"
 
-#include "shell/state/link_state.hpp"
 #include "shell/transmit/record_format.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
@@ -81,7 +80,7 @@ TEST_F(Traffic, Filters_By_Port_Type_And_Text) {
 
     // A link that comes into use, and one whose number has changed.
     Virtual_Simulator::Set_Up_Link(Sim.State, 19);
-    Sim.State.Of<Link_State>().UDP_Port_Number[0] = 61000;
+    Link().UDP_Port_Number[0] = 61000;
     Init();
     Send(GGA, 19);
     Sim.Told.Links_Chosen.Tell();

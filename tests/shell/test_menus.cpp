@@ -1,6 +1,4 @@
 #include "ownship/ship/frm_ship.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -28,12 +26,12 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     ASSERT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
     EXPECT_FALSE(*Open_One<frmPosition>(Sim, 1)->lblShipControl.Visible);
     Click(Main().Item("mnuMode", 2)); // checked already: nothing at all
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
 
     Open_One<frmPosition>(Sim, 1)->Set_Place(11, 12, 13, 14);
     Click(Main().Item("mnuMode", 1));
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
+    EXPECT_EQ(Shell().Mode, "Ship");
     EXPECT_TRUE(*Main().Item("mnuMode", 1).Checked);
     EXPECT_FALSE(*Main().Item("mnuMode", 2).Checked);
     EXPECT_TRUE(Old.expired());
@@ -44,34 +42,21 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     }
     EXPECT_EQ(Open_One<frmPosition>(Sim, 1)->Left, 11);
     EXPECT_EQ(Sim.Windows.Active_Form, static_cast<Form*>(Open_One<frmShip>(Sim)));
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0); // they stand again
+    EXPECT_EQ(Shell().Open_Form_Count, 0); // they stand again
     EXPECT_TRUE(Open_One<frmMonitor>(Sim));
 
     // The list of kept windows is left as it is, also when it is full.
-    Sim.State.Of<Shell_State>().Open_Form_Count = 20;
-    Sim.State.Of<Shell_State>().Open_Form_List[20].Name = "the last";
+    Shell().Open_Form_Count = 20;
+    Shell().Open_Form_List[20].Name = "the last";
     Click(Main().Item("mnuMode", 2));
     EXPECT_EQ(Take_Boxes(), Texts{});
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 20);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_List[20].Name, "the last");
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Sensor");
+    EXPECT_EQ(Shell().Open_Form_Count, 20);
+    EXPECT_EQ(Shell().Open_Form_List[20].Name, "the last");
+    EXPECT_EQ(Shell().Mode, "Sensor");
     for (const int I : {1, 2}) {
         ASSERT_TRUE(Open_One<frmPosition>(Sim, I));
         EXPECT_FALSE(*Open_One<frmPosition>(Sim, I)->lblShipControl.Visible);
     }
-}
-
-TEST_F(Menus, A_Second_Choice_Of_A_Window_Gives_It_The_Focus) {
-    Open_Form(1);
-    Open_Form(2);
-    Click(Main().Item("mnuOpenForm", 1));
-    EXPECT_EQ(Sim.Windows.Active_Form, Open_One<frmPosition>(Sim, 1));
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Index, 1);
-    EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
-    Open_Form(0); // a setup can name any window
-    Open_Form(12);
-    EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
-    EXPECT_TRUE(Told.empty());
 }
 
 TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
@@ -81,7 +66,7 @@ TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
         Click(Main().Item("mnuFileSave"));
         EXPECT_EQ(Take_Boxes(), Texts{Saved_Box});
         EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_Count, 2 * Save);
-        EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 2 * Save);
+        EXPECT_EQ(Shell().Open_Form_Count, 2 * Save);
     }
     const std::string Before = Disk.Content.at(Setup_Name);
     Click(Main().Item("mnuFileSave"));
@@ -105,11 +90,11 @@ TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
         EXPECT_EQ(Take_Boxes(), Texts{"Setup saved as /tmp/mine.ini"});
         EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_Count, 1);
         EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_List[1].Index, 2);
-        EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+        EXPECT_EQ(Shell().Open_Form_Count, 0);
     }
     Click(Main().Item("mnuFileSaveAs"));
     Answer_File("");
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_TRUE(Told.empty());
 
     Disk.Refuse_Writing = true;
@@ -158,11 +143,11 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     EXPECT_FALSE(Open_One<frmPosition>(Sim, 1));
     ASSERT_TRUE(Open_One<frmPosition>(Sim, 2));
     EXPECT_EQ(Open_One<frmPosition>(Sim, 2)->Top, 210);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
+    EXPECT_EQ(Shell().Mode, "Ship");
     EXPECT_TRUE(*Main().Item("mnuMode", 1).Checked);
     EXPECT_FALSE(*Main().Item("mnuMode", 2).Checked);
-    EXPECT_EQ(Sim.State.Of<Link_State>().Sensor_Table[1].Name, "As in the file");
+    EXPECT_EQ(Link().Sensor_Table[1].Name, "As in the file");
 
     // With ports they are brought to the new state; port 11 is not used any more and is let go.
     Other.Of<Link_State>().Comport_Count = 2;
@@ -176,7 +161,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Disk.Content["/tmp/other.ini"] = "\"REM UTCOffset\"\r\n99999\r\n";
     Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
     EXPECT_EQ(Take_Boxes(), Texts{"Overflow  Default data loaded"});
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
+    EXPECT_EQ(Shell().Mode, "Ship");
     Stop();
     EXPECT_EQ(Saved().Of<Link_State>().TCP_Port, 8040);
 }

@@ -1,13 +1,6 @@
-#include "gnss/gnss_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "sensors/wind/wind_state.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/sensor_form.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -46,7 +39,7 @@ TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmShip", "frmGyro[1]", "frmLog[1]"}));
     EXPECT_EQ(Open_One<frmShip>(Sim)->Left, 200); // its place in the list counts, wherever in it it stands
     EXPECT_EQ(Window(3).Left, 203);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_NEAR(static_cast<double>(Now_us()), 2 * 350'000, 2000);
     EXPECT_TRUE(*Main_Window(Sim).Item("mnuShip").Checked);
     EXPECT_TRUE(*Main_Window(Sim).Item("mnuShip").Enabled);
@@ -213,8 +206,8 @@ TEST_F(Modes, One_Ship_Drives_All_Sensors) {
     EXPECT_EQ(Last_Value(*this, "VHW", 5), 12);
     EXPECT_EQ(Last_Value(*this, "MWV", 3), 12); // no wind: what is felt is the ship's own speed
     // About a nautical mile to the north, and hardly to the east: the mean course is 005.
-    EXPECT_NEAR(Sim.State.Of<Navdata_State>().Nav_Lat, 10 + 0.985 / 60, 0.01 / 60);
-    EXPECT_EQ(Sim.State.Of<GNSS_State>().GNSS_Lat[1], Sim.State.Of<Navdata_State>().Nav_Lat);
+    EXPECT_NEAR(Nav().Nav_Lat, 10 + 0.985 / 60, 0.01 / 60);
+    EXPECT_EQ(GNSS().GNSS_Lat[1], Nav().Nav_Lat);
     EXPECT_EQ(Take_Boxes(), Texts{});
 }
 

@@ -5,7 +5,6 @@
 #include "ownship/ship/frm_ship.hpp"
 #include "ownship/ship/joystick.hpp"
 #include "sentences/number_pattern.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 #include <functional>

@@ -16,6 +16,7 @@
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
 #include "shell/transmit/send_nmea.hpp"
+#include "tests/support/areas.hpp"
 #include "tests/support/played_platform.hpp"
 
 #include <gtest/gtest.h>
@@ -59,7 +60,7 @@ inline constexpr const char* Setup_Name = "/data/Brinewright.ini";
 
 // A whole simulator in virtual time, from a time of day of 2026-01-01 on. Message boxes are kept in Told and
 // answered at once, unless Hold_Boxes is set.
-struct Virtual_Simulator {
+struct Virtual_Simulator : Areas<Virtual_Simulator> {
     explicit Virtual_Simulator(double Time_Of_Day = 36000, Start_Options Options = {})
         : World(Disk, Settings, Day_us + std::llround(Time_Of_Day * 1e6)),
           Made(Make_Simulator(World, With_Folder(Options))), Sim(*Made) {

@@ -1,6 +1,5 @@
 // Message boxes, file dialogs, and how windows and the program are closed by hand.
 
-#include "shell/state/shell_state.hpp"
 #include "tests/ui/shown_desktop.hpp"
 
 #include <QFileDialog>

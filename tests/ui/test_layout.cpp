@@ -1,6 +1,5 @@
 // Every window is shown whole on a small bench display, at every scaling. Runs at 150 and 200 % as well.
 
-#include "shell/state/shell_state.hpp"
 #include "tests/ui/shown_desktop.hpp"
 
 #include <QMdiSubWindow>
