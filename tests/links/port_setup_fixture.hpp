@@ -22,16 +22,13 @@ struct Port_Setup : testing::Test, Virtual_Simulator {
     }
     void Is_There(int Port) { World.Failures.erase("COM " + std::to_string(Port) + " open"); }
     frmSetup& Open() {
-        Click(Main_Window(Sim).Item("mnuSetupPort"));
+        Choose_Menu("mnuSetupPort");
         return *Open_One<frmSetup>(Sim);
     }
     frmSetup& Detect() {
         Open();
         Run_s(1);
         return *Open_One<frmSetup>(Sim);
-    }
-    void Type(Control& Box, const std::string& Text) {
-        Sim.Windows.Event([&] { Sim.Windows.User_Set(Box, Text); });
     }
     std::vector<int> Shown() const {
         std::vector<int> Ports;

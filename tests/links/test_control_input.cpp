@@ -15,11 +15,8 @@ constexpr const char* Warning =
 struct Steered_Ship : Virtual_Simulator {
     explicit Steered_Ship(const char* Mode = "Ship") {
         Disk.Content[Port_File] = "5050\r\n";
-        Simulator_State Setup;
-        Load_Default_Data(Setup, All_Windows());
-        Setup.Of<Shell_State>().Mode = Mode;
         Sim.Options.Control_Input = true;
-        Start(Setup);
+        Start(Default_Setup(Mode));
         Opening = std::exchange(Told, {});
     }
     void Arrive(const std::string& Datagram) const { Input().Arrive(Datagram); }
@@ -57,9 +54,7 @@ TEST(Control_Input, Opens_The_Port_That_The_File_Names) {
     // Without the option there is neither box nor socket.
     Virtual_Simulator Without;
     Without.Disk.Content[Port_File] = "5050";
-    Simulator_State Setup;
-    Load_Default_Data(Setup, All_Windows());
-    Without.Start(Setup);
+    Without.Start(Default_Setup("Ship"));
     EXPECT_TRUE(Without.Told.empty());
     EXPECT_TRUE(Without.World.Sockets.empty());
 }
@@ -202,7 +197,7 @@ TEST(Control_Input, In_Sensor_Mode_It_Warns_Once_And_Leaves_The_Data_Unread) {
     EXPECT_EQ(V.Nav().Nav_SOG, 0.0F);
 
     // What waits comes first, in its order, each as an event of its own.
-    V.Click(Main_Window(V.Sim).Item("mnuMode", 1));
+    V.Choose_Menu("mnuMode", 1);
     ASSERT_NE(Open_One<frmShip>(V.Sim), nullptr);
     int Events = 0;
     V.Sim.Windows.On_Settled.push_back([&] { ++Events; });
@@ -212,7 +207,7 @@ TEST(Control_Input, In_Sensor_Mode_It_Warns_Once_And_Leaves_The_Data_Unread) {
     EXPECT_EQ(V.Nav().Nav_SOG, 20.0F);
     EXPECT_EQ(V.Nav().Nav_Rudder, 5.0F);
 
-    V.Click(Main_Window(V.Sim).Item("mnuMode", 2));
+    V.Choose_Menu("mnuMode", 2);
     V.Arrive("$GPVTG,,,,,30,N");
     EXPECT_EQ(V.Nav().Nav_SOG, 20.0F);
     EXPECT_EQ(V.Told.size(), 1u) << "once in a run";

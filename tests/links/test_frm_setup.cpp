@@ -91,7 +91,7 @@ TEST_F(Port_Setup, A_First_Start_Opens_It_And_Info_Tells_Of_The_Ports_Above_16) 
     ASSERT_TRUE(Open_One<frmSetup>(Sim));
     EXPECT_EQ(Take_Boxes(),
               (Texts{"No setupfile exist. Default data loaded and no comports initialized ! ", Detecting}));
-    Click(Main_Window(Sim).Item("mnuSetupPort")); // no second one
+    Choose_Menu("mnuSetupPort"); // no second one
     EXPECT_EQ(std::count_if(Sim.Windows.Forms.begin(), Sim.Windows.Forms.end(),
                             [](const auto& F) { return F->Name == "frmSetup"; }),
               1);

@@ -13,7 +13,7 @@ constexpr const char* VTG = "$GPVTG,33*00";  // and this one is not
 struct Traffic : testing::Test, Virtual_Simulator {
     Traffic() : Virtual_Simulator(45296.5) { // 12:34:56.5
         Use({17, 18});
-        Click(Main_Window(Sim).Item("mnuTraffic"));
+        Choose_Menu("mnuTraffic");
         Told.clear();
     }
     frmTraffic& F() { return *Open_One<frmTraffic>(Sim); }
@@ -21,14 +21,6 @@ struct Traffic : testing::Test, Virtual_Simulator {
     Texts Sentences() {
         Texts All;
         for (int Row = 0; Row < F().hfgTraffic.Rows(); ++Row) All.push_back(Cell(Row, 5));
-        return All;
-    }
-    void Set(Control& Target, const Control_Value& Value) {
-        Sim.Windows.Event([&] { Sim.Windows.User_Set(Target, Value); });
-    }
-    Texts Entries(const Combo_Box& List) const {
-        Texts All;
-        for (const auto& Item : List.Items()) All.push_back(Item.Text);
         return All;
     }
 };
@@ -110,9 +102,9 @@ TEST_F(Traffic, Pauses_Clears_And_Ends_With_Its_Window) {
     EXPECT_FALSE(*Main_Window(Sim).Item("mnuTraffic").Checked);
     Send(GGA, 17);
     EXPECT_EQ(Left.back().second, std::string(GGA) + "\r\n"); // the other listener still hears
-    Click(Main_Window(Sim).Item("mnuTraffic"));
+    Choose_Menu("mnuTraffic");
     EXPECT_EQ(F().hfgTraffic.Rows(), 0);
-    Click(Main_Window(Sim).Item("mnuTraffic")); // no second ear
+    Choose_Menu("mnuTraffic"); // no second ear
     Send(GGA, 17);
     EXPECT_EQ(F().hfgTraffic.Rows(), 1);
 }

@@ -9,13 +9,11 @@ constexpr const char* Saved_Box = "Setup saved as /data/Brinewright.ini";
 // Started in Sensor mode on a setup without windows.
 struct Menus : testing::Test, Virtual_Simulator {
     void SetUp() override {
-        Load_Default_Data(Setup, All_Windows());
-        Setup.Of<Shell_State>().Mode = "Sensor";
         Setup.Of<Link_State>().Comport_Count = 1;
         Start(Setup);
     }
     frmMain& Main() { return Main_Window(Sim); }
-    Simulator_State Setup;
+    Simulator_State Setup = Default_Setup();
 };
 
 TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
@@ -25,12 +23,12 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     const std::weak_ptr<Form> Old = Sim.Windows.Forms[2];
     ASSERT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
     EXPECT_FALSE(*Open_One<frmPosition>(Sim, 1)->lblShipControl.Visible);
-    Click(Main().Item("mnuMode", 2)); // checked already: nothing at all
+    Choose_Menu("mnuMode", 2); // checked already: nothing at all
     EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
 
     Open_One<frmPosition>(Sim, 1)->Set_Place(11, 12, 13, 14);
-    Click(Main().Item("mnuMode", 1));
+    Choose_Menu("mnuMode", 1);
     EXPECT_EQ(Shell().Mode, "Ship");
     EXPECT_TRUE(*Main().Item("mnuMode", 1).Checked);
     EXPECT_FALSE(*Main().Item("mnuMode", 2).Checked);
@@ -48,7 +46,7 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     // The list of kept windows is left as it is, also when it is full.
     Shell().Open_Form_Count = 20;
     Shell().Open_Form_List[20].Name = "the last";
-    Click(Main().Item("mnuMode", 2));
+    Choose_Menu("mnuMode", 2);
     EXPECT_EQ(Take_Boxes(), Texts{});
     EXPECT_EQ(Shell().Open_Form_Count, 20);
     EXPECT_EQ(Shell().Open_Form_List[20].Name, "the last");
@@ -63,13 +61,13 @@ TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
     Open_Form(1);
     Open_Form(2);
     for (int Save = 1; Save <= 10; ++Save) {
-        Click(Main().Item("mnuFileSave"));
+        Choose_Menu("mnuFileSave");
         EXPECT_EQ(Take_Boxes(), Texts{Saved_Box});
         EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_Count, 2 * Save);
         EXPECT_EQ(Shell().Open_Form_Count, 2 * Save);
     }
     const std::string Before = Disk.Content.at(Setup_Name);
-    Click(Main().Item("mnuFileSave"));
+    Choose_Menu("mnuFileSave");
     EXPECT_EQ(Take_Boxes(), Texts{"Subscript out of range"});
     EXPECT_EQ(Disk.Content.at(Setup_Name), Before);
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
@@ -78,7 +76,7 @@ TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
 TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
     Open_Form(2);
     for (int Save = 1; Save <= 2; ++Save) {
-        Click(Main().Item("mnuFileSaveAs"));
+        Choose_Menu("mnuFileSaveAs");
         ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
         const File_Dialog& Dialog = Sim.Windows.File_Dialogs[0];
         EXPECT_TRUE(Dialog.Save);
@@ -92,15 +90,15 @@ TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
         EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_List[1].Index, 2);
         EXPECT_EQ(Shell().Open_Form_Count, 0);
     }
-    Click(Main().Item("mnuFileSaveAs"));
+    Choose_Menu("mnuFileSaveAs");
     Answer_File("");
     EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_TRUE(Told.empty());
 
     Disk.Refuse_Writing = true;
-    Click(Main().Item("mnuFileSaveAs"));
+    Choose_Menu("mnuFileSaveAs");
     Answer_File("/tmp/mine.ini");
-    Click(Main().Item("mnuFileSave"));
+    Choose_Menu("mnuFileSave");
     EXPECT_EQ(Take_Boxes(), (Texts{"Disk full", "Disk full"}));
 }
 
@@ -108,7 +106,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Use({3, 10, 11, 17, 18});
     Open_Form(1);
     World.Log.clear();
-    Click(Main().Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
     EXPECT_FALSE(Sim.Windows.File_Dialogs[0].Save);
     EXPECT_EQ(Sim.Windows.File_Dialogs[0].Title, "Open Setup File");
@@ -119,7 +117,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
 
     // A file that is not there changes nothing.
-    Click(Main().Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Answer_File("/tmp/none.ini");
     EXPECT_EQ(Take_Boxes(), Texts{"File /tmp/none.ini do not exist."});
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
@@ -130,13 +128,11 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Other.Of<Shell_State>().Mode = "Ship";
     Other.Of<Link_State>().Comport_Count = 0;
     Other.Of<Link_State>().Sensor_Table[1].Name = "As in the file";
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {
-        "frmPosition", 2, 210, 220, 5230, 7240};
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmShip", 0, 1,
-                                                                                         2,         3, 4};
+    Add_Window(Other, {"frmPosition", 2, 210, 220, 5230, 7240});
+    Add_Window(Other, {"frmShip", 0, 1, 2, 3, 4});
     Disk.Content["/tmp/other.ini"] = Write_Setup(Other, All_Windows());
     const auto Before_us = Now_us();
-    Click(Main().Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Answer_File("/tmp/other.ini");
     EXPECT_EQ(Now_us(), Before_us); // no waits here
     EXPECT_EQ(World.Log, (Texts{"COM 3 close", "COM 10 close"}));

@@ -14,7 +14,7 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
     V.Use({2, 16, 17, 18, 28});
     V.Link().Port_Table[5].Enabled = true; // ticked, yet not there: it has its pane
     V.Link().Port_Table[6].Present = true;
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Choose_Menu("mnuMonitor");
     ASSERT_TRUE(Open_One<frmMonitor>(V.Sim));
     EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuMonitor").Checked);
     frmMonitor& F = *Open_One<frmMonitor>(V.Sim);
@@ -36,12 +36,12 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
 
     // A second choice gives it the focus; closing clears the check.
     V.Open_Form(1);
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Choose_Menu("mnuMonitor");
     EXPECT_EQ(V.Sim.Windows.Active_Form, &F);
     V.Close(F);
     EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuMonitor").Checked);
     V.Send("$M1", 2);
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Choose_Menu("mnuMonitor");
     EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[2].Text(), "");
     V.Send("$M2", 2);
     EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[2].Text(), Sentences({2}));
@@ -50,7 +50,7 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
 TEST(Monitor, A_Pane_Starts_Over_With_Every_Fourth_Sentence) {
     Virtual_Simulator V;
     V.Use({2, 18});
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Choose_Menu("mnuMonitor");
     frmMonitor& F = *Open_One<frmMonitor>(V.Sim);
     const auto Expect_After = [&](int Number, const std::string& Pane) {
         V.Send("$M" + std::to_string(Number), 18);
@@ -82,8 +82,8 @@ TEST(Monitor, The_NUL_Of_The_Header_Becomes_A_Blank) {
     Virtual_Simulator V;
     V.Use({18});
     V.Link().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuMonitor");
+    V.Choose_Menu("mnuExtendedMonitor");
     const std::string Framed("UdPbC\0\\s:A*11\\$M", 16);
     const auto Shown = [&](const std::string& Text) {
         V.Click(Open_One<frmMonitor>(V.Sim)->cmdClear[18]);
@@ -108,7 +108,7 @@ TEST(Monitor, A_Pane_That_No_Count_Empties_Stays_Bounded) {
     Virtual_Simulator V;
     V.Use({18});
     V.Link().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     V.Link().Extended_Monitor_Lines = 0;
     const std::string Long(5000, 'x');
     for (int I = 0; I < 100; ++I) V.Send(Long, 18);
@@ -120,7 +120,7 @@ TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     Virtual_Simulator V;
     V.Use({2, 17, 18, 28});
     V.Link().Port_Table[5].Enabled = true;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     frmExtendedMonitor* F = Open_One<frmExtendedMonitor>(V.Sim);
     EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuExtendedMonitor").Checked);
     EXPECT_EQ(F->Caption, "Extended Comport Monitor");
@@ -148,14 +148,14 @@ TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     V.Close(*F);
     EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuExtendedMonitor").Checked);
     V.Send("$M1", 28);
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     F = Open_One<frmExtendedMonitor>(V.Sim);
     EXPECT_EQ(F->cmbComPort.Text(), "UDP 60011 Port");
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     EXPECT_EQ(V.Sim.Windows.Active_Form, F);
     V.Close(*F);
     V.Link().Extended_Monitor_Port = 5;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     EXPECT_EQ(Open_One<frmExtendedMonitor>(V.Sim)->cmbComPort.Text(), "Select comport");
     EXPECT_EQ(V.Link().Extended_Monitor_Port, 5);
 }
@@ -164,7 +164,7 @@ TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
     Virtual_Simulator V;
     V.Use({2, 18});
     V.Link().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     frmExtendedMonitor& F = *Open_One<frmExtendedMonitor>(V.Sim);
     // A pane of 200 holds none, and every 200 more one; halves go to the even number. Beside the two panes
     // the window holds 1500.
@@ -204,7 +204,7 @@ TEST(Extended_Monitor, Received_Texts_Count_As_One_Line_Each) {
     Virtual_Simulator V;
     V.Use({18});
     V.Link().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     frmExtendedMonitor& F = *Open_One<frmExtendedMonitor>(V.Sim);
     V.Link().Extended_Monitor_Lines = 3;
     const auto Expect_After = [&](const std::string& Text, const std::string& Pane) {

@@ -29,8 +29,8 @@ TEST(Send_NMEA, Pause_Comes_Before_Everything_And_A_Standing_Box_Drops_As_Well) 
         EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[1].Text(), Pane);
     };
     V.Link().Transmit.Split_Remainder = "tail";
-    V.Click(Main_Window(V.Sim).Item("mnuOptionsFaultyChecksum"));
-    V.Click(Main_Window(V.Sim).Item("mnuOptionSplittedMsg"));
+    V.Choose_Menu("mnuOptionsFaultyChecksum");
+    V.Choose_Menu("mnuOptionSplittedMsg");
     V.Shell().Pause_Active = true;
     Expect_Nothing_Happens();
     EXPECT_EQ(V.Sim.Counts.Dropped_By_Box, 0u);
@@ -79,7 +79,7 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     Same_Draws.Seed(7);
     const std::string Sentence = "$GPHDT,123.4,T*3A";
 
-    V.Click(Main_Window(V.Sim).Item("mnuOptionCuttedMsg"));
+    V.Choose_Menu("mnuOptionCuttedMsg");
     for (int I = 0; I < 40; ++I)
         EXPECT_EQ(V.Send(Sentence, 18),
                   Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size())) + "\r\n");
@@ -87,8 +87,8 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     Same_Draws.Draw();
 
     // The checksum is spoilt first, then the cut, then the split of what the cut left; port 0 takes part.
-    V.Click(Main_Window(V.Sim).Item("mnuOptionSplittedMsg"));
-    V.Click(Main_Window(V.Sim).Item("mnuOptionsFaultyChecksum"));
+    V.Choose_Menu("mnuOptionSplittedMsg");
+    V.Choose_Menu("mnuOptionsFaultyChecksum");
     std::string Remainder;
     for (const int Port : {1, 18, 0, 17, 1, 0, 0, 18, 29, 17}) {
         std::string Text = Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size()));
@@ -99,8 +99,8 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     }
 
     // Without the cut nothing is lost: merged pieces are the sentences run together, checksums spoilt.
-    V.Click(Main_Window(V.Sim).Item("mnuOptionCuttedMsg"));
-    V.Click(Main_Window(V.Sim).Item("mnuOptionsCrLfDisabled"));
+    V.Choose_Menu("mnuOptionCuttedMsg");
+    V.Choose_Menu("mnuOptionsCrLfDisabled");
     std::string Whole = Remainder;
     std::string Pieces;
     for (int I = 0; I < 20; ++I) {

@@ -3,17 +3,6 @@
 namespace brinewright {
 namespace {
 
-Simulator_State Default_Setup(const std::string& Mode = "Sensor") {
-    Simulator_State S;
-    Load_Default_Data(S, All_Windows());
-    S.Of<Shell_State>().Mode = Mode;
-    return S;
-}
-
-void Add_Window(Simulator_State& S, const Open_Form_Entry& Entry) {
-    S.Of<Shell_State>().Open_Form_List[++S.Of<Shell_State>().Open_Form_Count] = Entry;
-}
-
 // GNSS 1 and 2 on UDP links, each with a GGA every second.
 Simulator_State Two_Windows() {
     Simulator_State S = Default_Setup();

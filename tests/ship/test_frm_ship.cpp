@@ -1,8 +1,6 @@
 // The ship window: opening, throttle, rate of turn, heading, noise, labels, freeze and pause.
 
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <cmath>
 #include <limits>
@@ -63,11 +61,11 @@ TEST(Frm_Ship, Has_One_Size_And_Keeps_Its_Place) {
     const double Lat = B.Nav().Nav_Lat;
     B.Run_s(10);
     EXPECT_EQ(B.Nav().Nav_Lat, Lat) << "only an open window moves the ship";
-    B.Click(Main_Window(B.Sim).Item("mnuShip"));
+    B.Choose_Menu("mnuShip");
     EXPECT_EQ(B.Ship().Left, 100);
     EXPECT_EQ(B.Ship().Top, 200);
     const frmShip* Same = Open_One<frmShip>(B.Sim);
-    B.Click(Main_Window(B.Sim).Item("mnuShip"));
+    B.Choose_Menu("mnuShip");
     EXPECT_EQ(Open_One<frmShip>(B.Sim), Same);
     B.Run_s(10);
     EXPECT_GT(B.Nav().Nav_Lat, Lat);

@@ -1,9 +1,7 @@
 // The current between ground and water, against the algebra of vectors.
 
 #include "ownship/ship/set_drift.hpp"
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <cmath>
 #include <numbers>

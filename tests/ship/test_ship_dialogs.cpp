@@ -1,8 +1,6 @@
 // "Set SOG/COG" and "Ship & Environment Setup".
 
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <string>
 
@@ -15,7 +13,7 @@ frmSetSOG& Open_Set_SOG(Ship_Bench& B) {
 }
 
 frmShipSetup& Open_Setup(Ship_Bench& B) {
-    B.Click(Main_Window(B.Sim).Item("mnuSetupShip"));
+    B.Choose_Menu("mnuSetupShip");
     return *Open_One<frmShipSetup>(B.Sim);
 }
 

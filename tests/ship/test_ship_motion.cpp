@@ -1,9 +1,7 @@
 // What the ship does in a second and in a day.
 
 #include "ownship/ship/ship_motion.hpp"
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <charconv>
 #include <cmath>
@@ -189,7 +187,7 @@ TEST(Ship_Motion, A_Frozen_Ship_Feeds_Its_Sensors_Once) {
     // While it is frozen no value of a sensor changes, whatever is done to the window.
     B.Place(B.Ship().sldThrottle, -10);
     B.Close(B.Ship());
-    B.Click(Main_Window(B.Sim).Item("mnuShip"));
+    B.Choose_Menu("mnuShip");
     B.Run_s(3);
     EXPECT_EQ(B.Log().Log_Speed[2], 20);
     B.Click(B.Ship().cmdFreeze);

@@ -1,8 +1,6 @@
 // Steering by keyboard and game controller.
 
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <limits>
 

@@ -10,6 +10,8 @@ struct Areas {
     auto& Shell() const { return Of<Shell_State>(); }
     auto& Link() const { return Of<Link_State>(); }
     auto& IEC450() const { return Of<IEC450_State>(); }
+    auto& Fault() const { return Of<Fault_State>(); }
+    auto& UTC() const { return Of<UTC_State>(); }
     auto& Nav() const { return Of<Navdata_State>(); }
     auto& GNSS() const { return Of<GNSS_State>(); }
     auto& Gyro() const { return Of<Gyro_State>(); }

@@ -29,7 +29,7 @@ struct Keyboard : testing::Test, Shown_Desktop {
 TEST_F(Keyboard, A_Refused_Talker_Takes_The_Focus_Back) {
     Hold_Boxes = true;
     View->Window_Of("frmPosition[1]")->activateWindow();
-    Click(Main_Window(Sim).Item("mnuOpenForm", 1));
+    Choose_Menu("mnuOpenForm", 1);
     Settle();
     auto& Talker = Shown_As<QLineEdit>(Window().txtTalker);
     auto& Latitude = Shown_As<QLineEdit>(Window().txtLat);
@@ -74,7 +74,7 @@ TEST_F(Keyboard, Enter_Takes_A_Text_Over_And_Stays) {
 }
 
 TEST_F(Keyboard, The_Arrow_Keys_Steer) {
-    Click(Main_Window(Sim).Item("mnuOpenForm", 1));
+    Choose_Menu("mnuOpenForm", 1);
     Settle();
     QTest::mouseClick(Widget_Of(Window().cmdArrows), Qt::LeftButton);
     Settle();
@@ -181,7 +181,7 @@ TEST(Ship_Window, Latches_And_Speed_Show_By_Colour_And_Text) {
 }
 
 TEST_F(Keyboard, Enter_Presses_OK_And_Escape_Cancel) {
-    const auto Open_Format = [&] { Click(Main_Window(Sim).Item("mnuSetupLatLonFormat")); };
+    const auto Open_Format = [&] { Choose_Menu("mnuSetupLatLonFormat"); };
     QWidget* Dialog = &Dialog_Of("frmGeoFormat", Open_Format);
     QTest::mouseClick(Widget_Of(*Open_One<frmGeoFormat>(Sim)->optFormat.Buttons[1]), Qt::LeftButton, {},
                       QPoint(6, 8));
@@ -199,7 +199,7 @@ TEST_F(Keyboard, Enter_Presses_OK_And_Escape_Cancel) {
     EXPECT_EQ(Shell().LatLon_Format, 1);
 
     // From within a text: what is typed is taken over before OK.
-    Dialog_Of("frmIEC61162", [&] { Click(Main_Window(Sim).Item("mnuOptionIEC450")); });
+    Dialog_Of("frmIEC61162", [&] { Choose_Menu("mnuOptionIEC450"); });
     auto& Source = Shown_As<QLineEdit>(Open_One<frmIEC61162>(Sim)->txtSourceId);
     Source.setFocus();
     Settle();
@@ -210,7 +210,7 @@ TEST_F(Keyboard, Enter_Presses_OK_And_Escape_Cancel) {
     Settle();
 
     // A button that has the focus is pressed by Enter itself.
-    Dialog_Of("frmIEC61162", [&] { Click(Main_Window(Sim).Item("mnuOptionIEC450")); });
+    Dialog_Of("frmIEC61162", [&] { Choose_Menu("mnuOptionIEC450"); });
     Open_One<frmIEC61162>(Sim)->txtSourceId.Set_Text("other");
     QWidget* Cancel = Widget_Of(Open_One<frmIEC61162>(Sim)->cmdCancel);
     Cancel->setFocus();
