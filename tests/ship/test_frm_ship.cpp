@@ -192,20 +192,5 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
     EXPECT_EQ(B.Left.size(), Sent + 1);
 }
 
-TEST(Frm_Ship, A_Freeze_Of_The_Last_Session_Is_Kept) {
-    Ship_Bench B([](Simulator_State& S) {
-        S.Of<Shell_State>().Freeze_Active = true;
-        S.Of<Navdata_State>().Nav_SOG = 20;
-    });
-    EXPECT_EQ(Shown(B.Ship().cmdFreeze), "continue");
-    EXPECT_TRUE(*B.Ship().lblFreeze.Visible);
-    const double Lat = B.Nav().Nav_Lat;
-    B.Run_s(10);
-    EXPECT_EQ(B.Nav().Nav_Lat, Lat);
-    B.Click(B.Ship().cmdFreeze);
-    B.Run_s(1);
-    EXPECT_GT(B.Nav().Nav_Lat, Lat);
-}
-
 } // namespace
 } // namespace brinewright

@@ -185,6 +185,8 @@ TEST(Ship_Motion, A_Frozen_Ship_Feeds_Its_Sensors_Once) {
     EXPECT_EQ(std::abs(B.GNSS().GNSS_Lon[1]), 180);
     EXPECT_EQ(B.Log().Log_Speed[2], 20);
     // While it is frozen no value of a sensor changes, whatever is done to the window.
+    EXPECT_EQ(Shown(B.Ship().cmdFreeze), "continue");
+    EXPECT_TRUE(*B.Ship().lblFreeze.Visible);
     B.Place(B.Ship().sldThrottle, -10);
     B.Close(B.Ship());
     B.Choose_Menu("mnuShip");

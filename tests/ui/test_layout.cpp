@@ -2,6 +2,7 @@
 
 #include "tests/ui/shown_desktop.hpp"
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
 #include <QStyle>
