@@ -42,25 +42,25 @@ struct Timed {
 };
 
 // One for each kind of composers.
-using Decimals = std::int16_t;
+using Places = std::int16_t;
 template <class R>
 std::string Run(Golden_Row& Row, std::string (*Compose)(const R&, bool)) {
     return Compose(Read_Record<R>(Row), No_Checksum(Row));
 }
 template <class R>
-std::string Run(Golden_Row& Row, std::string (*Compose)(const R&, Decimals, bool)) {
+std::string Run(Golden_Row& Row, std::string (*Compose)(const R&, Places, bool)) {
     return Compose(Read_Record<R>(Row), Number(Row, "Decimals"), No_Checksum(Row));
 }
 template <class R>
 std::string Run(Golden_Row& Row,
-                std::string (*Compose)(const Sentence_Time&, const R&, Decimals, std::int16_t, bool)) {
+                std::string (*Compose)(const Sentence_Time&, const R&, Places, std::int16_t, bool)) {
     const Timed T(Row);
     return Compose(T.Time, Read_Record<R>(Row), Number(Row, "Decimals_Time"), Number(Row, "Instance"),
                    No_Checksum(Row));
 }
 template <class R>
-std::string Run(Golden_Row& Row, std::string (*Compose)(const Sentence_Time&, const R&, Decimals, Decimals,
-                                                        std::int16_t, bool)) {
+std::string Run(Golden_Row& Row,
+                std::string (*Compose)(const Sentence_Time&, const R&, Places, Places, std::int16_t, bool)) {
     const Timed T(Row);
     return Compose(T.Time, Read_Record<R>(Row), Number(Row, "Decimals_Position"),
                    Number(Row, "Decimals_Time"), Number(Row, "Instance"), No_Checksum(Row));

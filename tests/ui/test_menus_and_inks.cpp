@@ -10,12 +10,16 @@ namespace brinewright {
 namespace {
 
 struct Menus_And_Inks : testing::Test, Shown_Desktop {
-    // Whether some pixel of what is painted has the colour; the letters have flat parts.
+    // Whether some pixel of what is painted has the colour, but for the smoothing of thin letters.
     static bool Is_Written_In(QWidget& W, const QColor& Wanted) {
         const QImage Picture = W.grab().toImage();
+        const auto Near = [](int A, int B) { return std::abs(A - B) <= 24; };
         for (int Y = 0; Y < Picture.height(); ++Y)
             for (int X = 0; X < Picture.width(); ++X)
-                if (Picture.pixelColor(X, Y).rgb() == Wanted.rgb()) return true;
+                if (const QColor C = Picture.pixelColor(X, Y); Near(C.red(), Wanted.red()) &&
+                                                               Near(C.green(), Wanted.green()) &&
+                                                               Near(C.blue(), Wanted.blue()))
+                    return true;
         return false;
     }
 };
