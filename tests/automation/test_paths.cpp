@@ -3,11 +3,9 @@
 #include "shell/state/shell_state.hpp"
 #include "tests/automation/automation_test.hpp"
 
-#include <cmath>
 #include <limits>
 
 namespace brinewright {
-namespace {
 
 using Paths = Automation_Test;
 
@@ -144,5 +142,4 @@ TEST_F(Paths, Are_Listed_So_That_Each_Can_Be_Read) {
     EXPECT_EQ(Error("list", {{"path", "state.TCP_Port"}}), -32000);
 }
 
-} // namespace
 } // namespace brinewright

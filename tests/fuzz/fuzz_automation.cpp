@@ -1,21 +1,12 @@
 #include "automation/script.hpp"
 #include "tests/automation/little_desktop.hpp"
+#include "tests/fuzz/require.hpp"
 
 #include <nlohmann/json.hpp>
-
-#include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
 
 using namespace brinewright;
 
 namespace {
-
-void Require(bool Holds) {
-    if (!Holds) std::abort();
-}
 
 void Check_Response(const nlohmann::json& Response) {
     Require(Response.value("jsonrpc", "") == "2.0");

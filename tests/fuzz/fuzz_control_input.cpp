@@ -6,21 +6,13 @@
 #include "links/setup_file/setup_file.hpp"
 #include "ownship/ship/control_input.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "shell/main/frm_main.hpp"
 #include "shell/main/window_table.hpp"
-#include "shell/state/link_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
+#include "tests/fuzz/require.hpp"
 #include "tests/support/played_platform.hpp"
 
-#include <algorithm>
-#include <cmath>
 #include <concepts>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <string_view>
 
 using namespace brinewright;
 
@@ -28,10 +20,6 @@ namespace {
 
 constexpr char Next_Part = 30;
 constexpr std::int64_t Sailing_us = 2'000'000;
-
-void Require(bool Holds) {
-    if (!Holds) std::abort();
-}
 
 struct Require_Finite {
     template <class T>

@@ -4,21 +4,9 @@
 #include "platform/run_time_error.hpp"
 #include "platform/scripted_joystick.hpp"
 #include "platform/virtual_platform.hpp"
-
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
+#include "tests/fuzz/require.hpp"
 
 using namespace brinewright;
-
-namespace {
-
-void Require(bool Holds) {
-    if (!Holds) std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
     std::vector<Joystick_Script_Line> Lines;

@@ -3,21 +3,13 @@
 
 #include "ownship/geodesy/format_position.hpp"
 #include "ownship/geodesy/parse_position.hpp"
+#include "tests/fuzz/require.hpp"
 
 #include <array>
-#include <cmath>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
 
 using namespace brinewright;
 
 namespace {
-
-void Require(bool Is_True) {
-    if (!Is_True) std::abort();
-}
 
 struct Reading {
     std::string Text;

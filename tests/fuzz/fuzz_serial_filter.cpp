@@ -2,10 +2,7 @@
 // comes out, and nothing may come out that did not come in.
 
 #include "platform_linux/serial_line_filter.hpp"
-
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
+#include "tests/fuzz/require.hpp"
 
 using namespace brinewright;
 
@@ -15,7 +12,7 @@ namespace {
 void Append(std::vector<Line_Item>& All, const std::vector<Line_Item>& More) {
     for (const Line_Item& Item : More) {
         const bool Data = Item.Event == Comm_Event::Receive;
-        if (Data == Item.Data.empty()) std::abort();
+        Require(!(Data == Item.Data.empty()));
         if (Data && !All.empty() && All.back().Event == Comm_Event::Receive) {
             All.back().Data += Item.Data;
         } else {
@@ -45,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Bytes, std::size_t Siz
     std::vector<Line_Item> Once, In_Pieces;
     Append(Once, Filter_Line(Whole, {}, Counts));
     Append(In_Pieces, Filter_Line(Cut, {}, Counts));
-    if (Once.size() > 2) std::abort(); // an overrun and an overflow, however often they were counted
+    Require(!(Once.size() > 2)); // an overrun and an overflow, however often they were counted
     const std::size_t Without_Mark = Once.size();
 
     Append(Once, Filter_Line(Whole, Line, {}));
@@ -56,12 +53,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Bytes, std::size_t Siz
         Append(In_Pieces, Filter_Line(Cut, Line.substr(At, Length), {}));
         At += Length;
     }
-    if (!Same(Once, In_Pieces) || Whole.At != Cut.At) std::abort();
+    Require(!(!Same(Once, In_Pieces) || Whole.At != Cut.At));
 
     std::size_t Came_Out = 0;
     for (std::size_t At = Without_Mark; At < Once.size(); ++At) {
         Came_Out += Once[At].Event == Comm_Event::Receive ? Once[At].Data.size() : 3;
     }
-    if (Came_Out > Line.size()) std::abort();
+    Require(!(Came_Out > Line.size()));
     return 0;
 }

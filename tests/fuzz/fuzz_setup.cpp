@@ -1,10 +1,7 @@
 #include "links/setup_file/setup_file.hpp"
 #include "platform/run_time_error.hpp"
 #include "shell/main/window_table.hpp"
-
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
+#include "tests/fuzz/require.hpp"
 
 using namespace brinewright;
 
@@ -27,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     Simulator_State State;
     Reads({reinterpret_cast<const char*>(Data), Size}, State);
     const std::string Saved = Write_Setup(State, All_Windows());
-    if (!Reads(Saved, State)) std::abort();
-    if (Write_Setup(State, All_Windows()) != Saved) std::abort();
+    Require(!(!Reads(Saved, State)));
+    Require(!(Write_Setup(State, All_Windows()) != Saved));
     return 0;
 }

@@ -1,14 +1,13 @@
 // Replays a corpus through a fuzz target without libFuzzer, so that every build tries all inputs that ever
 // mattered.
 
-#include <cstdint>
+#include "tests/fuzz/require.hpp"
+
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <vector>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size);
 
 int main(int Argument_Count, char** Arguments) {
     int Count = 0;

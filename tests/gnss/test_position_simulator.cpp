@@ -2,7 +2,6 @@
 
 #include "tests/support/sentence_bench.hpp"
 
-#include <cmath>
 #include <numbers>
 
 namespace brinewright {

@@ -2,12 +2,10 @@
 
 #include "tests/support/sentence_bench.hpp"
 
-#include <cmath>
 #include <limits>
 #include <sstream>
 
 namespace brinewright {
-namespace {
 
 TEST(GNSS_Sky, Starts_Inside_Its_Ranges) {
     Sentence_Bench Bench;
@@ -186,5 +184,4 @@ TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
     EXPECT_EQ(Bench.GNSS().Svs_In_View[3], 3) << "free by the other window's choice";
 }
 
-} // namespace
 } // namespace brinewright

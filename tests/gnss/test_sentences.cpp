@@ -3,7 +3,6 @@
 #include "tests/support/sentence_bench.hpp"
 
 #include <array>
-#include <cmath>
 #include <limits>
 
 namespace brinewright {

@@ -225,34 +225,26 @@ TEST(Control_Input, With_The_Ship_Window_Closed_Only_The_Speed_Is_Set) {
 }
 
 TEST(Control_Input, Sentences_Are_Taken_Apart_Field_By_Field) {
-    const VTG_Record Whole = Extract_VTG("$GPVTG,054.7,T,034.4,M,005.5,N,010.2,K,D*48\r\n");
-    EXPECT_EQ(Whole.COG_True, 54.7F);
-    EXPECT_EQ(Whole.COG_Magnetic, 34.4F);
-    EXPECT_EQ(Whole.SOG_Knots, 5.5F);
-    EXPECT_EQ(Whole.SOG_Kmh, 10.2F);
-    EXPECT_EQ(Whole.Mode, 'D');
-
-    const VTG_Record Empty = Extract_VTG("$GPVTG,,T,,M,,N,,K,*48");
-    EXPECT_EQ(Empty.COG_True, -9999.0F);
-    EXPECT_EQ(Empty.COG_Magnetic, -9999.0F);
-    EXPECT_EQ(Empty.SOG_Knots, -9999.0F);
-    EXPECT_EQ(Empty.SOG_Kmh, -9999.0F);
-    EXPECT_EQ(Empty.Mode, '\0');
-
-    // Without the mode, as older devices send it; cut; and with more fields than there should be.
-    const VTG_Record Old = Extract_VTG("$GPVTG,1,T,2,M,3,N,4,K*48");
-    EXPECT_EQ(Old.SOG_Kmh, 4.0F);
-    EXPECT_EQ(Old.Mode, '\0');
-    const VTG_Record Cut = Extract_VTG("$GPVTG,1,T,2,M*12");
-    EXPECT_EQ(Cut.COG_Magnetic, 2.0F);
-    EXPECT_EQ(Cut.SOG_Knots, 0.0F);
-    EXPECT_EQ(Extract_VTG("$GPVTG,1,T,2,M,3,N,4,K,A,B*48").Mode, 'A');
-    EXPECT_EQ(Extract_VTG("").SOG_Knots, 0.0F);
-
-    const ROT_Record Turn = Extract_ROT("$TIROT,-35.6,V*12");
-    EXPECT_EQ(Turn.Rate, -35.6F);
-    EXPECT_EQ(Turn.Status, 'V');
-    EXPECT_EQ(Extract_ROT("$TIROT,,V*12").Rate, -9999.0F);
+    constexpr float No = -9999; // an empty field; a missing one is 0
+    const struct {
+        const char* Text;
+        float COG_True, COG_Magnetic, SOG_Knots, SOG_Kmh;
+        char Mode;
+    } Rows[] = {{"$GPVTG,054.7,T,034.4,M,005.5,N,010.2,K,D*48\r\n", 54.7F, 34.4F, 5.5F, 10.2F, 'D'},
+                {"$GPVTG,,T,,M,,N,,K,*48", No, No, No, No, 0},
+                {"$GPVTG,1,T,2,M,3,N,4,K*48", 1, 2, 3, 4, 0}, // as older devices send it
+                {"$GPVTG,1,T,2,M*12", 1, 2, 0, 0, 0},
+                {"$GPVTG,1,T,2,M,3,N,4,K,A,B*48", 1, 2, 3, 4, 'A'},
+                {"", 0, 0, 0, 0, 0}};
+    for (const auto& R : Rows) {
+        const VTG_Record Is = Extract_VTG(R.Text);
+        EXPECT_EQ(std::tuple(Is.COG_True, Is.COG_Magnetic, Is.SOG_Knots, Is.SOG_Kmh, Is.Mode),
+                  std::tuple(R.COG_True, R.COG_Magnetic, R.SOG_Knots, R.SOG_Kmh, R.Mode))
+            << R.Text;
+    }
+    EXPECT_EQ(Extract_ROT("$TIROT,-35.6,V*12").Rate, -35.6F);
+    EXPECT_EQ(Extract_ROT("$TIROT,-35.6,V*12").Status, 'V');
+    EXPECT_EQ(Extract_ROT("$TIROT,,V*12").Rate, No);
     EXPECT_EQ(Extract_ROT("$TIROT*12").Rate, 0.0F);
 }
 

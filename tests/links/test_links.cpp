@@ -9,37 +9,36 @@ namespace {
 
 TEST(Serial_Ports, Are_Brought_To_The_State_Of_The_Table) {
     Virtual_Simulator V;
-    Simulator_State& S = V.Sim.State;
-    S.Of<Link_State>().Port_Table[1] = {true, true, 4800, 8, "none", 1};
-    S.Of<Link_State>().Port_Table[2] = {true, true, 38400, 7, "even", 2};
-    S.Of<Link_State>().Port_Table[3] = {true, true, 115200, 8, "odd", 1};
-    S.Of<Link_State>().Port_Table[4] = {true, false, 4800, 8, "none", 1};
-    S.Of<Link_State>().Port_Table[16] = {false, true, 4800, 8, "none", 1};
-    for (int Slot = 1; Slot <= 11; ++Slot) S.Of<Link_State>().Sensor_Table[Slot].Port = 3;
+    V.Link().Port_Table[1] = {true, true, 4800, 8, "none", 1};
+    V.Link().Port_Table[2] = {true, true, 38400, 7, "even", 2};
+    V.Link().Port_Table[3] = {true, true, 115200, 8, "odd", 1};
+    V.Link().Port_Table[4] = {true, false, 4800, 8, "none", 1};
+    V.Link().Port_Table[16] = {false, true, 4800, 8, "none", 1};
+    for (int Slot = 1; Slot <= 11; ++Slot) V.Link().Sensor_Table[Slot].Port = 3;
     V.Init(4);
     EXPECT_EQ(V.World.Log,
               (Texts{"COM 1 open 4800,n,8,1", "COM 2 open 38400,e,7,2", "COM 3 open 115200,o,8,1"}));
-    EXPECT_EQ(S.Of<Link_State>().Comport_Count, 4);
-    EXPECT_TRUE(S.Of<Link_State>().Ports_Initialised);
+    EXPECT_EQ(V.Link().Comport_Count, 4);
+    EXPECT_TRUE(V.Link().Ports_Initialised);
     auto& Panels = Main_Window(V.Sim).sbStatusBar;
     EXPECT_EQ(*Panels[1].Caption, "COM 1");
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port <= 3) << Port;
 
     // Again: open ports are closed first. A port that is not used any more loses its panel and its sensors,
     // but for slots 9 to 11; those of other ports stay.
-    S.Of<Link_State>().Port_Table[3].Enabled = false;
-    S.Of<Link_State>().Port_Table[1].Present = false;
-    S.Of<Link_State>().Sensor_Table[2].Port = 2;
+    V.Link().Port_Table[3].Enabled = false;
+    V.Link().Port_Table[1].Present = false;
+    V.Link().Sensor_Table[2].Port = 2;
     V.World.Log.clear();
     V.Init(4);
     EXPECT_EQ(V.World.Log, (Texts{"COM 1 close", "COM 2 close", "COM 2 open 38400,e,7,2", "COM 3 close"}));
     for (int Slot = 1; Slot <= 11; ++Slot)
-        EXPECT_EQ(S.Of<Link_State>().Sensor_Table[Slot].Port, Slot == 2 ? 2 : Slot <= 8 ? 0 : 3);
+        EXPECT_EQ(V.Link().Sensor_Table[Slot].Port, Slot == 2 ? 2 : Slot <= 8 ? 0 : 3);
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port == 2) << Port;
 
-    S.Of<Link_State>().Port_Table[2].Enabled = false;
+    V.Link().Port_Table[2].Enabled = false;
     V.Init(0);
-    EXPECT_EQ(S.Of<Link_State>().Comport_Count, 0);
+    EXPECT_EQ(V.Link().Comport_Count, 0);
     EXPECT_EQ(*Panels[1].Caption, "No comports enabled");
     for (int Port = 1; Port <= 16; ++Port) EXPECT_EQ(*Panels[Port].Visible, Port == 1) << Port;
     EXPECT_TRUE(V.Told.empty());

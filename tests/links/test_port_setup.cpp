@@ -3,8 +3,6 @@
 #include "extra/extra_state.hpp"
 #include "links/port_setup/frm_setup.hpp"
 #include "links/port_setup/port_detection.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -78,7 +76,7 @@ TEST_F(Port_Setup, Detection_Lets_The_Event_Loop_Run_And_Shows_How_Far_It_Is) {
     EXPECT_EQ(*Open_One<frmProgress>(Sim)->lblPercent.Caption, "0 %");
     EXPECT_EQ(World.Log, Texts{}); // none tried yet
     const auto Tick = [&] { return Sim.Timers.Fire_One(); };
-    std::vector<std::string> Percents;
+    Texts Percents;
     for (int Port = 1; Port <= 15; ++Port) {
         World.Machine_Clock.Advance_To(Now_us() + 100'000);
         ASSERT_TRUE(Tick());

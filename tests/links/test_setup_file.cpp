@@ -1,6 +1,5 @@
 #include "tests/links/test_setup_file_support.hpp"
 
-#include <cmath>
 #include <limits>
 #include <set>
 

@@ -7,7 +7,6 @@
 #include <limits>
 
 namespace brinewright {
-namespace {
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double Not_A_Number = std::numeric_limits<double>::quiet_NaN();
@@ -100,5 +99,4 @@ TEST(Angles, Mod_Float_Rounds_For_The_Division_Only) {
     EXPECT_EQ(Mod_Float(3, 0.5F), 0) << "a divisor that rounds to 0";
 }
 
-} // namespace
 } // namespace brinewright

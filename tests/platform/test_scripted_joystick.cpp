@@ -9,7 +9,6 @@
 #include <vector>
 
 namespace brinewright {
-namespace {
 
 TEST(Scripted_Joystick_, Holds_The_Last_Line_That_Is_Due) {
     Virtual_Clock Time;
@@ -80,5 +79,4 @@ TEST(Scripted_Joystick_, A_Wrong_Line_Is_Named) {
     }
 }
 
-} // namespace
 } // namespace brinewright

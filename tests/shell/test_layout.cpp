@@ -3,8 +3,6 @@
 #include "shell/kit/layout.hpp"
 #include "tests/support/all_windows.hpp"
 
-#include <map>
-
 namespace brinewright {
 namespace {
 

@@ -7,7 +7,6 @@
 #include "tests/support/state_leaves.hpp"
 
 #include <charconv>
-#include <map>
 #include <set>
 
 namespace brinewright {
@@ -240,8 +239,8 @@ struct Windows : Every_Window, testing::TestWithParam<Case> {
         default: return;
         }
     }
-    std::vector<std::string> Paths() {
-        std::vector<std::string> All;
+    Texts Paths() {
+        Texts All;
         for (const Control* C : Its_Window()->Controls) All.push_back(C->Path());
         return All;
     }
@@ -269,7 +268,7 @@ TEST_P(Windows, Consist_Of_Their_Controls_And_Act_On_Them) {
     if (!F) return;
     Write_Inventory(*F);
     if (Class.Name == std::string("frmProgress")) return Check("use");
-    const std::vector<std::string> All = Paths();
+    const Texts All = Paths();
     for (const std::string& Path : All) Operate(Path);
     // Once more with all boxes ticked: what one control does may hang on another.
     Out += "-- with all boxes ticked\n";

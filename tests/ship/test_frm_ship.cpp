@@ -2,12 +2,10 @@
 
 #include "tests/ship/ship_bench.hpp"
 
-#include <cmath>
 #include <limits>
 #include <random>
 
 namespace brinewright {
-namespace {
 
 TEST(Frm_Ship, Opening_Brings_Speed_And_Rate_Of_Turn_Within_Their_Limits) {
     for (const float Sign : {1.0F, -1.0F}) {
@@ -162,14 +160,13 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
     B.Click(W.cmdFreeze);
     EXPECT_EQ(Shown(W.cmdFreeze), "continue");
     EXPECT_TRUE(*W.lblFreeze.Visible);
-    const Simulator_State& S = B.State();
-    const double Lat = S.Of<Navdata_State>().Nav_Lat, Heading_deg = S.Of<Navdata_State>().Nav_HDG;
-    const float SOG_kn = S.Of<GNSS_State>().GNSS_SOG[1];
+    const double Lat = B.Nav().Nav_Lat, Heading_deg = B.Nav().Nav_HDG;
+    const float SOG_kn = B.GNSS().GNSS_SOG[1];
     const std::string Label = Shown(W.lblSOG), Position = Shown(W.lblLat[0]);
     B.Run_s(100);
-    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, Lat);
-    EXPECT_EQ(S.Of<Navdata_State>().Nav_HDG, Heading_deg);
-    EXPECT_EQ(S.Of<GNSS_State>().GNSS_SOG[1], SOG_kn);
+    EXPECT_EQ(B.Nav().Nav_Lat, Lat);
+    EXPECT_EQ(B.Nav().Nav_HDG, Heading_deg);
+    EXPECT_EQ(B.GNSS().GNSS_SOG[1], SOG_kn);
     EXPECT_EQ(Shown(W.lblSOG), Label);
     EXPECT_EQ(Shown(W.lblLat[0]), Position);
     EXPECT_EQ(B.Send("$A", 18), "$A\r\n") << "sentences go on";
@@ -184,7 +181,7 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
     B.Send("$B", 18);
     EXPECT_EQ(B.Left.size(), Sent);
     B.Run_s(1);
-    EXPECT_NE(S.Of<Navdata_State>().Nav_Lat, Lat) << "the ship goes on";
+    EXPECT_NE(B.Nav().Nav_Lat, Lat) << "the ship goes on";
     B.Click(W.cmdPause);
     EXPECT_EQ(Shown(W.cmdPause), "TX PAUSE");
     EXPECT_FALSE(*W.lblPause.Visible);
@@ -192,5 +189,4 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
     EXPECT_EQ(B.Left.size(), Sent + 1);
 }
 
-} // namespace
 } // namespace brinewright

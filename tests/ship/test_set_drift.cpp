@@ -3,7 +3,6 @@
 #include "ownship/ship/set_drift.hpp"
 #include "tests/ship/ship_bench.hpp"
 
-#include <cmath>
 #include <numbers>
 
 namespace brinewright {

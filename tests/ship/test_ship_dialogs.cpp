@@ -2,8 +2,6 @@
 
 #include "tests/ship/ship_bench.hpp"
 
-#include <string>
-
 namespace brinewright {
 namespace {
 
@@ -96,31 +94,30 @@ TEST(Ship_Setup, Apply_Takes_All_And_Moves_The_Ship_Only_For_A_New_Start) {
     EXPECT_EQ(F.txtGyroOffset[1].Text(), "000.0 deg");
     Type(B, F.txtStartLat, F.txtStartLat.Text()); // the same
     B.Click(F.cmdApply);
-    const Simulator_State& S = B.State();
-    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, Lat);
-    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Ahead, 25);
-    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Astern, 12);
-    EXPECT_EQ(S.Of<Navdata_State>().Max_Rudder, 60);
-    EXPECT_EQ(S.Of<Navdata_State>().Magnetic_Variation, -10);
-    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Hours, -210);
-    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Minutes, 30);
-    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Hours, 345);
-    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Minutes, 45);
-    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds, 59);
-    EXPECT_TRUE(S.Of<UTC_State>().Use_UTC);
-    EXPECT_EQ(S.Of<Navdata_State>().Lat_Offset, 12.3);
-    EXPECT_EQ(S.Of<Navdata_State>().Lon_Offset, -7.5);
-    EXPECT_EQ(S.Of<Gyro_State>().Gyro_Offset[1], 360);
-    EXPECT_EQ(S.Of<Log_State>().Log_Offset[1], -1.3F);
-    EXPECT_EQ(S.Of<Log_State>().Log_Offset[2], 2);
+    EXPECT_EQ(B.Nav().Nav_Lat, Lat);
+    EXPECT_EQ(B.Nav().Max_Speed_Ahead, 25);
+    EXPECT_EQ(B.Nav().Max_Speed_Astern, 12);
+    EXPECT_EQ(B.Nav().Max_Rudder, 60);
+    EXPECT_EQ(B.Nav().Magnetic_Variation, -10);
+    EXPECT_EQ(B.UTC().UTC_Offset_Hours, -210);
+    EXPECT_EQ(B.UTC().UTC_Offset_Minutes, 30);
+    EXPECT_EQ(B.UTC().GNSS2_UTC_Offset_Hours, 345);
+    EXPECT_EQ(B.UTC().GNSS2_UTC_Offset_Minutes, 45);
+    EXPECT_EQ(B.UTC().GNSS2_UTC_Offset_Seconds, 59);
+    EXPECT_TRUE(B.UTC().Use_UTC);
+    EXPECT_EQ(B.Nav().Lat_Offset, 12.3);
+    EXPECT_EQ(B.Nav().Lon_Offset, -7.5);
+    EXPECT_EQ(B.Gyro().Gyro_Offset[1], 360);
+    EXPECT_EQ(B.Log().Log_Offset[1], -1.3F);
+    EXPECT_EQ(B.Log().Log_Offset[2], 2);
     Type(B, F.txtStartLat, "10 30 S");
     EXPECT_EQ(F.txtStartLat.Text(), "10\xB0 30.0000' S");
     Type(B, F.txtStartLon, "170 15.5 W");
-    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, Lat) << "not before Apply";
+    EXPECT_EQ(B.Nav().Nav_Lat, Lat) << "not before Apply";
     B.Click(F.cmdOK);
-    EXPECT_EQ(S.Of<Navdata_State>().Start_Lat, -10.5);
-    EXPECT_EQ(S.Of<Navdata_State>().Nav_Lat, -10.5);
-    EXPECT_NEAR(S.Of<Navdata_State>().Nav_Lon, -170.258333333, 1e-9);
+    EXPECT_EQ(B.Nav().Start_Lat, -10.5);
+    EXPECT_EQ(B.Nav().Nav_Lat, -10.5);
+    EXPECT_NEAR(B.Nav().Nav_Lon, -170.258333333, 1e-9);
     EXPECT_EQ(Open_One<frmShipSetup>(B.Sim), nullptr);
     EXPECT_EQ(B.Take_Boxes(), Texts{});
 }
@@ -172,15 +169,14 @@ TEST(Ship_Setup, Stored_Values_Beyond_The_Lists) {
         EXPECT_EQ(List->List_Index(), -1) << List->Path();
     B.Set(F.cmbUTCOffsetHours[1], std::string("+13"));
     B.Click(F.cmdApply);
-    const Simulator_State& S = B.State();
-    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Ahead, 1e30F);
-    EXPECT_EQ(S.Of<Navdata_State>().Max_Speed_Astern, -4);
-    EXPECT_EQ(S.Of<Navdata_State>().Max_Rudder, 720);
-    EXPECT_EQ(S.Of<Navdata_State>().Magnetic_Variation, 25);
-    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Hours, -32768);
-    EXPECT_EQ(S.Of<UTC_State>().UTC_Offset_Minutes, -1);
-    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds, 32767);
-    EXPECT_EQ(S.Of<UTC_State>().GNSS2_UTC_Offset_Hours, 32767) << "held within its 16 bits";
+    EXPECT_EQ(B.Nav().Max_Speed_Ahead, 1e30F);
+    EXPECT_EQ(B.Nav().Max_Speed_Astern, -4);
+    EXPECT_EQ(B.Nav().Max_Rudder, 720);
+    EXPECT_EQ(B.Nav().Magnetic_Variation, 25);
+    EXPECT_EQ(B.UTC().UTC_Offset_Hours, -32768);
+    EXPECT_EQ(B.UTC().UTC_Offset_Minutes, -1);
+    EXPECT_EQ(B.UTC().GNSS2_UTC_Offset_Seconds, 32767);
+    EXPECT_EQ(B.UTC().GNSS2_UTC_Offset_Hours, 32767) << "held within its 16 bits";
     EXPECT_EQ(B.Take_Boxes(), Texts{});
 }
 

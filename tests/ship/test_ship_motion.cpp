@@ -4,11 +4,8 @@
 #include "tests/ship/ship_bench.hpp"
 
 #include <charconv>
-#include <cmath>
 #include <fstream>
 #include <limits>
-#include <string>
-#include <vector>
 
 namespace brinewright {
 namespace {
@@ -33,14 +30,13 @@ float Single(double Value) { return static_cast<float>(Value); }
 
 // A row of the golden file sailed by hand on the window.
 void Sail(Ship_Bench& B, const std::vector<double>& Row) {
-    Simulator_State& S = B.State();
-    S.Of<Navdata_State>().Nav_Lat = Row[0];
-    S.Of<Navdata_State>().Nav_Lon = Row[1];
-    S.Of<Navdata_State>().Nav_HDG = Row[2];
-    S.Of<Gyro_State>().Gyro_Offset[1] = Single(Row[11]);
-    S.Of<Log_State>().Log_Offset[1] = Single(Row[12]);
-    S.Of<Navdata_State>().Lat_Offset = Row[13];
-    S.Of<Navdata_State>().Lon_Offset = Row[14];
+    B.Nav().Nav_Lat = Row[0];
+    B.Nav().Nav_Lon = Row[1];
+    B.Nav().Nav_HDG = Row[2];
+    B.Gyro().Gyro_Offset[1] = Single(Row[11]);
+    B.Log().Log_Offset[1] = Single(Row[12]);
+    B.Nav().Lat_Offset = Row[13];
+    B.Nav().Lon_Offset = Row[14];
     B.Place(B.Ship().sldThrottle, static_cast<int>(Row[3]));
     B.Place(B.Ship().sldRudder, static_cast<int>(Row[4]));
     B.Set(B.Ship().cmbSOGNoise, static_cast<std::int64_t>(Row[8]));
@@ -59,28 +55,25 @@ TEST(Ship_Motion, Voyages_Agree_With_An_Independent_Computation) {
             S.Of<Navdata_State>().Max_Rudder = Single(Row[7]);
         });
         Sail(B, Row);
-        const Simulator_State& S = B.State();
         const std::string Which = "from " + std::to_string(Row[0]) + ", throttle " + std::to_string(Row[3]) +
                                   ", rate " + std::to_string(Row[4]);
-        EXPECT_NEAR(S.Of<Navdata_State>().Nav_Lat, Row[15], 1e-9) << Which;
-        EXPECT_LT(Apart_deg(S.Of<Navdata_State>().Nav_Lon, Row[16]), 1e-8) << Which;
-        EXPECT_LT(Apart_deg(S.Of<Navdata_State>().Nav_HDG, Row[17]), 1e-8) << Which;
-        EXPECT_LT(Apart_deg(S.Of<Navdata_State>().Nav_COG, Row[18]), 1e-8) << Which;
-        EXPECT_NEAR(S.Of<GNSS_State>().GNSS_SOG[1], Row[19], 1e-6) << Which;
-        EXPECT_NEAR(S.Of<Gyro_State>().Gyro_ROT[1], Row[20], 1e-4) << Which;
-        EXPECT_NEAR(S.Of<GNSS_State>().GNSS_Lat[2], Row[21], 1e-9) << Which;
-        EXPECT_LT(Apart_deg(S.Of<GNSS_State>().GNSS_Lon[2], Row[22]), 1e-8) << Which;
-        EXPECT_LT(Apart_deg(S.Of<Gyro_State>().Gyro_HDG[1], Row[23]), 1e-4) << Which;
-        EXPECT_NEAR(S.Of<Log_State>().Log_Speed[1], Row[24], 1e-5) << Which;
-        EXPECT_LT(Apart_deg(S.Of<Navdata_State>().Current_Set, Row[25]), 1e-3) << Which;
-        EXPECT_NEAR(S.Of<Navdata_State>().Current_Drift, Row[26], 1e-4) << Which;
-        EXPECT_EQ(S.Of<GNSS_State>().GNSS_Lat[1], S.Of<Navdata_State>().Nav_Lat);
-        EXPECT_EQ(S.Of<GNSS_State>().GNSS_Lon[1], S.Of<Navdata_State>().Nav_Lon);
-        EXPECT_EQ(S.Of<GNSS_State>().GNSS_COG[2], Single(S.Of<Navdata_State>().Nav_COG));
-        EXPECT_EQ(S.Of<Gyro_State>().Gyro_HDG[2], Single(S.Of<Navdata_State>().Nav_HDG))
-            << "gyro 2 has no offset";
-        EXPECT_EQ(S.Of<Log_State>().Log_Speed[2], S.Of<Navdata_State>().Nav_SOG)
-            << "log 2 has none either, and no noise";
+        EXPECT_NEAR(B.Nav().Nav_Lat, Row[15], 1e-9) << Which;
+        EXPECT_LT(Apart_deg(B.Nav().Nav_Lon, Row[16]), 1e-8) << Which;
+        EXPECT_LT(Apart_deg(B.Nav().Nav_HDG, Row[17]), 1e-8) << Which;
+        EXPECT_LT(Apart_deg(B.Nav().Nav_COG, Row[18]), 1e-8) << Which;
+        EXPECT_NEAR(B.GNSS().GNSS_SOG[1], Row[19], 1e-6) << Which;
+        EXPECT_NEAR(B.Gyro().Gyro_ROT[1], Row[20], 1e-4) << Which;
+        EXPECT_NEAR(B.GNSS().GNSS_Lat[2], Row[21], 1e-9) << Which;
+        EXPECT_LT(Apart_deg(B.GNSS().GNSS_Lon[2], Row[22]), 1e-8) << Which;
+        EXPECT_LT(Apart_deg(B.Gyro().Gyro_HDG[1], Row[23]), 1e-4) << Which;
+        EXPECT_NEAR(B.Log().Log_Speed[1], Row[24], 1e-5) << Which;
+        EXPECT_LT(Apart_deg(B.Nav().Current_Set, Row[25]), 1e-3) << Which;
+        EXPECT_NEAR(B.Nav().Current_Drift, Row[26], 1e-4) << Which;
+        EXPECT_EQ(B.GNSS().GNSS_Lat[1], B.Nav().Nav_Lat);
+        EXPECT_EQ(B.GNSS().GNSS_Lon[1], B.Nav().Nav_Lon);
+        EXPECT_EQ(B.GNSS().GNSS_COG[2], Single(B.Nav().Nav_COG));
+        EXPECT_EQ(B.Gyro().Gyro_HDG[2], Single(B.Nav().Nav_HDG)) << "gyro 2 has no offset";
+        EXPECT_EQ(B.Log().Log_Speed[2], B.Nav().Nav_SOG) << "log 2 has none either, and no noise";
     }
 }
 

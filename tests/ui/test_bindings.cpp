@@ -1,6 +1,7 @@
 // Every control of every window has one widget of its kind, which shows what the control holds and hands on
 // what the user does.
 
+#include "tests/ui/heard.hpp"
 #include "tests/ui/shown_desktop.hpp"
 #include "ui/layout/layout_builder.hpp"
 
@@ -8,49 +9,6 @@
 
 namespace brinewright {
 namespace {
-
-// How often handlers ran, and what they were told. The handlers of the program are out of the way meanwhile,
-// so that every control can be operated whatever it would do.
-struct Heard {
-    int Clicks = 0, Changes = 0, Entered = 0, Left = 0, Rows = 0;
-    Mouse_Button Button_Down = Mouse_Button::Left;
-};
-
-void Listen(Control& C, Heard& H) {
-    const Handler Clicked = [&H] { ++H.Clicks; }, Changed = [&H] { ++H.Changes; };
-    switch (C.Kind) {
-    case Control_Kind::Button: static_cast<Button&>(C).Click = Clicked; break;
-    case Control_Kind::Check_Box: static_cast<Check_Box&>(C).Click = Clicked; break;
-    case Control_Kind::Combo_Box: {
-        auto& List = static_cast<Combo_Box&>(C);
-        List.Click = Clicked;
-        List.Change = Changed;
-        List.Lost_Focus = [&H] { ++H.Left; };
-        break;
-    }
-    case Control_Kind::Text_Box: {
-        auto& Box = static_cast<Text_Box&>(C);
-        Box.Change = Changed;
-        Box.Got_Focus = [&H] { ++H.Entered; };
-        Box.Lost_Focus = [&H] { ++H.Left; };
-        break;
-    }
-    case Control_Kind::Scroll_Bar: static_cast<Scroll_Bar&>(C).Change = Changed; break;
-    case Control_Kind::Option_Button:
-        static_cast<Option_Button&>(C).Group.Click = [&H](int) { ++H.Clicks; };
-        break;
-    case Control_Kind::Label:
-        static_cast<Label&>(C).Mouse_Down = [&H](Mouse_Button B) {
-            ++H.Clicks;
-            H.Button_Down = B;
-        };
-        break;
-    case Control_Kind::Grid: static_cast<Grid&>(C).Row_Chosen = [&H] { ++H.Rows; }; break;
-    case Control_Kind::Frame:
-    case Control_Kind::Menu_Item:
-    case Control_Kind::Timer: break;
-    }
-}
 
 // Puts back what a check has changed.
 struct Put_Back {
@@ -119,8 +77,7 @@ struct Bindings : testing::Test, Shown_Desktop {
             EXPECT_EQ(W.currentIndex(), Index);
             EXPECT_EQ(W.currentText(), To_Screen(C.Text()));
         }
-        for (std::size_t I = 0; I < C.Items().size(); ++I)
-            EXPECT_EQ(W.itemText(static_cast<int>(I)), To_Screen(C.Items()[I].Text));
+        for (int I = 0; const auto& Item : C.Items()) EXPECT_EQ(W.itemText(I++), To_Screen(Item.Text));
         EXPECT_EQ(H.Clicks, 2) << "by code alone";
         QTest::keyClick(&W, Qt::Key_Down);
         EXPECT_EQ(C.List_Index(), 1);
@@ -139,6 +96,7 @@ struct Bindings : testing::Test, Shown_Desktop {
     }
     void Check(Text_Box& C, QWidget& W) {
         auto* Line = qobject_cast<QLineEdit*>(&W);
+        ASSERT_TRUE(Line || qobject_cast<QPlainTextEdit*>(&W));
         const auto Shown = [&] {
             return Line ? Line->text() : static_cast<QPlainTextEdit&>(W).toPlainText();
         };
@@ -244,18 +202,13 @@ struct Bindings : testing::Test, Shown_Desktop {
         Check_Common(C, W);
         Check(static_cast<Of_Model&>(C), *Right);
     }
-    void Check_Text_Box(Visible_Control& C, QWidget& W) {
-        EXPECT_TRUE(qobject_cast<QLineEdit*>(&W) || qobject_cast<QPlainTextEdit*>(&W));
-        Check_As<Text_Box, QWidget>(C, W);
-    }
-
     void Check_Control(Control& C) {
         using Check_Kind = void (Bindings::*)(Visible_Control&, QWidget&);
         static const std::map<Control_Kind, Check_Kind> Kinds{
             {Control_Kind::Button, &Bindings::Check_As<Button, QPushButton>},
             {Control_Kind::Check_Box, &Bindings::Check_As<Check_Box, QCheckBox>},
             {Control_Kind::Combo_Box, &Bindings::Check_As<Combo_Box, QComboBox>},
-            {Control_Kind::Text_Box, &Bindings::Check_Text_Box},
+            {Control_Kind::Text_Box, &Bindings::Check_As<Text_Box, QWidget>},
             {Control_Kind::Scroll_Bar, &Bindings::Check_As<Scroll_Bar, QSlider>},
             {Control_Kind::Option_Button, &Bindings::Check_As<Option_Button, QRadioButton>},
             {Control_Kind::Label, &Bindings::Check_As<Label, QLabel>},
@@ -307,12 +260,8 @@ TEST_F(Bindings, Every_Control_Of_Every_Window_Has_A_Widget_Bound_Both_Ways) {
 TEST_F(Bindings, The_Windows_Of_Ship_Mode_Are_Bound_As_Well) {
     Open(Full_Setup("Ship"));
     Open_Every_Window();
-    for (Form* F :
-         {static_cast<Form*>(Open_One<frmShip>(Sim)), static_cast<Form*>(Open_One<frmShipSetup>(Sim)),
-          static_cast<Form*>(Open_One<frmSetSOG>(Sim))}) {
-        ASSERT_TRUE(F);
-        EXPECT_GE(Check_Window(*F), 8U);
-    }
+    for (const char* Name : {"frmShip", "frmShipSetup", "frmSetSOG"})
+        EXPECT_GE(Check_Window(*Sim.Windows.Find_Form(Name)), 8U);
 }
 
 } // namespace

@@ -108,7 +108,7 @@ TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
 
 TEST_F(Boxes_And_Ends, The_Title_Button_Of_A_Child_Window_Unloads_Its_Form) {
     Open_Every_Window();
-    std::vector<std::string> Paths;
+    Texts Paths;
     for (const auto& F : Sim.Windows.Forms)
         if (F != Sim.Main) Paths.push_back(F->Path());
     for (const std::string& Path : Paths) {

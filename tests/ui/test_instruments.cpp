@@ -11,7 +11,6 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 
-#include <cmath>
 #include <cstdlib>
 #include <numbers>
 
