@@ -133,7 +133,6 @@ struct Text_Box : Visible_Control {
     Handler Got_Focus;
     Handler Lost_Focus;
     std::function<bool(int Key_Code)> Key_Down; // true = the key is used up
-    Handler Enter;                              // what the key does beside taking the text over
     bool Read_Only = false;
     Property<std::uint32_t> Select_All_Count{*this, 0}; // grows each time the whole text is to be selected
 

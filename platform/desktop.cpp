@@ -121,8 +121,7 @@ void Desktop::User_Key(Form& Window, int Key_Code, Key_Modifiers Held) {
     if (!Focus || &Focus->Owner != &Window) return;
     if (Focus->Kind == Control_Kind::Text_Box) {
         const auto& Box = static_cast<Text_Box&>(*Focus);
-        if (Box.Key_Down && Box.Key_Down(Key_Code)) return;
-        if (Key_Code == key::Enter && Box.Enter) Box.Enter();
+        if (Box.Key_Down) Box.Key_Down(Key_Code);
     }
 }
 

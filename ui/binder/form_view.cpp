@@ -7,6 +7,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -153,7 +154,7 @@ QLineEdit* Form_View::Make(Text_Box& C) {
         Act([&C](Desktop& D) {
             if (D.Focus == &C) D.Set_Focus(nullptr);
             if (D.Usable(C) && !D.Focus) D.User_Focus(C);
-            if (C.Enter) C.Enter();
+            D.User_Key(C.Owner, key::Enter);
         });
     });
     return W;
@@ -208,12 +209,15 @@ QLabel* Form_View::Make(Label& C, const char* Role) {
     auto* W = new QLabel(this);
     W->setTextFormat(Qt::PlainText);
     W->setProperty("role", QString::fromLatin1(Role));
-    Bind(C, W, [this, &C, W] {
+    Bind(C, W, [&C, W] {
         W->setText(To_Screen(*C.Caption));
-        QPalette P;
-        if (*C.Fore_Colour == Ink::Red) P.setColor(QPalette::WindowText, Colours.Colour(Token::Port));
-        if (*C.Fore_Colour == Ink::Green) P.setColor(QPalette::WindowText, Colours.Colour(Token::Starboard));
-        W->setPalette(P);
+        // A palette would do nothing beside the style.
+        constexpr const char* Names[] = {"", "", "red", "green", "amber"};
+        const auto Name = QLatin1String(Names[static_cast<std::size_t>(*C.Fore_Colour)]);
+        if (W->property("ink").toString() == Name) return;
+        W->setProperty("ink", QString(Name));
+        W->style()->unpolish(W);
+        W->style()->polish(W);
     });
     return W;
 }

@@ -15,7 +15,7 @@ namespace brinewright {
 
 namespace {
 
-constexpr int Cell_Margin = 10;
+constexpr int Cell_Margin = 14;
 
 // Its last column is as wide as the longest text in it, and takes the room that is left.
 class Grid_Table : public QTableView {
@@ -30,7 +30,8 @@ class Grid_Table : public QTableView {
         setTextElideMode(Qt::ElideNone);
         const int Last = Head.count() - 1, Others = Head.length() - Head.sectionSize(Last);
         const int Text_Width =
-            fontMetrics().horizontalAdvance(QLatin1Char('0')) * *Source.Last_Column_Size + Cell_Margin;
+            fontMetrics().horizontalAdvance(QString(*Source.Last_Column_Size, QLatin1Char('0'))) +
+            Cell_Margin;
         Head.resizeSection(Last, std::max(viewport()->width() - Others, Text_Width));
     }
 

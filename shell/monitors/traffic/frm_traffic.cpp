@@ -1,6 +1,7 @@
 #include "shell/monitors/traffic/frm_traffic.hpp"
 
 #include "links/port_list.hpp"
+#include "platform/desktop.hpp"
 #include "sentences/number_pattern.hpp"
 #include "sentences/sentence_clock.hpp"
 #include "sentences/wire_text.hpp"
@@ -239,7 +240,10 @@ void Wire_Filter(Simulator& Sim, frmTraffic& F) {
         List->Click = [&Sim, &F] { Filter_Changed(Sim, F); };
     F.txtFilter.Change = [&Sim, &F] { Filter_Changed(Sim, F); };
     F.txtSearch.Change = [&F] { F.cmdFind.Enabled = !F.txtSearch.Text().empty(); };
-    F.txtSearch.Enter = [&Sim, &F] { cmdFind_Click(Sim, F); };
+    F.txtSearch.Key_Down = [&Sim, &F](int Key_Code) {
+        if (Key_Code == key::Enter) cmdFind_Click(Sim, F);
+        return false;
+    };
     F.cmdFind.Click = [&Sim, &F] { cmdFind_Click(Sim, F); };
     F.cmdFind.Enabled = false;
     F.cmdPause.Click = [&Sim, &F] { cmdPause_Click(Sim, F); };

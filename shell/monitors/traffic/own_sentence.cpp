@@ -158,7 +158,10 @@ void Show_Links_To_Send_On(Simulator& Sim, frmTraffic& F) {
 }
 
 void Wire_Sending(Simulator& Sim, frmTraffic& F) {
-    F.txtSend.Enter = [&Sim, &F] { cmdSend_Click(Sim, F); };
+    F.txtSend.Key_Down = [&Sim, &F](int Key_Code) {
+        if (Key_Code == key::Enter) cmdSend_Click(Sim, F);
+        return false;
+    };
     F.cmdSend.Click = [&Sim, &F] { cmdSend_Click(Sim, F); };
     F.cmdRepeat.Click = [&Sim, &F] { cmdRepeat_Click(Sim, F); };
     F.cmdResend.Click = [&Sim, &F] { cmdResend_Click(Sim, F); };
