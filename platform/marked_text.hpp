@@ -7,7 +7,7 @@
 namespace brinewright {
 
 // A text to be read, of which a part can be marked. Whoever chooses a character of it, by pointer, cursor key
-// or its number, runs Character_Chosen.
+// or its number, runs Character_Chosen. Its caption stands where there is no text.
 struct Marked_Text : Text_Box {
     Marked_Text(Stand At, std::string N, std::string Tip);
 

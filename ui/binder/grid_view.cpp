@@ -87,6 +87,7 @@ QTableView* Form_View::Make(Grid& C) {
     W->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     W->setWordWrap(false);
     W->setTabKeyNavigation(false);
+    W->horizontalHeader()->setHighlightSections(false);
     Bind(C, W, [&C, W, Model, Seen = Seen_Of_Grid()]() mutable { Show_Grid(C, *W, *Model, Seen); });
     connect(W->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this, &C, W, Model](const QModelIndex& Now) {

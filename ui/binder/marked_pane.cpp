@@ -37,6 +37,7 @@ QPlainTextEdit* Form_View::Make(Marked_Text& C) {
     W->setFont(Sentence_Font());
     W->setWordWrapMode(QTextOption::WrapAnywhere);
     Bind(C, W, [this, &C, W] {
+        W->setPlaceholderText(To_Screen(*C.Caption));
         if (W->toPlainText() != To_Screen(C.Text())) W->setPlainText(To_Screen(C.Text()));
         Show_Mark(C, *W, Colours);
     });

@@ -287,7 +287,8 @@ void frmTraffic_Load(Simulator& Sim, Form& Opened) {
 
 frmTraffic::frmTraffic(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Child) {
     Caption = "Traffic";
-    Set_Place(600, 300, 18600, 9000);
+    txtSentence.Caption = std::string("Choose a sentence above to see what it says");
+    Set_Place(450, 300, 19500, 9000);
 }
 
 const Window_Class Traffic_Window{
