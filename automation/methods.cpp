@@ -66,18 +66,15 @@ int Key_Code(const Json& Code) {
         std::string_view Name;
         int Code;
     };
-    constexpr std::array Keys{Named_Key{"Escape", key::Escape},
-                              Named_Key{"Left", key::Left},
-                              Named_Key{"Up", key::Up},
-                              Named_Key{"Right", key::Right},
-                              Named_Key{"Down", key::Down},
-                              Named_Key{"Page_Up", key::Page_Up},
-                              Named_Key{"Page_Down", key::Page_Down}};
+    constexpr std::array Keys{Named_Key{"Enter", key::Enter},     Named_Key{"Escape", key::Escape},
+                              Named_Key{"Left", key::Left},       Named_Key{"Up", key::Up},
+                              Named_Key{"Right", key::Right},     Named_Key{"Down", key::Down},
+                              Named_Key{"Page_Up", key::Page_Up}, Named_Key{"Page_Down", key::Page_Down}};
     if (Code.is_number_unsigned() && Code.get<std::uint64_t>() >= 1 && Code.get<std::uint64_t>() <= 255)
         return Code.get<int>();
     for (const Named_Key& Key : Keys)
         if (Code == Key.Name) return Key.Code;
-    Wrong_Parameter("code must be 1 to 255, Left, Up, Right, Down, Page_Up, Page_Down or Escape");
+    Wrong_Parameter("code must be 1 to 255, Left, Up, Right, Down, Page_Up, Page_Down, Enter or Escape");
 }
 
 Key_Modifiers Held_Keys(const Json& Names) {

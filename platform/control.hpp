@@ -30,7 +30,7 @@ enum class Control_Kind {
 };
 
 // Meanings, not colours: the palettes of the views say what they look like.
-enum class Ink { Normal, Black, Red, Green };
+enum class Ink { Normal, Black, Red, Green, Amber };
 
 enum class Mouse_Button { Left, Right };
 

@@ -289,18 +289,18 @@ void Grid::Set_Source(int Count, Cell_Source Its_Source) {
     if (!Source) Cells.resize(static_cast<std::size_t>(Count) * Columns.size());
     Touch();
 }
-void Grid::Source_Moved(int Count, int New_Chosen) {
-    if (!Source || Count < 0 || New_Chosen < -1 || New_Chosen >= Count) Refuse_Value();
+void Grid::Source_Moved(int Count, int New_Chosen, int Gone_At_Head) {
+    if (!Source || Count < 0 || New_Chosen < -1 || New_Chosen >= Count || Gone_At_Head < 0) Refuse_Value();
     Row_Count = Count;
+    Gone += static_cast<std::uint64_t>(Gone_At_Head);
     Chosen = New_Chosen;
     Touch();
 }
 void Grid::Select_Row(int Row) {
     if (Row < -1 || Row >= Row_Count) Refuse_Value();
-    if (Row != Chosen) {
-        Chosen = Row;
-        Touch();
-    }
+    Chosen = Row;
+    ++Choice_Count;
+    Touch();
     if (Row >= 0) Run(Row_Chosen);
 }
 void Grid::Check(const Control_Value& V) const {

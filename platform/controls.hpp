@@ -244,8 +244,17 @@ struct Grid : Visible_Control {
     using Cell_Source = std::function<Cell(int Row, int Column)>;
     void Set_Source(int Count, Cell_Source Its_Source); // an empty one: the grid holds its cells again
     bool Has_Source() const { return static_cast<bool>(Source); }
-    // The source has other cells now, and the chosen row stands elsewhere in it: runs nothing.
-    void Source_Moved(int Count, int New_Chosen);
+    // The source has other cells now, and the chosen row stands elsewhere in it: runs nothing. So many rows
+    // have gone at its head.
+    void Source_Moved(int Count, int New_Chosen, int Gone_At_Head = 0);
+    std::uint64_t Gone = 0; // at the head of the source since its beginning
+
+    // How it is shown.
+    std::function<Ink(int Row)> Row_Colour;       // of a whole row; null: its cells say
+    bool Follows_End = false;                     // when it stands at its end it stays there while rows come
+    Property<int> Last_Column_Size{*this, 0};     // characters that it shows whole; 0: the room that is left
+    Property<std::uint32_t> Head_Count{*this, 0}; // grows each time it is to be shown from its first row
+    std::uint32_t Choice_Count = 0;               // grows with each choice, which is to be seen then
 
     int Selected_Row() const { return Chosen; } // -1 = none
     // -1 chooses nothing and runs nothing. Outside the table: Run_Time_Error "Invalid property value".

@@ -17,7 +17,8 @@ namespace brinewright {
 
 // Codes of the keys that handlers look at.
 namespace key {
-inline constexpr int Escape = 27, Page_Up = 33, Page_Down = 34, Left = 37, Up = 38, Right = 39, Down = 40;
+inline constexpr int Enter = 13, Escape = 27, Page_Up = 33, Page_Down = 34, Left = 37, Up = 38, Right = 39,
+                     Down = 40;
 } // namespace key
 
 // A question for a file name. The answer may come much later; timers and output go on meanwhile.

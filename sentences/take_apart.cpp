@@ -28,10 +28,16 @@ constexpr std::array<Tag_Meaning, 6> Tag_Meanings{{
     {'t', "t: text", ""},
 }};
 
-using Parts = std::vector<Field_Value>;
+struct Parts {
+    const char* Text_Begin;
+    std::vector<Field_Value> All;
+};
 
+// Value is a piece of the text.
 void Add(Parts& Out, std::string Name, std::string_view Value, std::string Unit = {}) {
-    if (Out.size() < Most_Parts) Out.push_back({std::move(Name), std::string(Value), std::move(Unit)});
+    if (Out.All.size() < Most_Parts)
+        Out.All.push_back({std::move(Name), std::string(Value), std::move(Unit),
+                           static_cast<std::size_t>(Value.data() - Out.Text_Begin)});
 }
 
 // Calls Each(index, piece) for what stands between the commas.
@@ -97,12 +103,12 @@ std::size_t Next_Start(std::string_view Text) {
 } // namespace
 
 std::vector<Field_Value> Take_Apart(std::string_view Wire_Text) {
-    Parts Out;
-    for (std::string_view Rest = Wire_Text; !Rest.empty() && Out.size() < Most_Parts;) {
+    Parts Out{Wire_Text.data(), {}};
+    for (std::string_view Rest = Wire_Text; !Rest.empty() && Out.All.size() < Most_Parts;) {
         if (Rest[0] == '\r' || Rest[0] == '\n') {
             Rest.remove_prefix(1);
-        } else if (Take_UdPbC_Header(Rest)) {
-            Add(Out, "UdPbC header", "UdPbC");
+        } else if (const std::string_view Header = Rest.substr(0, 5); Take_UdPbC_Header(Rest)) {
+            Add(Out, "UdPbC header", Header);
         } else if (const auto Block = Take_Tag_Block(Rest)) {
             Take_Tags(Out, Without_Line_End(*Block));
         } else {
@@ -114,7 +120,7 @@ std::vector<Field_Value> Take_Apart(std::string_view Wire_Text) {
             Rest.remove_prefix(Piece.size());
         }
     }
-    return Out;
+    return std::move(Out.All);
 }
 
 } // namespace brinewright

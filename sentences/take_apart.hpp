@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,7 +11,11 @@ struct Field_Value {
     std::string Name;
     std::string Value; // as it stands on the wire
     std::string Unit;
-    bool operator==(const Field_Value&) const = default;
+    std::size_t First = 0; // where the value begins in the text; it is as long as Value
+    // Alike wherever they stand.
+    bool operator==(const Field_Value& Other) const {
+        return Name == Other.Name && Value == Other.Value && Unit == Other.Unit;
+    }
 };
 
 // The parts of a text as it left, each with what it means: the UdPbC header, the tags, talker, type, fields

@@ -7,6 +7,7 @@
 #include "shell/state/link_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/transmit/send_nmea.hpp"
+#include "shell/transmit/sending_as.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -88,6 +89,7 @@ void Send_GSA(Simulator& Sim, P& W) {
     Second.HDOP = First.HDOP;
     Second.VDOP = First.VDOP;
     std::string Text = Compose_GSA(Second, No_Checksum(Sim));
+    const Sending_As Mark(Sim, static_cast<std::int16_t>(W.Form_Index));
     Send_NMEA(Sim, Text, Sim.State.Of<Link_State>().Sensor_Table[W.Instance].Port);
 }
 

@@ -1,5 +1,7 @@
 #include "shell/kit/layout.hpp"
 
+#include "platform/marked_text.hpp"
+
 #include <utility>
 
 namespace brinewright {
@@ -118,6 +120,7 @@ Layout Buttons(std::vector<Layout> Keys) {
 
 Layout Halves(std::vector<Layout> Parts) { return Layout(layout::Split{}, std::move(Parts)); }
 Layout Pane(Text_Box& Sentences, int Lines) { return Of(Sentences, layout::Pane{Lines}); }
+Layout Marked(Marked_Text& Sentence, int Lines) { return Of(Sentence, layout::Marked{Lines}); }
 Layout Listing(Grid& Rows, std::vector<std::string> Widest) {
     return Of(Rows, layout::Listing{std::move(Widest)});
 }

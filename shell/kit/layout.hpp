@@ -13,6 +13,7 @@
 
 namespace brinewright {
 
+struct Marked_Text;
 struct Simulator;
 
 // How a window is laid out, as a plain value: a tree of rows, columns, grids and boxes with the controls of
@@ -81,6 +82,9 @@ struct Ticker { // the last sentence, in one slim line
 struct Pane { // sentences, so many lines at least
     int Lines;
 };
+struct Marked { // a text to be read, with a part marked
+    int Lines;
+};
 struct Listing { // a table with columns as wide as these texts; without any they share its width
     std::vector<std::string> Widest;
 };
@@ -114,7 +118,7 @@ struct Progress { // how far something is, 0 to 100
     std::function<int()> Percent;
 };
 
-using Kind = std::variant<Control, Line, Raster, Framed, Split, Room, Words, Ticker, Pane, Listing,
+using Kind = std::variant<Control, Line, Raster, Framed, Split, Room, Words, Ticker, Pane, Marked, Listing,
                           Key_Catcher, Scaled, Label_Scale, Countdown, Instrument, Progress>;
 
 struct Manner {
@@ -212,6 +216,7 @@ Layout Buttons(std::vector<Layout> Keys);
 Layout Halves(std::vector<Layout> Parts);
 
 Layout Pane(Text_Box& Sentences, int Lines);
+Layout Marked(Marked_Text& Sentence, int Lines);
 Layout Listing(Grid& Rows, std::vector<std::string> Widest = {});
 
 Layout Lying(Scroll_Bar& Bar, layout::Steps Scale);

@@ -8,6 +8,7 @@
 #include "shell/state/link_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/transmit/send_nmea.hpp"
+#include "shell/transmit/sending_as.hpp"
 #include "shell/transmit/tag_block.hpp"
 
 #include <algorithm>
@@ -145,6 +146,7 @@ void Send_Sentence(Simulator& Sim, std::string Text, Sensor_Form& Window, std::i
     const bool Exists = Port >= port_number::None && Port <= port_number::Last;
     if (Sim.State.Of<IEC450_State>().IEC450_Enabled && Exists)
         Make_UdPbC_Header(Sim, Text, Port, Line, Lines);
+    const Sending_As Mark(Sim, static_cast<std::int16_t>(Window.Form_Index));
     Send_NMEA(Sim, Text, Port);
     Sim.Last_Sentence[Window.Form_Index] = std::move(Text);
     Window.Revision = ++Sim.Windows.Revision;

@@ -181,11 +181,6 @@ Menu_Item& frmMain::Item(const char* Item_Name, int Index) const {
     throw std::logic_error(std::string("no menu item ") + Item_Name);
 }
 
-std::string Entry_Text(const Window_Class& Class, int Instance) {
-    if (!Class.Entry.Text) return {};
-    return Class.Entry.Text + (Class.Count == 0 ? std::string() : Number_Text(Instance));
-}
-
 frmMain& Main_Window(const Simulator& Sim) { return static_cast<frmMain&>(*Sim.Main); }
 
 void Wire_Main(Simulator& Sim) {

@@ -40,7 +40,13 @@ struct Sent_Sentence {
     std::string_view Text;
     std::int16_t Port = 0;     // 1 to 28
     bool Link_Took_It = false; // only then it has left
+    std::int16_t Sender = 0;   // whose it is, see sender
 };
+
+// Windows by their form index, and who else sends.
+namespace sender {
+inline constexpr std::int16_t None = 0, Traffic = 12;
+}
 
 enum class TCP_News { Port, Listening, Client_Count, Client_Came, History, Sent };
 

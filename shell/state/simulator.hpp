@@ -6,6 +6,7 @@
 #include "platform/timer_queue.hpp"
 #include "shell/state/link_table.hpp"
 #include "shell/state/reports.hpp"
+#include "shell/state/sentence_log.hpp"
 #include "shell/state/simulator_state.hpp"
 #include "shell/state/window_class.hpp"
 
@@ -49,6 +50,8 @@ struct Simulator {
     Link_Table Links;
     Send_Counts Counts;
     Reports Told;
+    Sentence_Log Log;                   // of all that has left or come
+    std::int16_t Sender = sender::None; // whose sentences go through the gate now, see Sending_As
 
     // The last sentence of each sensor window, by form index, as it left.
     Table<std::string, 1, 11> Last_Sentence;

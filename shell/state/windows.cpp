@@ -93,4 +93,9 @@ Form* Open_Form_Of_Index(const Simulator& Sim, std::int16_t Form_Index) {
     return Class ? Open_Form(Sim, Class->Name, Instance_Of_Index(*Class, Form_Index)) : nullptr;
 }
 
+std::string Entry_Text(const Window_Class& Class, int Instance) {
+    if (!Class.Entry.Text) return {};
+    return Class.Entry.Text + (Class.Count == 0 ? std::string() : Number_Text(Instance));
+}
+
 } // namespace brinewright

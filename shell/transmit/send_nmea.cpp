@@ -113,7 +113,7 @@ void Send_NMEA(Simulator& Sim, std::string& Text, std::int16_t Port) {
         Link_Took_It = Write_UDP(Sim, Text, Port);
     }
     if (Port <= port_number::Last) ++(Link_Took_It ? Sim.Counts.Sent : Sim.Counts.Failed)[Port];
-    Sim.Told.Sent.Tell({Text, Port, Link_Took_It});
+    Sim.Told.Sent.Tell({Text, Port, Link_Took_It, Sim.Sender});
 }
 
 } // namespace brinewright

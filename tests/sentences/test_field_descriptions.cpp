@@ -150,7 +150,10 @@ TEST(Take_Apart, Takes_Any_Bytes) {
     for (int Round = 0; Round < 20'000; ++Round) {
         std::string Text(Engine() % 40, ' ');
         for (char& C : Text) C = Letters[Engine() % Letters.size()];
-        EXPECT_LE(Take_Apart(Text).size(), 500u);
+        const auto Parts = Take_Apart(Text);
+        EXPECT_LE(Parts.size(), 500u);
+        for (const Field_Value& Part : Parts)
+            EXPECT_EQ(Text.substr(Part.First, Part.Value.size()), Part.Value);
         Lines_With_Verdict(Text);
         Address_Of(Bare_Sentence(Text));
     }

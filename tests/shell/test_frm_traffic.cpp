@@ -2,7 +2,11 @@
 
 #include "shell/monitors/traffic/frm_traffic.hpp"
 #include "shell/transmit/record_format.hpp"
+#include "shell/transmit/sending_as.hpp"
 #include "tests/support/virtual_simulator.hpp"
+
+#include <array>
+#include <tuple>
 
 namespace brinewright {
 namespace {
@@ -18,12 +22,20 @@ struct Traffic : testing::Test, Virtual_Simulator {
         Told.clear();
     }
     frmTraffic& F() { return *Open_One<frmTraffic>(Sim); }
-    std::string Cell(int Row, int Column) { return F().hfgTraffic.At(Row, Column).Text; }
-    Texts Sentences() {
+    Texts Column(int Which) {
         Texts All;
-        for (int Row = 0; Row < F().hfgTraffic.Rows(); ++Row) All.push_back(Cell(Row, 5));
+        for (int Row = 0; Row < F().hfgTraffic.Rows(); ++Row)
+            All.push_back(F().hfgTraffic.At(Row, Which).Text);
         return All;
     }
+    Texts Sentences() { return Column(8); }
+    void Enter(Control& Target) {
+        Sim.Windows.Event([&] {
+            Sim.Windows.User_Focus(Target);
+            Sim.Windows.User_Key(F(), key::Enter);
+        });
+    }
+    std::string Said() const { return Shell().Last_Said; }
 };
 
 TEST_F(Traffic, Lists_Each_Sentence_With_What_Is_To_Be_Known_Of_It) {
@@ -31,27 +43,55 @@ TEST_F(Traffic, Lists_Each_Sentence_With_What_Is_To_Be_Known_Of_It) {
     Pass_us(1'007'000);
     Send(VTG, 18);
     Send("no sentence", 17);
-    ASSERT_EQ(F().hfgTraffic.Rows(), 3);
-    EXPECT_EQ(Cell(0, 0), "12:34:56.500");
-    EXPECT_EQ(Cell(1, 0), "12:34:57.507");
-    EXPECT_EQ(Cell(0, 1), "TCP/IP");
-    EXPECT_EQ(Cell(1, 1), "UDP 60001");
-    EXPECT_EQ(Cell(0, 2), "GGA");
-    EXPECT_EQ(Cell(2, 2), "?");
-    EXPECT_EQ(Cell(0, 3), "15"); // with its line end
-    EXPECT_EQ(Cell(0, 4), "ok");
-    EXPECT_EQ(Cell(1, 4), "wrong");
-    EXPECT_EQ(Cell(2, 4), "none");
-    EXPECT_EQ(F().hfgTraffic.At(0, 4).Colour, Ink::Green);
-    EXPECT_EQ(F().hfgTraffic.At(1, 4).Colour, Ink::Red);
-    EXPECT_EQ(Sentences(), (Texts{GGA, VTG, "no sentence"}));
-    EXPECT_EQ(*F().lblCount.Caption, "3 of 3 sentences");
-    EXPECT_EQ(Entries(F().cmbType), (Texts{"All types", "?", "GGA", "VTG"}));
+    Sim.Told.Received.Tell(3, "$INHDT,1,T\r\n");
+    EXPECT_EQ(Column(0), (Texts{"12:34:56.500", "12:34:57.507", "12:34:57.509", "12:34:57.509"}));
+    EXPECT_EQ(Column(1), (Texts{"TCP/IP", "UDP 60001", "TCP/IP", "COM 3"}));
+    EXPECT_EQ(Column(2), (Texts{"out", "out", "out", "in"}));
+    EXPECT_EQ(Column(3), Texts(4, "---")); // no window has sent them
+    EXPECT_EQ(Column(4), (Texts{"GGA", "VTG", "?", "HDT"}));
+    EXPECT_EQ(Column(7), (Texts{"ok", "wrong", "none", "none"}));
+    EXPECT_EQ(Sentences(), (Texts{GGA, VTG, "no sentence", "$INHDT,1,T"}));
+    const Ink Inks[] = {Ink::Green, Ink::Red, Ink::Amber, Ink::Amber};
+    for (int Row = 0; Row < 4; ++Row) {
+        EXPECT_EQ(F().hfgTraffic.At(Row, 7).Colour, Inks[Row]);
+        EXPECT_EQ(F().hfgTraffic.Row_Colour(Row), Row == 0 ? Ink::Normal : Inks[Row]);
+    }
+    EXPECT_EQ(*F().hfgTraffic.Last_Column_Size, 13); // of the longest
+    EXPECT_EQ(*F().lblCount.Caption, "4 of 4 sentences");
+    EXPECT_EQ(Entries(F().cmbType), (Texts{"All types", "?", "GGA", "VTG", "HDT"}));
     EXPECT_TRUE(*Main_Window(Sim).Item("mnuTraffic").Checked);
 }
 
+// Two windows, one of which sends in groups: neither its own kin nor the other one's count in a rate.
+TEST_F(Traffic, Tells_Source_Rate_And_Time_Since_The_Last) {
+    for (int Second = 0; Second < 30; ++Second) {
+        const std::int64_t Start_us = Now_us();
+        for (const auto& [Text, Who, Every] : {std::tuple{GGA, 1, 1}, {VTG, 2, 2}, {VTG, 2, 2}, {VTG, 1, 15}})
+            if (Second % Every == 0) {
+                const Sending_As Mark(Sim, static_cast<std::int16_t>(Who));
+                Send(Text, 17);
+            }
+        Pass_us(Start_us + 1'000'000 - Now_us());
+    }
+    const Texts Sources = Column(3), Since = Column(5), Rates = Column(6);
+    EXPECT_EQ((Texts{Sources[0], Sources[1], Sources[2]}), (Texts{"GNSS 1", "GNSS 2", "GNSS 2"}));
+    EXPECT_EQ(Since[0] + Since[1] + Rates[0] + Rates[2], "------------"); // nothing before them, or nearly
+    const auto Last = [&](const char* Text, const char* Source) {
+        for (std::size_t Row = Sources.size();;)
+            if (Sentences()[--Row] == Text && Sources[Row] == Source) return Since[Row] + " " + Rates[Row];
+    };
+    EXPECT_EQ(Last(GGA, "GNSS 1"), "1.000 1.00");
+    EXPECT_EQ(Last(VTG, "GNSS 2").substr(0, 9), "0.002 1.0"); // two every two seconds
+    EXPECT_EQ(Last(VTG, "GNSS 1"), "14.996 0.07");            // fifteen seconds less two waits of the pacing
+    EXPECT_EQ(Entries(F().cmbSource), (Texts{"All sources", "GNSS 1", "GNSS 2"}));
+    Set(F().cmbSource, std::string("GNSS 1"));
+    EXPECT_EQ(Sentences().size(), 32u);
+    Set(F().cmbVerdict, std::string("wrong"));
+    EXPECT_EQ(Sentences(), (Texts{VTG, VTG}));
+}
+
 TEST_F(Traffic, Filters_By_Port_Type_And_Text) {
-    EXPECT_EQ(Entries(F().cmbPort), (Texts{"All ports", "TCP/IP", "UDP 60001"})); // those in use
+    EXPECT_EQ(Entries(F().cmbPort), (Texts{"All links", "TCP/IP", "UDP 60001"})); // those in use
     for (const int Port : {17, 18}) {
         Send(GGA, Port);
         Send(VTG, Port);
@@ -77,10 +117,10 @@ TEST_F(Traffic, Filters_By_Port_Type_And_Text) {
     Init();
     Send(GGA, 19);
     Sim.Told.Links_Chosen.Tell();
-    EXPECT_EQ(Entries(F().cmbPort), (Texts{"All ports", "TCP/IP", "UDP 61000", "UDP 60002"}));
+    EXPECT_EQ(Entries(F().cmbPort), (Texts{"All links", "TCP/IP", "UDP 61000", "UDP 60002"}));
 }
 
-TEST_F(Traffic, Pauses_Clears_And_Ends_With_Its_Window) {
+TEST_F(Traffic, Pauses_Clears_And_Has_Recorded_While_It_Was_Closed) {
     Send(GGA, 17);
     Click(F().cmdPause);
     EXPECT_EQ(*F().cmdPause.Caption, "Continue");
@@ -103,11 +143,15 @@ TEST_F(Traffic, Pauses_Clears_And_Ends_With_Its_Window) {
     EXPECT_FALSE(*Main_Window(Sim).Item("mnuTraffic").Checked);
     Send(GGA, 17);
     EXPECT_EQ(Left.back().second, std::string(GGA) + "\r\n"); // the other listener still hears
-    Choose_Menu("mnuTraffic");
-    EXPECT_EQ(F().hfgTraffic.Rows(), 0);
-    Choose_Menu("mnuTraffic"); // no second ear
-    Send(GGA, 17);
-    EXPECT_EQ(F().hfgTraffic.Rows(), 1);
+    Click(Main_Window(Sim).Item("mnuTraffic"));               // what left before it was opened
+    EXPECT_EQ(Sentences(), (Texts{GGA, GGA}));
+    Click(F().cmdPause);
+    Close(F());
+    Send(VTG, 17); // a closed window holds nothing
+    Click(Main_Window(Sim).Item("mnuTraffic"));
+    Click(Main_Window(Sim).Item("mnuTraffic")); // no second ear
+    Send(VTG, 17);
+    EXPECT_EQ(Sentences(), (Texts{GGA, GGA, VTG, VTG}));
 }
 
 TEST_F(Traffic, Shows_The_Fields_Of_The_Chosen_Sentence) {
@@ -121,6 +165,20 @@ TEST_F(Traffic, Shows_The_Fields_Of_The_Chosen_Sentence) {
     EXPECT_EQ(Fields.At(6, 2).Text, "kn");
     Set(F().hfgTraffic, std::int64_t{1});
     EXPECT_EQ(Fields.Rows(), 5);
+    EXPECT_EQ(*Fields.Head_Count, 2u); // from its beginning, each
+
+    // A field and its characters, from either side: "$GPGGA,1,2*55".
+    for (const auto& [Row, First, Length] : {std::array{0, 1, 2}, {1, 3, 3}, {2, 7, 1}, {4, 11, 2}}) {
+        Set(F().hfgFields, std::int64_t{Row});
+        EXPECT_EQ(*F().txtSentence.Mark_First, First);
+        EXPECT_EQ(*F().txtSentence.Mark_Length, Length);
+        Set(F().hfgFields, std::int64_t{3});
+        Set(F().txtSentence, std::int64_t{First + Length - 1});
+        EXPECT_EQ(Fields.Selected_Row(), Row);
+    }
+    EXPECT_EQ(F().txtSentence.Text(), GGA);
+    EXPECT_THROW(F().txtSentence.Check(std::int64_t{14}), Value_Refusal);
+    EXPECT_THROW(F().txtSentence.Check(std::string("x")), User_Refusal);
 
     // The choice stays on its sentence when a filter moves the rows.
     Set(F().cmbType, std::string("GGA"));
@@ -136,25 +194,28 @@ TEST_F(Traffic, Finds_The_Next_Round_The_End) {
     for (const char* Text : {GGA, VTG, GGA, VTG}) Send(Text, 17);
     Set(F().txtSearch, std::string("vtg"));
     std::vector<int> Rows;
+    const std::uint32_t Choices = F().hfgTraffic.Choice_Count;
     for (int I = 0; I < 3; ++I) {
-        Click(F().cmdFind);
+        I == 1 ? Enter(F().txtSearch) : Click(F().cmdFind);
         Rows.push_back(F().hfgTraffic.Selected_Row());
     }
     EXPECT_EQ(Rows, (std::vector<int>{1, 3, 1}));
+    EXPECT_EQ(F().hfgTraffic.Choice_Count, Choices + 3); // each is to be seen
     EXPECT_GT(F().hfgFields.Rows(), 0);
     EXPECT_TRUE(Told.empty());
     Set(F().cmbType, std::string("GGA"));
     Click(F().cmdFind);
-    EXPECT_EQ(Take_Boxes(), Texts{"None of the sentences shown contains vtg"});
+    EXPECT_EQ(Said(), "None of the sentences shown contains vtg");
     Click(F().cmdClear);
     Click(F().cmdFind);
-    EXPECT_EQ(Take_Boxes().size(), 1u);
+    EXPECT_TRUE(Told.empty());
 }
 
 TEST_F(Traffic, Exports_What_Is_Shown_As_A_Recording) {
     Send(GGA, 17);
     Send(VTG, 18);
     Send("a\\b", 17);
+    Sim.Told.Received.Tell(17, "no recording of what left");
     Set(F().cmbPort, std::string("TCP/IP"));
     Click(F().cmdExport);
     ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
@@ -162,7 +223,7 @@ TEST_F(Traffic, Exports_What_Is_Shown_As_A_Recording) {
     EXPECT_EQ(Sim.Windows.File_Dialogs[0].Filter, "Recordings (*.rec)|*.rec");
     EXPECT_TRUE(Sim.Windows.File_Dialogs[0].Save);
     Answer_File("/data/a.rec");
-    EXPECT_EQ(Take_Boxes(), Texts{"2 sentences exported to /data/a.rec"});
+    EXPECT_EQ(Said(), "2 sentences exported to /data/a.rec, without 1 received");
     const std::string Bytes = Disk.Content.at("/data/a.rec");
     const auto Feed = Bytes.find('\n');
     const auto First = Parse_Record(Bytes.substr(0, Feed));
@@ -176,42 +237,54 @@ TEST_F(Traffic, Exports_What_Is_Shown_As_A_Recording) {
     Disk.Refuse_Writing = true;
     Click(F().cmdExport);
     Answer_File("/data/b.rec");
-    EXPECT_EQ(Take_Boxes(), Texts{"/data/b.rec could not be written: Disk full"});
+    EXPECT_EQ(Said(), "/data/b.rec could not be written: Disk full");
     Disk.Refuse_Writing = false;
     Click(F().cmdExport);
     Answer_File(""); // none was chosen
     Click(F().cmdExport);
     Close(F()); // before the question is answered
     Answer_File("/data/c.rec");
-    EXPECT_EQ(Take_Boxes(), Texts{"The Traffic window has been closed. Nothing was exported."});
+    EXPECT_EQ(Said(), "The Traffic window has been closed. Nothing was exported.");
+    EXPECT_TRUE(Told.empty());
     EXPECT_FALSE(Disk.Content.contains("/data/b.rec") || Disk.Content.contains("/data/c.rec"));
 }
 
-TEST(Traffic_Log_, Keeps_The_Last_10000_And_Forgets_The_Oldest) {
-    Traffic_Log Log;
-    Set_Filter(Log, {18, 0, ""});
-    const auto Text_Of = [](std::uint64_t Number) { return "$GPGGA," + std::to_string(Number); };
-    for (std::uint64_t Number = 0; Number < 25'000; ++Number)
-        Keep_Sentence(Log, static_cast<std::int64_t>(Number), Number % 2 ? 18 : 17, Text_Of(Number));
+TEST(Traffic_List_, Follows_A_Log_That_Keeps_The_Last_10000_And_So_Many_Bytes) {
+    Sentence_Log Log;
+    Traffic_List List;
+    Set_Filter(List, Log, {.Sender = {}, .Port = 18, .Type = 0, .Verdict = {}, .Text = ""});
+    const auto Made = [](std::uint64_t Number) { return "$GPGGA," + std::to_string(Number); };
+    const auto Keep = [&](const std::string& Text, std::int16_t Port) {
+        Keep_Sentence(Log, {.Wide_us = static_cast<std::int64_t>(Log.Next) * 1000, .Port = Port}, Text);
+    };
+    int Gone = 0;
+    for (std::uint64_t Number = 1; Number <= 25'000; ++Number) {
+        Keep(Made(Number), Number % 2 ? 18 : 17);
+        if (Number < 7000 || Number > 17'500) Follow_Log(List, Log); // more than the log holds passes unseen
+        Gone += std::exchange(List.Gone, 0);
+    }
     EXPECT_EQ(Log.Next - Log.Oldest, 10'000u);
-    EXPECT_EQ(Log.Ring.size(), 10'000u);
-    ASSERT_EQ(Log.Shown.size(), 5'000u);
-    EXPECT_EQ(Record_Of(Log, Log.Shown.front()).Text, Text_Of(15'001));
-    EXPECT_EQ(Record_Of(Log, Log.Shown.back()).Text, Text_Of(24'999));
-    Set_Filter(Log, {});
-    EXPECT_EQ(Log.Shown.size(), 10'000u);
-    EXPECT_EQ(Record_Of(Log, Log.Shown.front()).Text, Text_Of(15'000));
-    Clear_Log(Log);
-    Keep_Sentence(Log, 0, 17, "$GPVTG");
-    ASSERT_EQ(Log.Shown.size(), 1u);
-    EXPECT_EQ(Record_Of(Log, Log.Shown[0]).Text, "$GPVTG");
+    ASSERT_EQ(List.Shown.size(), 5'000u);
+    EXPECT_EQ(Text_Of(Log, List.Shown.front()), Made(15'001));
+    EXPECT_EQ(Text_Of(Log, List.Shown.back()), Made(24'999));
+    EXPECT_EQ(Gone + 5'000, 3'500 + 8'749); // the odd ones up to 6,999 and of 7,502 to 25,000
+    Set_Filter(List, Log, {});
+    EXPECT_EQ(List.Shown.size(), 10'000u);
 
-    // Neither a long text nor made-up types make it grow.
-    Keep_Sentence(Log, 0, 17, "$GPTXT," + std::string(1'000'000, 'x'));
-    EXPECT_EQ(Record_Of(Log, Log.Next - 1).Text.size(), 4096u);
-    EXPECT_EQ(Record_Of(Log, Log.Next - 1).Length_bytes, 1'000'007u);
-    for (int I = 100; I < 400; ++I) Keep_Sentence(Log, 0, 17, "$GP" + std::to_string(I) + ",1");
-    EXPECT_EQ(Log.Types.size(), 100u);
+    // Neither long texts nor made-up types make it grow.
+    const std::string Long = "$GPTXT," + std::string(1'000'000, 'x');
+    for (int I = 0; I < 400; ++I) Keep(Long, 17);
+    Follow_Log(List, Log);
+    EXPECT_LE((Log.Next - Log.Oldest) * 4096, Sentence_Log::Text_Room_bytes);
+    for (std::uint64_t Number = Log.Oldest; Number < Log.Next; ++Number)
+        EXPECT_TRUE(Text_Of(Log, Number) == Long.substr(0, 4096) &&
+                    Entry_Of(Log, Number).Length_bytes == Long.size());
+    for (int I = 100; I < 400; ++I) Keep("$GP" + std::to_string(I) + ",1", 17);
+    Follow_Log(List, Log);
+    EXPECT_EQ(List.Types.size(), 100u);
+    Clear_Log(Log);
+    Follow_Log(List, Log);
+    EXPECT_TRUE(List.Shown.empty());
 }
 
 TEST_F(Traffic, The_Choice_Moves_With_Its_Sentence_Until_That_Is_Gone) {
@@ -226,65 +299,59 @@ TEST_F(Traffic, The_Choice_Moves_With_Its_Sentence_Until_That_Is_Gone) {
     EXPECT_EQ(F().hfgFields.Rows(), Fields); // still to be read
 }
 
-constexpr std::int64_t Start_us = 1'767'225'600'000'000; // 2026-01-01 00:00:00
+TEST_F(Traffic, Sends_A_Row_Again_And_Sentences_Of_Ones_Own) {
+    Send(GGA, 18);
+    Set(F().hfgTraffic, std::int64_t{0});
+    Click(F().cmdResend);
+    EXPECT_EQ(Left.back(), (std::pair<int, std::string>(18, std::string(GGA) + "\r\n")));
+    EXPECT_EQ(Column(3).back(), "Traffic");
+    Click(F().cmdEdit);
+    EXPECT_EQ(F().txtSend.Text(), GGA);
+    EXPECT_EQ(F().cmbSendPort.Text(), "UDP 60001");
 
-std::string Line(std::int64_t Local_us, int Port, const std::string& Text) {
-    std::string Out;
-    Record_Writer Writer;
-    Writer.Append(Out, Local_us, Port, Text);
-    return Out;
-}
-
-TEST(Record_Format, Lines_As_Described) {
-    EXPECT_EQ(Line(Start_us + 150'000, 17, "$GPGGA,1*5A\r\n"),
-              "2026-01-01T00:00:00.150000 17 $GPGGA,1*5A\\r\\n\n");
-    EXPECT_EQ(Line(Start_us + 86'399'000'007, 1, std::string("UdPbC\0\\ \xB0\x7F\t", 11)),
-              "2026-01-01T23:59:59.000007 1 UdPbC\\x00\\\\ \\xB0\\x7F\\x09\n");
-    EXPECT_EQ(Line(-1, 18, ""), "1969-12-31T23:59:59.999999 18 \n");
-}
-
-TEST(Record_Format, Whatever_Is_Written_Reads_Back) {
-    std::string Every_Byte;
-    for (int Code = 0; Code < 256; ++Code) Every_Byte += static_cast<char>(Code);
-    std::string Out;
-    Record_Writer Writer; // one writer over seconds and days
-    struct Entry {
-        std::int64_t Local_us;
-        int Port;
-        std::string Text;
-    };
-    const std::vector<Entry> Entries{{Start_us, 28, Every_Byte},     {Start_us + 999'999, 1, "\\x41\\"},
-                                     {Start_us + 1'000'000, 16, ""}, {Start_us - 1, 0, " two  blanks "},
-                                     {-1'500'000, 17, "\\\\n"},      {0, 18, Every_Byte + Every_Byte}};
-    for (const Entry& E : Entries) Writer.Append(Out, E.Local_us, E.Port, E.Text);
-    std::size_t Place = 0;
-    for (const Entry& E : Entries) {
-        const std::size_t End = Out.find('\n', Place);
-        const auto Read = Parse_Record(std::string_view(Out).substr(Place, End - Place));
-        Place = End + 1;
-        ASSERT_TRUE(Read);
-        EXPECT_EQ(Read->Local_us, E.Local_us);
-        EXPECT_EQ(Read->Port, E.Port);
-        EXPECT_EQ(Read->Text, E.Text);
+    // What is typed and what leaves; 5C is the exclusive or of "A,1".
+    const std::array<std::pair<const char*, const char*>, 5> Good{{{"$A,1", "$A,1*5C"},
+                                                                   {"$A,1*", "$A,1*5C"},
+                                                                   {"!A,1*00", "!A,1*00"},
+                                                                   {"\\s:A*00\\$A,1", "\\s:A*00\\$A,1*5C"},
+                                                                   {GGA, GGA}}};
+    for (const auto& [Typed, Sent] : Good) {
+        Set(F().txtSend, std::string(Typed));
+        Enter(F().txtSend);
+        EXPECT_EQ(Left.back().second, std::string(Sent) + "\r\n");
+        EXPECT_EQ(*F().lblSend.Caption, "Sent on UDP 60001");
     }
-    EXPECT_EQ(Place, Out.size());
-}
-
-TEST(Record_Format, Other_Lines_Are_Refused) {
-    const std::string Good = "2026-01-01T00:00:00.150000 17 A\\x41";
-    ASSERT_EQ(Parse_Record(Good)->Text, "AA");
-    // Cut anywhere up to the text, and within the escape, it is no record.
-    for (std::size_t Length = 0; Length < Good.size(); ++Length) {
-        const bool Whole = Length == 30 || Length == 31; // the text empty or "A"
-        EXPECT_EQ(Parse_Record(Good.substr(0, Length)).has_value(), Whole) << Length;
+    const std::size_t Before = Left.size();
+    for (const char* Bad : {"", "GPGGA,1", "$", "$*00", "$A\xE9", "$A\r\n$B", "\\s:A*00\\"}) {
+        Set(F().txtSend, std::string(Bad));
+        Click(F().cmdSend);
+        EXPECT_EQ(*F().lblSend.Fore_Colour, Ink::Red) << Bad;
     }
-    for (const char* Bad : {"2026-02-29T00:00:00.000000 1 A", "2026-01-01T24:00:00.000000 1 A",
-                            "2026-01-01T00:60:00.000000 1 A", "2026-01-01T00:00:60.000000 1 A",
-                            "2026-13-01T00:00:00.000000 1 A", "2026-01-01 00:00:00.000000 1 A",
-                            "2026-01-01T00:00:00.00000x 1 A", "2026-01-01T00:00:00.000000 x A",
-                            "2026-01-01T00:00:00.000000  1 A", "2026-01-01T00:00:00.000000 1 \\q",
-                            "2026-01-01T00:00:00.000000 1 \\xG0", "2026-01-01T00:00:00.000000 99999999999 A"})
-        EXPECT_FALSE(Parse_Record(Bad)) << Bad;
+    Set(F().txtSend, std::string("$A,1"));
+    for (const char* Bad : {"", "x", "0", "-1", "3601", "1.5.2", "1e3"}) {
+        Set(F().txtEvery, std::string(Bad));
+        Click(F().cmdRepeat);
+        EXPECT_EQ(*F().lblSend.Caption, "The time between two sentences is a number from 0.01 to 3600 s");
+    }
+    EXPECT_EQ(Left.size(), Before);
+
+    Set(F().txtEvery, std::string("0,5"));
+    Click(F().cmdRepeat);
+    Set(F().txtSend, std::string("typed meanwhile"));
+    Run_s(2.2);
+    EXPECT_EQ(Left.size(), Before + 5);
+    EXPECT_EQ(*F().lblSend.Caption, "Sent 5 times on UDP 60001");
+    Shell().Pause_Active = true;
+    Run_s(1);
+    EXPECT_EQ(*F().lblSend.Caption, "Not sent: transmission is paused");
+    Shell().Pause_Active = false;
+    Run_s(1);
+    EXPECT_EQ(Left.size(), Before + 7); // it goes on by itself
+    Sim.State.Of<Link_State>().Port_Table[18].Enabled = false;
+    Run_s(1);
+    EXPECT_EQ(Left.size(), Before + 7);
+    EXPECT_EQ(*F().cmdRepeat.Caption, "Repeat");
+    EXPECT_EQ(*F().lblSend.Caption, "Not sent: UDP 60001 is not in use, see Setup > Com setup");
 }
 
 } // namespace

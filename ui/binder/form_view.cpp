@@ -1,17 +1,13 @@
 #include "ui/binder/form_view.hpp"
 
-#include "ui/binder/grid_model.hpp"
-
 #include <QApplication>
 #include <QEvent>
-#include <QHeaderView>
-#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -158,6 +154,7 @@ QLineEdit* Form_View::Make(Text_Box& C) {
         Act([&C](Desktop& D) {
             if (D.Focus == &C) D.Set_Focus(nullptr);
             if (D.Usable(C) && !D.Focus) D.User_Focus(C);
+            D.User_Key(C.Owner, key::Enter);
         });
     });
     return W;
@@ -212,12 +209,15 @@ QLabel* Form_View::Make(Label& C, const char* Role) {
     auto* W = new QLabel(this);
     W->setTextFormat(Qt::PlainText);
     W->setProperty("role", QString::fromLatin1(Role));
-    Bind(C, W, [this, &C, W] {
+    Bind(C, W, [&C, W] {
         W->setText(To_Screen(*C.Caption));
-        QPalette P;
-        if (*C.Fore_Colour == Ink::Red) P.setColor(QPalette::WindowText, Colours.Colour(Token::Port));
-        if (*C.Fore_Colour == Ink::Green) P.setColor(QPalette::WindowText, Colours.Colour(Token::Starboard));
-        W->setPalette(P);
+        // A palette would do nothing beside the style.
+        constexpr const char* Names[] = {"", "", "red", "green", "amber"};
+        const auto Name = QLatin1String(Names[static_cast<std::size_t>(*C.Fore_Colour)]);
+        if (W->property("ink").toString() == Name) return;
+        W->setProperty("ink", QString(Name));
+        W->style()->unpolish(W);
+        W->style()->polish(W);
     });
     return W;
 }
@@ -225,38 +225,6 @@ QLabel* Form_View::Make(Label& C, const char* Role) {
 QGroupBox* Form_View::Make(Frame& C) {
     auto* W = new QGroupBox(this);
     Bind(C, W, [&C, W] { W->setTitle(To_Screen(*C.Caption)); });
-    return W;
-}
-
-QTableView* Form_View::Make(Grid& C) {
-    auto* W = new QTableView(this);
-    auto* Model = new Grid_Model(Source.lock(), C, Colours, W);
-    W->setModel(Model);
-    W->verticalHeader()->hide();
-    W->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    W->verticalHeader()->setDefaultSectionSize(W->fontMetrics().height() + 6);
-    W->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    W->setSelectionBehavior(QAbstractItemView::SelectRows);
-    W->setSelectionMode(QAbstractItemView::SingleSelection);
-    Bind(C, W, [&C, W, Model] {
-        // A table that stands at its end stays there while rows come.
-        const auto* Bar = W->verticalScrollBar();
-        const bool At_End = Bar->value() == Bar->maximum();
-        Model->Follow();
-        if (C.Selected_Row() >= 0 && W->currentIndex().row() != C.Selected_Row()) {
-            const QSignalBlocker Quiet(W->selectionModel());
-            W->selectRow(C.Selected_Row());
-            W->viewport()->update();
-        } else if (C.Selected_Row() < 0) {
-            W->clearSelection();
-            if (At_End) W->scrollToBottom();
-        }
-    });
-    connect(W->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this, &C](const QModelIndex& Now) {
-                if (Now.isValid())
-                    Act([&C, Row = Now.row()](Desktop& D) { D.User_Set(C, static_cast<std::int64_t>(Row)); });
-            });
     return W;
 }
 

@@ -21,6 +21,8 @@
 
 namespace brinewright {
 
+struct Marked_Text;
+
 // Between the program's texts (8-bit Latin-1, may hold a NUL) and the toolkit's. What Latin-1 cannot hold
 // becomes "?".
 QString To_Screen(const std::string& Text);
@@ -42,6 +44,7 @@ class Form_View : public QWidget {
     QComboBox* Make(Combo_Box& C);
     QLineEdit* Make(Text_Box& C);
     QPlainTextEdit* Make_Pane(Text_Box& C); // a text of many lines
+    QPlainTextEdit* Make(Marked_Text& C);
     QSlider* Make(Scroll_Bar& C, Qt::Orientation Direction);
     QRadioButton* Make(Option_Button& C);
     QLabel* Make(Label& C, const char* Role = "");

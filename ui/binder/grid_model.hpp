@@ -15,7 +15,8 @@ class Grid_Model : public QAbstractTableModel {
   public:
     Grid_Model(const std::shared_ptr<Form>& Owner, const Grid& Shown, const Theme& Colours, QObject* Parent);
 
-    void Follow(); // the grid has changed
+    int Follow();                     // the grid has changed; so many rows have gone at its head
+    int Row_In_Source(int Row) const; // of one that is shown now; -1 when it has gone meanwhile
 
     int rowCount(const QModelIndex& Above = {}) const override;
     int columnCount(const QModelIndex& Above = {}) const override;
@@ -23,10 +24,14 @@ class Grid_Model : public QAbstractTableModel {
     QVariant headerData(int Section, Qt::Orientation Direction, int Role) const override;
 
   private:
+    int Gone_Here() const; // rows that the table still shows
+    QVariant Row_Background(Ink Its_Ink) const;
+
     std::weak_ptr<Form> Owner;
     const Grid& Source;
     const Theme& Colours;
     int Row_Count = 0; // as told to the table
+    std::uint64_t Gone_Seen;
 };
 
 } // namespace brinewright

@@ -130,7 +130,14 @@ Built Make(Form_View& View, const Layout& Node, const layout::Split&) {
     auto* New = new QSplitter(Qt::Vertical, &View);
     New->setChildrenCollapsible(false);
     for (const Layout& Part : Node.Inside) {
-        New->addWidget(Make(View, Part).Widget);
+        const Built Half = Make(View, Part);
+        QWidget* W = Half.Widget;
+        if (!W) {
+            W = new QWidget(New); // within the window already, for the order of the keyboard
+            W->setLayout(Half.Inside);
+            Half.Inside->setContentsMargins(0, 0, 0, 0);
+        }
+        New->addWidget(W);
         New->setStretchFactor(New->count() - 1, Part.How.Share);
     }
     return New;

@@ -34,6 +34,7 @@ Built Make(Form_View& View, const Layout& Node, const layout::Room& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Words& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Ticker& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Pane& Kind);
+Built Make(Form_View& View, const Layout& Node, const layout::Marked& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Listing& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Key_Catcher& Kind);
 Built Make(Form_View& View, const Layout& Node, const layout::Scaled& Kind);

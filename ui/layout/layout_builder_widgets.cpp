@@ -1,5 +1,6 @@
 // The controls of a window, and texts that are none.
 
+#include "platform/marked_text.hpp"
 #include "ui/binder/verdict_highlighter.hpp"
 #include "ui/layout/layout_builder.hpp"
 
@@ -97,6 +98,12 @@ Built Make(Form_View& View, const Layout& Node, const layout::Pane& Kind) {
     const QFontMetrics Face(Sentence_Font());
     New->setMinimumWidth(Face.horizontalAdvance(QString(84, QLatin1Char('0'))) / 2);
     New->setMinimumHeight(Face.lineSpacing() * Kind.Lines + 12);
+    return New;
+}
+
+Built Make(Form_View& View, const Layout& Node, const layout::Marked& Kind) {
+    QPlainTextEdit* New = View.Make(static_cast<Marked_Text&>(*Node.Part));
+    New->setFixedHeight(QFontMetrics(Sentence_Font()).lineSpacing() * Kind.Lines + 12);
     return New;
 }
 

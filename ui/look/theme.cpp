@@ -84,6 +84,9 @@ QLabel[role="readout"] { color: @Readout; }
 QLabel[role="good"] { color: @Good; }
 QLabel[role="warn"] { color: @Warn; }
 QLabel[role="bad"] { color: @Bad; }
+QLabel[ink="red"] { color: @Port; }
+QLabel[ink="green"] { color: @Starboard; }
+QLabel[ink="amber"] { color: @Warn; }
 QLabel#ticker { background: @Field; color: @Dim; border-top: 1px solid @Line; padding: 3px 8px; }
 QLabel#fault_strip { background: @Bad; color: @Field; padding: 4px 12px; font-weight: bold; }
 QSlider::groove:vertical { width: 4px; background: @Line; border-radius: 2px; }
@@ -106,10 +109,11 @@ QStatusBar QLabel { padding: 0 8px; border-left: 1px solid @Line; }
 
 QString Filled_In(const Theme& T) {
     const std::pair<const char*, Token> Names[] = {
-        {"@Window", Token::Window},   {"@Panel", Token::Panel},   {"@Field", Token::Field},
-        {"@Line", Token::Line},       {"@Text", Token::Text},     {"@Dim", Token::Dim_Text},
-        {"@Readout", Token::Readout}, {"@Accent", Token::Accent}, {"@Good", Token::Good},
-        {"@Warn", Token::Warn},       {"@Bad", Token::Bad}};
+        {"@Window", Token::Window},      {"@Panel", Token::Panel},   {"@Field", Token::Field},
+        {"@Line", Token::Line},          {"@Text", Token::Text},     {"@Dim", Token::Dim_Text},
+        {"@Readout", Token::Readout},    {"@Accent", Token::Accent}, {"@Good", Token::Good},
+        {"@Warn", Token::Warn},          {"@Bad", Token::Bad},       {"@Port", Token::Port},
+        {"@Starboard", Token::Starboard}};
     QString Style = QString::fromLatin1(Style_Text);
     for (const auto& [Name, Meaning] : Names) Style.replace(QLatin1String(Name), T.Colour(Meaning).name());
     return Style;

@@ -1,14 +1,14 @@
 #include "shell/monitors/traffic/frm_traffic.hpp"
 
 #include "links/port_list.hpp"
-#include "sentences/checksum_verdict.hpp"
+#include "platform/desktop.hpp"
+#include "sentences/number_pattern.hpp"
 #include "sentences/sentence_clock.hpp"
-#include "sentences/take_apart.hpp"
 #include "sentences/wire_text.hpp"
-#include "shell/state/shell_state.hpp"
+#include "shell/monitors/traffic/traffic_export.hpp"
+#include "shell/state/say.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
-#include "shell/transmit/record_format.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -17,10 +17,23 @@ namespace brinewright {
 
 namespace {
 
-enum Column { Time_Column, Port_Column, Type_Column, Length_Column, Checksum_Column };
+enum Column {
+    Time_Column,
+    Link_Column,
+    Direction_Column,
+    Source_Column,
+    Type_Column,
+    Since_Column,
+    Rate_Column,
+    Verdict_Column
+};
 
 constexpr const char* Running = "Pause";
 constexpr const char* Paused = "Continue";
+constexpr const char* Nothing = "---";
+constexpr std::int32_t All_Sources = -1;
+constexpr Checksum_Verdict Verdicts[] = {Checksum_Verdict::Ok, Checksum_Verdict::Wrong,
+                                         Checksum_Verdict::None};
 
 std::string Clock_Text(std::int64_t Local_us) {
     std::string Text = Format_Dot(Split_Time(Local_us), "hh:nn:ss") + ".";
@@ -37,60 +50,90 @@ std::string Printable(std::string_view Text) {
     return Shown;
 }
 
+std::string Source_Name(const Simulator& Sim, std::int16_t Sender) {
+    if (Sender == sender::Traffic) return "Traffic";
+    const Window_Class* Class = Sender == sender::None ? nullptr : Class_Of_Index(Sim, Sender);
+    return Class ? Entry_Text(*Class, Instance_Of_Index(*Class, Sender)) : Nothing;
+}
+
 Ink Verdict_Ink(Checksum_Verdict Verdict) {
     switch (Verdict) {
     case Checksum_Verdict::Ok: return Ink::Green;
     case Checksum_Verdict::Wrong: return Ink::Red;
     case Checksum_Verdict::None: break;
     }
-    return Ink::Normal;
+    return Ink::Amber;
 }
 
-const Traffic_Record& Record_At(const frmTraffic& F, int Row) {
-    return Record_Of(F.Log, F.Log.Shown[static_cast<std::size_t>(Row)]);
+std::uint64_t Number_At(const frmTraffic& F, int Row) { return F.List.Shown[static_cast<std::size_t>(Row)]; }
+
+// Valid sentences are the rule and keep the colour of text.
+Ink Row_Ink(const frmTraffic& F, int Row) {
+    const Ink Colour = Verdict_Ink(Note_Of(F.List, Number_At(F, Row)).Verdict);
+    return Colour == Ink::Green ? Ink::Normal : Colour;
 }
 
 Grid::Cell Traffic_Cell(Simulator& Sim, const frmTraffic& F, int Row, int Column) {
-    const Traffic_Record& R = Record_At(F, Row);
+    const std::uint64_t Number = Number_At(F, Row);
+    const Logged_Sentence& Entry = Entry_Of(Sim.Log, Number);
+    const Traffic_Note& Note = Note_Of(F.List, Number);
     switch (Column) {
-    case Time_Column: return {Clock_Text(R.Local_us)};
-    case Port_Column: return {Link_Name(Sim, R.Port)};
-    case Type_Column: return {F.Log.Types[R.Type]};
-    case Length_Column: return {std::to_string(R.Length_bytes)};
-    case Checksum_Column: {
-        const Checksum_Verdict Verdict = Verdict_Of(R.Text);
-        return {Verdict_Text(Verdict), Verdict_Ink(Verdict)};
-    }
-    default: return {Printable(Without_Line_End(R.Text))};
+    case Time_Column: return {Clock_Text(Entry.Local_us)};
+    case Link_Column: return {Link_Name(Sim, Entry.Port)};
+    case Direction_Column: return {Entry.Received ? "in" : "out"};
+    case Source_Column: return {Source_Name(Sim, Entry.Sender)};
+    case Type_Column: return {F.List.Types[Note.Type]};
+    case Since_Column:
+        return {Note.Since_us ? Format_Dot(static_cast<double>(*Note.Since_us) / us_Per_Second, "0.000")
+                              : Nothing};
+    case Rate_Column: return {Note.Rate_per_s ? Format_Dot(*Note.Rate_per_s, "0.00") : Nothing};
+    case Verdict_Column: return {Verdict_Text(Note.Verdict), Verdict_Ink(Note.Verdict)};
+    default: return {Printable(Without_Line_End(Text_Of(Sim.Log, Number)))};
     }
 }
 
 int Chosen_Row(const frmTraffic& F) {
     if (!F.Chosen) return -1;
-    const auto Found = std::lower_bound(F.Log.Shown.begin(), F.Log.Shown.end(), *F.Chosen);
-    if (Found == F.Log.Shown.end() || *Found != *F.Chosen) return -1;
-    return static_cast<int>(Found - F.Log.Shown.begin());
+    const auto Found = std::lower_bound(F.List.Shown.begin(), F.List.Shown.end(), *F.Chosen);
+    if (Found == F.List.Shown.end() || *Found != *F.Chosen) return -1;
+    return static_cast<int>(Found - F.List.Shown.begin());
 }
 
-void Show_Log(frmTraffic& F) {
+void Show_List(const Simulator& Sim, frmTraffic& F) {
     // The fields of a sentence that has gone stay to be read; only its row is chosen no more.
-    if (F.Chosen && *F.Chosen < F.Log.Oldest) F.Chosen.reset();
-    F.hfgTraffic.Source_Moved(static_cast<int>(F.Log.Shown.size()), Chosen_Row(F));
-    std::string Text = std::to_string(F.Log.Shown.size()) + " of " +
-                       std::to_string(F.Log.Next - F.Log.Oldest) + " sentences";
-    if (F.Passed_By != 0) Text += ", " + std::to_string(F.Passed_By) + " passed by while paused";
+    if (F.Chosen && *F.Chosen < Sim.Log.Oldest) F.Chosen.reset();
+    F.hfgTraffic.Source_Moved(static_cast<int>(F.List.Shown.size()), Chosen_Row(F),
+                              std::exchange(F.List.Gone, 0));
+    F.hfgTraffic.Last_Column_Size = static_cast<int>(F.List.Longest_Shown);
+    std::string Text = std::to_string(F.List.Shown.size()) + " of " +
+                       std::to_string(Sim.Log.Next - Sim.Log.Oldest) + " sentences";
+    if (Sim.Log.Passed_By != 0) Text += ", " + std::to_string(Sim.Log.Passed_By) + " passed by while paused";
     F.lblCount.Caption = std::move(Text);
 }
 
-void Show_Types(frmTraffic& F) {
-    for (std::size_t I = F.cmbType.Items().size(); I < F.Log.Types.size(); ++I)
-        F.cmbType.Add_Item(F.Log.Types[I]);
+void Add_Entry(Combo_Box& List, std::int32_t Data, const std::string& Text) {
+    const auto& Items = List.Items();
+    if (std::none_of(Items.begin(), Items.end(), [Data](const auto& I) { return I.Data == Data; }))
+        List.Add_Item(Text, Data);
 }
 
-void Add_Port(Simulator& Sim, frmTraffic& F, int Port) {
-    const auto& Items = F.cmbPort.Items();
-    if (std::none_of(Items.begin(), Items.end(), [Port](const Combo_Box::Item& I) { return I.Data == Port; }))
-        F.cmbPort.Add_Item(Link_Name(Sim, Port), Port);
+// What is new to the lists of the filter.
+void Offer_Choices(const Simulator& Sim, frmTraffic& F, std::uint64_t First) {
+    for (std::size_t I = F.cmbType.Items().size(); I < F.List.Types.size(); ++I)
+        F.cmbType.Add_Item(F.List.Types[I]);
+    for (std::uint64_t Number = First; Number < F.List.Next; ++Number) {
+        const Logged_Sentence& Entry = Entry_Of(Sim.Log, Number);
+        Add_Entry(F.cmbPort, Entry.Port, Link_Name(Sim, Entry.Port));
+        Add_Entry(F.cmbSource, Entry.Sender,
+                  Entry.Sender == sender::None ? "No window" : Source_Name(Sim, Entry.Sender));
+    }
+}
+
+void Follow(const Simulator& Sim, frmTraffic& F) {
+    const std::uint64_t First = std::max(F.List.Next, Sim.Log.Oldest);
+    Follow_Log(F.List, Sim.Log);
+    Offer_Choices(Sim, F, First);
+    Show_List(Sim, F);
 }
 
 // Names the links anew after a change of the ports and adds those in use.
@@ -98,131 +141,154 @@ void Rebuild_Port_List(Simulator& Sim, frmTraffic& F) {
     for (int I = 1; I < static_cast<int>(F.cmbPort.Items().size()); ++I)
         F.cmbPort.Set_Item(I, Link_Name(Sim, F.cmbPort.Items()[static_cast<std::size_t>(I)].Data));
     for (int Port = 1; Port <= port_number::Last; ++Port)
-        if (Link_In_Use(Sim, Port)) Add_Port(Sim, F, Port);
+        if (Link_In_Use(Sim, Port)) Add_Entry(F.cmbPort, Port, Link_Name(Sim, Port));
 }
 
-void Take_Sentence(Simulator& Sim, frmTraffic& F, const Sent_Sentence& Sent) {
-    if (!Sent.Link_Took_It) return;
-    if (*F.cmdPause.Caption == Paused) {
-        ++F.Passed_By;
-    } else {
-        Add_Port(Sim, F, Sent.Port);
-        Keep_Sentence(F.Log, Sim.Services.Time().Local_us(), Sent.Port, Sent.Text);
-        Show_Types(F);
-    }
-    Show_Log(F);
-}
-
-void Filter_Changed(frmTraffic& F) {
-    Set_Filter(F.Log, {F.cmbPort.Item_Data(), static_cast<std::size_t>(std::max(F.cmbType.List_Index(), 0)),
-                       F.txtFilter.Text()});
-    Show_Log(F);
+void Filter_Changed(const Simulator& Sim, frmTraffic& F) {
+    Traffic_Filter New;
+    if (F.cmbSource.Item_Data() != All_Sources) New.Sender = F.cmbSource.Item_Data();
+    New.Port = F.cmbPort.Item_Data();
+    New.Type = static_cast<std::size_t>(std::max(F.cmbType.List_Index(), 0));
+    if (const int Which = F.cmbVerdict.List_Index(); Which > 0) New.Verdict = Verdicts[Which - 1];
+    New.Text = F.txtFilter.Text();
+    Set_Filter(F.List, Sim.Log, std::move(New));
+    Show_List(Sim, F);
 }
 
 void Show_Fields(frmTraffic& F) {
-    const int Row = F.hfgTraffic.Selected_Row();
-    F.Chosen = F.Log.Shown[static_cast<std::size_t>(Row)];
-    const auto Parts = Take_Apart(Record_At(F, Row).Text);
-    F.hfgFields.Set_Rows(static_cast<int>(Parts.size()));
+    F.hfgFields.Set_Rows(0);
+    F.hfgFields.Set_Rows(static_cast<int>(F.Parts.size()));
     for (int I = 0; I < F.hfgFields.Rows(); ++I) {
-        const Field_Value& Part = Parts[static_cast<std::size_t>(I)];
+        const Field_Value& Part = F.Parts[static_cast<std::size_t>(I)];
         F.hfgFields.Set_Cell(I, 0, Part.Name);
         F.hfgFields.Set_Cell(I, 1, Printable(Part.Value));
         F.hfgFields.Set_Cell(I, 2, Part.Unit);
     }
+    F.hfgFields.Head_Count = *F.hfgFields.Head_Count + 1;
+}
+
+void hfgTraffic_Chosen(const Simulator& Sim, frmTraffic& F) {
+    const std::uint64_t Number = Number_At(F, F.hfgTraffic.Selected_Row());
+    const bool Is_Another = !F.Shown_One || F.Chosen != Number;
+    F.Chosen = Number;
+    if (!Is_Another) return; // the field that is marked stays so
+    const Logged_Sentence& Entry = Entry_Of(Sim.Log, Number);
+    const std::string Text(Without_Line_End(Text_Of(Sim.Log, Number)));
+    F.Shown_One = {Text, Entry.Port, Entry.Kept_bytes == Entry.Length_bytes};
+    F.Parts = Take_Apart(Text);
+    F.txtSentence.Set_Text(Printable(Text));
+    F.cmdResend.Enabled = F.cmdEdit.Enabled = true;
+    Show_Fields(F);
+}
+
+void hfgFields_Chosen(frmTraffic& F) {
+    const Field_Value& Part = F.Parts[static_cast<std::size_t>(F.hfgFields.Selected_Row())];
+    F.txtSentence.Mark(static_cast<int>(Part.First), static_cast<int>(Part.Value.size()));
+}
+
+// The field whose characters or whose comma behind them it is.
+void txtSentence_Chosen(frmTraffic& F, int Place) {
+    for (int I = F.hfgFields.Rows() - 1; I >= 0; --I)
+        if (F.Parts[static_cast<std::size_t>(I)].First <= static_cast<std::size_t>(Place)) {
+            if (I != F.hfgFields.Selected_Row()) F.hfgFields.Select_Row(I);
+            return;
+        }
 }
 
 // From the row behind the chosen one on, round the end, and the chosen one last.
 void cmdFind_Click(Simulator& Sim, frmTraffic& F) {
+    if (F.txtSearch.Text().empty()) return;
     const int Rows = F.hfgTraffic.Rows();
     for (int Step = 1; Step <= Rows; ++Step) {
         const int Row = (F.hfgTraffic.Selected_Row() + Step) % Rows;
-        if (Contains(Record_At(F, Row).Text, F.txtSearch.Text())) return F.hfgTraffic.Select_Row(Row);
+        if (Contains(Text_Of(Sim.Log, Number_At(F, Row)), F.txtSearch.Text()))
+            return F.hfgTraffic.Select_Row(Row);
     }
-    Sim.Windows.Boxes.Show("None of the sentences shown contains " + F.txtSearch.Text());
+    Say(Sim, "None of the sentences shown contains " + F.txtSearch.Text());
 }
 
-void cmdPause_Click(frmTraffic& F) {
-    const bool Stops = *F.cmdPause.Caption == Running;
-    F.cmdPause.Caption = std::string(Stops ? Paused : Running);
-    if (!Stops) F.Passed_By = 0;
-    Show_Log(F);
+void cmdPause_Click(Simulator& Sim, frmTraffic& F) {
+    Sim.Log.Held = !Sim.Log.Held;
+    F.cmdPause.Caption = std::string(Sim.Log.Held ? Paused : Running);
+    if (!Sim.Log.Held) Sim.Log.Passed_By = 0;
+    Show_List(Sim, F);
 }
 
-void cmdClear_Click(frmTraffic& F) {
-    Clear_Log(F.Log);
-    F.Passed_By = 0;
+void cmdClear_Click(Simulator& Sim, frmTraffic& F) {
+    Clear_Log(Sim.Log);
+    F.Shown_One.reset();
+    F.Parts.clear();
     F.hfgFields.Set_Rows(0);
-    Show_Log(F);
+    F.txtSentence.Set_Text("");
+    F.cmdResend.Enabled = F.cmdEdit.Enabled = false;
+    Follow(Sim, F);
+    Filter_Changed(Sim, F); // the column needs to hold no more of what was shown
 }
 
-void Export(Simulator& Sim, const std::string& File) {
-    if (File.empty()) return;
-    const auto* const Window = Open_One<frmTraffic>(Sim);
-    if (!Window) {
-        Sim.Windows.Boxes.Show("The Traffic window has been closed. Nothing was exported.");
-        return;
-    }
-    const Traffic_Log& Log = Window->Log;
-    Record_Writer Writer;
-    std::string Bytes;
-    for (const std::uint64_t Number : Log.Shown) {
-        const Traffic_Record& R = Record_Of(Log, Number);
-        Writer.Append(Bytes, R.Local_us, R.Port, R.Text);
-    }
-    try {
-        Sim.Services.Disk().Replace(File, Bytes);
-    } catch (const Run_Time_Error& Failure) {
-        Sim.Windows.Boxes.Show(File + " could not be written: " + Failure.what(), "", Box_Icon::Stop);
-        return;
-    }
-    Sim.Windows.Boxes.Show(std::to_string(Log.Shown.size()) +
-                           (Log.Shown.size() == 1 ? " sentence" : " sentences") + " exported to " + File);
+void Fill_Filter(Simulator& Sim, frmTraffic& F) {
+    F.cmbSource.Add_Item("All sources", All_Sources);
+    F.cmbPort.Add_Item("All links", port_number::None);
+    F.cmbVerdict.Add_Item("All verdicts");
+    for (const Checksum_Verdict V : Verdicts) F.cmbVerdict.Add_Item(Verdict_Text(V));
+    Rebuild_Port_List(Sim, F);
+    Follow(Sim, F);
+    for (Combo_Box* List : {&F.cmbSource, &F.cmbPort, &F.cmbType, &F.cmbVerdict}) List->Set_List_Index(0);
 }
 
-void cmdExport_Click(Simulator& Sim) {
-    File_Dialog Question;
-    Question.Save = true;
-    Question.Title = "Export Traffic";
-    Question.Filter = "Recordings (*.rec)|*.rec";
-    Question.Default_Extension = ".rec";
-    Question.Folder = Sim.State.Of<Shell_State>().Data_Folder;
-    Question.Answer = [&Sim](const std::string& File) { Export(Sim, File); };
-    Sim.Windows.Ask_File(std::move(Question));
-}
-
-void Wire(Simulator& Sim, frmTraffic& F) {
-    F.cmbPort.Click = [&F] { Filter_Changed(F); };
-    F.cmbType.Click = [&F] { Filter_Changed(F); };
-    F.txtFilter.Change = [&F] { Filter_Changed(F); };
+void Wire_Filter(Simulator& Sim, frmTraffic& F) {
+    for (Combo_Box* List : {&F.cmbSource, &F.cmbPort, &F.cmbType, &F.cmbVerdict})
+        List->Click = [&Sim, &F] { Filter_Changed(Sim, F); };
+    F.txtFilter.Change = [&Sim, &F] { Filter_Changed(Sim, F); };
     F.txtSearch.Change = [&F] { F.cmdFind.Enabled = !F.txtSearch.Text().empty(); };
+    F.txtSearch.Key_Down = [&Sim, &F](int Key_Code) {
+        if (Key_Code == key::Enter) cmdFind_Click(Sim, F);
+        return false;
+    };
     F.cmdFind.Click = [&Sim, &F] { cmdFind_Click(Sim, F); };
-    F.cmdPause.Click = [&F] { cmdPause_Click(F); };
-    F.cmdClear.Click = [&F] { cmdClear_Click(F); };
-    F.cmdExport.Click = [&Sim] { cmdExport_Click(Sim); };
-    F.hfgTraffic.Row_Chosen = [&F] { Show_Fields(F); };
+    F.cmdFind.Enabled = false;
+    F.cmdPause.Click = [&Sim, &F] { cmdPause_Click(Sim, F); };
+    F.cmdClear.Click = [&Sim, &F] { cmdClear_Click(Sim, F); };
+    F.cmdExport.Click = [&Sim] { Export_Traffic(Sim); };
+}
+
+void Wire_Lists(Simulator& Sim, frmTraffic& F) {
+    F.hfgTraffic.Follows_End = true;
+    F.hfgTraffic.Row_Chosen = [&Sim, &F] { hfgTraffic_Chosen(Sim, F); };
+    F.hfgTraffic.Row_Colour = [&F](int Row) { return Row_Ink(F, Row); };
     F.hfgTraffic.Set_Source(0, [&Sim, &F](int Row, int Column) { return Traffic_Cell(Sim, F, Row, Column); });
+    F.hfgFields.Row_Chosen = [&F] { hfgFields_Chosen(F); };
+    F.txtSentence.Character_Chosen = [&F](int Place) { txtSentence_Chosen(F, Place); };
 }
 
 void frmTraffic_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmTraffic&>(Opened);
-    F.cmbPort.Add_Item("All ports", port_number::None);
-    Rebuild_Port_List(Sim, F);
-    Show_Types(F);
-    F.cmbPort.Set_List_Index(0);
-    F.cmbType.Set_List_Index(0);
-    F.cmdFind.Enabled = false;
-    Wire(Sim, F);
-    Show_Log(F);
-    Sim.Told.Sent.Add(F, [&Sim, &F](const Sent_Sentence& Sent) { Take_Sentence(Sim, F, Sent); });
-    Sim.Told.Links_Chosen.Add(F, [&Sim, &F] { Rebuild_Port_List(Sim, F); });
+    Wire_Lists(Sim, F);
+    Fill_Filter(Sim, F);
+    Wire_Filter(Sim, F);
+    Wire_Sending(Sim, F);
+    Sim.Told.Sent.Add(F, [&Sim, &F](const Sent_Sentence& Sent) {
+        if (!Sent.Link_Took_It) return;
+        if (Sent.Sender == sender::Traffic) F.Own.Left = true;
+        Follow(Sim, F);
+    });
+    Sim.Told.Received.Add(F, [&Sim, &F](int, const std::string&) { Follow(Sim, F); });
+    Sim.Told.Links_Chosen.Add(F, [&Sim, &F] {
+        Rebuild_Port_List(Sim, F);
+        Show_Links_To_Send_On(Sim, F);
+    });
+    // A closed window cannot be told to continue.
+    F.On_Unload = [&Sim] {
+        Sim.Log.Held = false;
+        Sim.Log.Passed_By = 0;
+    };
 }
 
 } // namespace
 
 frmTraffic::frmTraffic(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Child) {
     Caption = "Traffic";
-    Set_Place(1200, 1200, 12000, 7500);
+    txtSentence.Caption = std::string("Choose a sentence above to see what it says");
+    Set_Place(450, 300, 19500, 9000);
 }
 
 const Window_Class Traffic_Window{
