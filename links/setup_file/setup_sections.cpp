@@ -1,6 +1,7 @@
 #include "links/setup_file/setup_sections.hpp"
 #include "extra/extra_state.hpp"
 #include "gnss/gnss_state.hpp"
+#include "links/setup_file/setup_line.hpp"
 #include "ownship/autopilot/autopilot_state.hpp"
 #include "ownship/navdata_state.hpp"
 #include "radar/gullwatch_state.hpp"
@@ -13,8 +14,6 @@
 #include "shell/state/iec450_state.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
-
-#include <type_traits>
 
 namespace brinewright {
 
@@ -35,49 +34,9 @@ constexpr Setup_Limits Target_Count{0, 10}, Random_Count{0, 100};
 
 // Below, W is a reader, a writer or a list of the variables, and S the state to fill or to tell.
 
-template <class Walker>
-inline constexpr bool Is_Reader = std::is_same_v<Walker, Setup_Reader>;
-template <class T>
-inline constexpr bool Is_Limited = requires(T& Value) {
-    Value.Limits;
-};
-template <class T>
-inline constexpr bool Is_Decimal = std::is_floating_point_v<T>;
-template <class T>
-inline constexpr bool Is_Decimal<Limited<T>> = std::is_floating_point_v<T>;
-
 template <class Area, class State>
 auto& Of(State& S) {
     return S.template Of<Area>();
-}
-
-template <class T>
-auto& Variable_Of(T& Value) {
-    if constexpr (Is_Limited<T>)
-        return Value.Variable;
-    else
-        return Value;
-}
-
-template <class Walker, class T>
-void One_Field(Walker& W, T& Value) {
-    if constexpr (Is_Limited<T> && std::is_same_v<Walker, Setup_Values>)
-        W.push_back({&Value.Variable, Value.Limits, Value.Moves});
-    else
-        Field(W, Variable_Of(Value));
-}
-
-template <class Walker, class... Values>
-void Line(Walker& W, Values&&... V) {
-    if constexpr (Is_Reader<Walker>) {
-        constexpr int Decimals = (0 + ... + Is_Decimal<std::remove_cvref_t<Values>>);
-        if (Line_Is_Lost(W, sizeof...(V), Decimals)) {
-            (W.Lost.push_back(&Variable_Of(V)), ...);
-            return;
-        }
-    }
-    (One_Field(W, V), ...);
-    End_Line(W);
 }
 
 template <class Walker, class State>

@@ -3,6 +3,7 @@
 #include "all_state.hpp"
 
 #include <algorithm>
+#include <map>
 #include <type_traits>
 
 namespace brinewright {
@@ -27,11 +28,15 @@ void Each_Variable(const std::string& Path, T& Value, Leaf& At_Leaf) {
 } // namespace
 
 std::vector<std::string> Names_Of(Simulator_State& State, const std::vector<const void*>& Addresses) {
-    std::vector<std::string> Names;
+    std::map<const void*, std::string> All;
     const auto Look = [&](const std::string& Path, const void* Address) {
-        if (std::find(Addresses.begin(), Addresses.end(), Address) != Addresses.end()) Names.push_back(Path);
+        if (std::find(Addresses.begin(), Addresses.end(), Address) != Addresses.end()) All[Address] = Path;
     };
-    Visit_State(State, [&](const char* Name, auto& Value) { Each_Variable(Name, Value, Look); });
+    if (!Addresses.empty())
+        Visit_State(State, [&](const char* Name, auto& Value) { Each_Variable(Name, Value, Look); });
+    std::vector<std::string> Names;
+    for (const void* Address : Addresses)
+        if (const auto Found = All.find(Address); Found != All.end()) Names.push_back(Found->second);
     return Names;
 }
 

@@ -308,7 +308,7 @@ TEST_F(Bindings, Every_Control_Of_Every_Window_Has_A_Widget_Bound_Both_Ways) {
                                      "frmLog[2]",   "frmEchosounder[1]", "frmEchosounder[2]",  "frmWind[1]",
                                      "frmWind[2]",  "frmMonitor",        "frmExtendedMonitor", "frmTraffic",
                                      "frmTCPIP",    "frmIEC61162",       "frmGeoFormat",       "frmSetup",
-                                     "frmProgress", "frmComportInfo"}));
+                                     "frmProgress", "frmComportInfo",    "frmVirtualPort"}));
     std::size_t Count = 0;
     for (const auto& F : Sim.Windows.Forms)
         if (F != Sim.Main) Count += Check_Window(*F);
