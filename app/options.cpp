@@ -4,10 +4,12 @@
 #include "platform/run_time_error.hpp"
 #include "platform_linux/com_table.hpp"
 #include "platform_qt/ini_settings.hpp"
+#include "shell/state/version.hpp"
 #include "shell/transmit/record_format.hpp"
 
 #include <CLI/CLI.hpp>
 
+#include <charconv>
 #include <cmath>
 #include <iostream>
 
@@ -30,11 +32,21 @@ std::optional<std::int64_t> Parse_Start_Time(std::string Text) {
     return Record->Local_us;
 }
 
+// Not by the parser, which takes a minus sign for wrapping round.
+std::uint64_t Parse_Seed(const std::string& Text) {
+    std::uint64_t Seed = 0;
+    const char* const End = Text.data() + Text.size();
+    const auto [Stopped, Failure] = std::from_chars(Text.data(), End, Seed);
+    if (Failure != std::errc() || Stopped != End)
+        throw Run_Time_Error("--seed: a whole number from 0 to 18446744073709551615 is wanted");
+    return Seed;
+}
+
 struct Raw_Options {
     std::vector<std::string> Com;
     std::string Start_Time;
     int Instance = 1;
-    std::uint64_t Seed = 0;
+    std::string Seed;
     double Duration_s = 0;
     bool Headless = false;
 };
@@ -95,7 +107,7 @@ void Check(const CLI::App& App, Program_Options& Chosen, const Raw_Options& Raw)
     for (const std::string& Text : Raw.Com)
         Chosen.Com_Devices.insert_or_assign(Parse_Com_Option(Text).first, Parse_Com_Option(Text).second);
     Chosen.Instance_Number = static_cast<std::int16_t>(Raw.Instance == 1 ? 0 : Raw.Instance);
-    if (App.count("--seed") > 0) Chosen.Seed = Raw.Seed;
+    if (App.count("--seed") > 0) Chosen.Seed = Parse_Seed(Raw.Seed);
     if (App.count("--duration") > 0) {
         if (!(Raw.Duration_s > 0 && Raw.Duration_s <= Longest_Duration_s))
             throw Run_Time_Error("--duration: a number of seconds above 0 and up to 1000000000 is wanted");
@@ -134,12 +146,16 @@ std::optional<Program_Options> Read_Options(int Argument_Count, char** Arguments
     Raw_Options Raw;
     Declare_Inputs_And_Outputs(App, Chosen, Raw);
     Declare_Run(App, Chosen, Raw);
+    App.set_version_flag("--version", std::string("Brinewright ") + Version_Text, "Tell the version and end");
     try {
         App.parse(Argument_Count, Arguments);
         Check(App, Chosen, Raw);
         return Chosen;
     } catch (const CLI::CallForHelp&) {
         std::cout << App.help();
+        Exit_Status = 0;
+    } catch (const CLI::CallForVersion& Version) {
+        std::cout << Version.what() << '\n';
         Exit_Status = 0;
     } catch (const std::exception& Wrong) {
         std::cerr << Program_Name << ": " << First_Line(Wrong.what()) << " (see --help)\n";

@@ -11,11 +11,14 @@
 #include "platform_qt/termination_signals.hpp"
 #include "platform_qt/wake_up.hpp"
 #include "shell/main/frm_main.hpp"
+#include "shell/state/say.hpp"
 #include "shell/state/version.hpp"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <iostream>
+#include <limits>
 #include <vector>
 
 namespace brinewright {
@@ -106,17 +109,37 @@ void Choose_Joystick(const Program_Options& Chosen, Clock& Time, std::unique_ptr
         Read_Script_File(Chosen.Joystick_Script_File, Read_Joystick_Script), Time);
 }
 
+// In virtual time nobody else lets time pass, and nobody looks.
+bool Is_Batch(const Program_Options& Chosen, const Front_End& Front) {
+    return Chosen.Virtual && Chosen.Automation_Socket.empty() && !Front.Shows_Boxes;
+}
+
 // What runs beside the simulator, in both kinds of time. It goes before the simulator does.
 class Attachments {
   public:
-    Attachments(Simulator& Sim, const Program_Options& Chosen, const Automation_Hooks& Its_Hooks)
+    Attachments(Simulator& Sim, const Program_Options& Chosen, const Front_End& Front,
+                const Termination_Signals& Signals, const Automation_Hooks& Its_Hooks)
         : Timers(Sim.Timers), Hooks(Its_Hooks) {
-        using Form = Sentence_Sink::Form;
-        const bool At_Once = !Chosen.Virtual;
+        using Sink = Sentence_Sink;
+        const Sink::Pace Pace = !Chosen.Virtual           ? Sink::Pace::Real_Time
+                                : Is_Batch(Chosen, Front) ? Sink::Pace::Batch
+                                                          : Sink::Pace::On_Demand;
+        const auto Tell = [&Sim, On_Stderr = Front.Shows_Boxes](const std::string& Text) {
+            Say(Sim, Text);
+            if (On_Stderr) std::cerr << Text << std::endl;
+        };
+        const auto Add_Sink = [&](const std::string& File, Sink::Form Form) {
+            Sinks.push_back(std::make_unique<Sink>(Sim, File, Form, Pace, Signals, Tell));
+        };
         if (!Chosen.Script_File.empty()) Script_Lines = Load_Script(Chosen.Script_File);
-        if (Chosen.To_Stdout) Sinks.push_back(std::make_unique<Sentence_Sink>(Sim, "", Form::Plain, At_Once));
-        if (!Chosen.Record_File.empty())
-            Sinks.push_back(std::make_unique<Sentence_Sink>(Sim, Chosen.Record_File, Form::Record, At_Once));
+        if (Chosen.To_Stdout) Add_Sink("", Sink::Form::Plain);
+        if (!Chosen.Record_File.empty()) Add_Sink(Chosen.Record_File, Sink::Form::Record);
+        // Who lets time pass finds all that it brought.
+        if (Hooks.Advance)
+            Hooks.Advance = [this, Pass = std::move(Hooks.Advance)](double Seconds) {
+                Pass(Seconds);
+                for (const auto& S : Sinks) S->Flush();
+            };
         if (!Chosen.Automation_Socket.empty())
             Automation = std::make_unique<Automation_Server>(Chosen.Automation_Socket, Sim, Hooks);
         if (Chosen.Duration_s) {
@@ -139,7 +162,14 @@ class Attachments {
     }
 
     bool Script_Is_Done() const { return !Script || Script->Is_Done(); }
-    int Exit_Status() const { return Script && Script->Error_Count > 0 ? 1 : 0; }
+
+    // The exit status of the program: 3 when something was not written that should have been, which says more
+    // than 1, a script that was refused.
+    int Finish(const Simulator& Sim) {
+        bool Written = !Sim.Save_At_End_Failed;
+        for (const auto& S : Sinks) Written &= S->Close();
+        return !Written ? 3 : Script && Script->Error_Count > 0 ? 1 : 0;
+    }
 
   private:
     Timer_Queue& Timers;
@@ -159,6 +189,29 @@ Automation_Hooks Hooks_At(Clock& Machine_Clock, const Front_End& Front) {
     return Hooks;
 }
 
+// Lets virtual time pass up to Until_us, or until Is_Over; between ticks Take_Turn runs every now and then.
+template <class Over, class Turn>
+void Pass_Virtual_Time(Virtual_Platform& World, Timer_Queue& Timers, std::int64_t Until_us, Over&& Is_Over,
+                       Turn&& Take_Turn) {
+    constexpr int Steps_Per_Turn = 256;
+    for (int Step = 1; !World.Quitting && !Is_Over(); ++Step) {
+        const std::int64_t Due_us = Timers.Next_Due_us().value_or(Until_us);
+        World.Run_Until(Timers, std::min(Due_us, Until_us));
+        if (Due_us >= Until_us) return;
+        if (Step % Steps_Per_Turn == 0) Take_Turn();
+    }
+}
+
+// Nobody lets time pass, so it does by itself: to the end of the duration or of the script.
+void Pass_By_Itself(Virtual_Platform& World, Simulator& Sim, const Program_Options& Chosen,
+                    const Attachments& Beside) {
+    const std::int64_t End_us = Chosen.Duration_s ? static_cast<std::int64_t>(*Chosen.Duration_s * 1e6)
+                                                  : std::numeric_limits<std::int64_t>::max();
+    Pass_Virtual_Time(
+        World, Sim.Timers, End_us, [&] { return !Chosen.Duration_s && Beside.Script_Is_Done(); },
+        [] { QCoreApplication::processEvents(); });
+}
+
 int Run_In_Virtual_Time(const Program_Options& Chosen, const Front_End& Front) {
     Disk_Files Disk;
     Ini_Settings Settings(Settings_File_Of(Chosen));
@@ -170,26 +223,26 @@ int Run_In_Virtual_Time(const Program_Options& Chosen, const Front_End& Front) {
     Simulator& Sim = *Whole;
     if (!Front.Shows_Boxes) Tell_Boxes(Sim, Chosen.Hold_Boxes);
     Opened_Front Windows(Front, Sim);
+    Termination_Signals Signals([&Sim] { End_Program(Sim); });
     Automation_Hooks Hooks = Hooks_At(World.Time(), Front);
     Hooks.Advance = [&](double Seconds) {
-        World.Run_Until(Sim.Timers, World.Time().Wide_us() + static_cast<std::int64_t>(Seconds * 1e6));
+        const std::int64_t Until_us = World.Time().Wide_us() + static_cast<std::int64_t>(Seconds * 1e6);
+        Pass_Virtual_Time(
+            World, Sim.Timers, Until_us, [] { return false; }, [&] { Signals.Look(); });
     };
-    Attachments Beside(Sim, Chosen, Hooks);
+    Attachments Beside(Sim, Chosen, Front, Signals, Hooks);
     Sim.Windows.Event([&] { MDIForm_Load(Sim); });
     if (Front.Ready) Front.Ready(Sim);
     Beside.Begin(Sim);
-    if (!Chosen.Automation_Socket.empty() || Front.Shows_Boxes) {
-        std::cerr << Summary(Sim) << "Virtual time stands; automation lets it pass." << std::endl;
-        Termination_Signals Signals([&Sim] { End_Program(Sim); });
-        if (!World.Quitting) QCoreApplication::exec();
-    } else if (Chosen.Duration_s) {
-        World.Run_Until(Sim.Timers, static_cast<std::int64_t>(*Chosen.Duration_s * 1e6));
+    if (Chosen.Automation_Socket.empty()) {
+        Pass_By_Itself(World, Sim, Chosen, Beside);
     } else {
-        while (!World.Quitting && !Beside.Script_Is_Done() && Sim.Timers.Next_Due_us())
-            World.Run_Until(Sim.Timers, *Sim.Timers.Next_Due_us());
+        std::cerr << Summary(Sim) << "Virtual time stands; automation lets it pass." << std::endl;
+        if (!World.Quitting) QCoreApplication::exec();
     }
     End_Program(Sim);
-    return Beside.Exit_Status();
+    Print_Left_Boxes(Sim, Front);
+    return Beside.Finish(Sim);
 }
 
 int Run_In_Real_Time(const Program_Options& Chosen, const Front_End& Front) {
@@ -204,7 +257,7 @@ int Run_In_Real_Time(const Program_Options& Chosen, const Front_End& Front) {
     if (!Front.Shows_Boxes) Tell_Boxes(Sim, Chosen.Hold_Boxes);
     Opened_Front Windows(Front, Sim);
     Termination_Signals Signals([&Sim] { End_Program(Sim); });
-    Attachments Beside(Sim, Chosen, Hooks_At(World.Time(), Front));
+    Attachments Beside(Sim, Chosen, Front, Signals, Hooks_At(World.Time(), Front));
     Wake_Up Alarm(Sim.Timers);
     Sim.Windows.Event([&] { MDIForm_Load(Sim); });
     if (Front.Ready) Front.Ready(Sim);
@@ -212,12 +265,14 @@ int Run_In_Real_Time(const Program_Options& Chosen, const Front_End& Front) {
     std::cerr << Summary(Sim) << "Running. End with Ctrl-C." << std::endl;
     if (!Sim.Ended) QCoreApplication::exec();
     Print_Left_Boxes(Sim, Front);
-    return Beside.Exit_Status();
+    return Beside.Finish(Sim);
 }
 
 } // namespace
 
 int Run_Program(const Program_Options& Chosen, const Front_End& Front) {
+    if (!Chosen.Setup_File.empty()) Remove_Left_Files(Chosen.Setup_File);
+    Remove_Left_Files(Chosen.Data_Folder);
     return Chosen.Virtual ? Run_In_Virtual_Time(Chosen, Front) : Run_In_Real_Time(Chosen, Front);
 }
 

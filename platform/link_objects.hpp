@@ -74,6 +74,17 @@ class TCP_Listener {
     virtual void Close() = 0;
 };
 
+// A serial port made of software, of some other program on this machine.
+class Virtual_Port {
+  public:
+    virtual ~Virtual_Port() = default;
+
+    bool Created = false;
+    std::int16_t ComPort = 0;
+
+    virtual void DataToPort(std::string_view Text) = 0;
+};
+
 // A UDP socket that sends to one host, to a multicast group or to the broadcast address.
 class UDP_Socket {
   public:

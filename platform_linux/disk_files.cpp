@@ -10,6 +10,8 @@
 
 #include <array>
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -69,13 +71,28 @@ void Write_All(const Unique_Fd& File, std::string_view Bytes) {
     }
 }
 
+constexpr std::string_view Temporary_Start = ".brinewright-", Temporary_End = ".tmp";
+
+fs::path Folder_Of(const fs::path& Target) {
+    return Target.has_parent_path() ? Target.parent_path() : fs::path(".");
+}
+
+// Of ".brinewright-PID-TRIAL.tmp"; 0 for any other name.
+pid_t Process_Of(std::string_view Name) {
+    if (!Name.starts_with(Temporary_Start) || !Name.ends_with(Temporary_End)) return 0;
+    Name.remove_prefix(Temporary_Start.size());
+    pid_t Process = 0;
+    const auto [End, Failure] = std::from_chars(Name.data(), Name.data() + Name.size(), Process);
+    return Failure == std::errc() && Process > 0 && *End == '-' ? Process : 0;
+}
+
 // A new file that is removed again unless it is renamed to its place.
 class Temporary_File {
   public:
     explicit Temporary_File(const fs::path& Folder) {
         for (int Trial = 0; Trial < 100 && !File; ++Trial) {
-            Path = Folder /
-                   (".brinewright-" + std::to_string(::getpid()) + "-" + std::to_string(Trial) + ".tmp");
+            Path = Folder / (std::string(Temporary_Start) + std::to_string(::getpid()) + "-" +
+                             std::to_string(Trial) + std::string(Temporary_End));
             File = Unique_Fd(::open(Path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
             if (!File && errno != EEXIST) Throw_System_Error(errno);
         }
@@ -130,7 +147,7 @@ void Disk_Files::Replace(const std::string& Path, std::string_view Bytes) {
     if (Path.empty()) Throw_File_Error(ENOENT);
     const fs::path Target = Target_Of(Path);
     const auto Mode = Mode_Of_Replaceable(Target);
-    const fs::path Folder = Target.has_parent_path() ? Target.parent_path() : fs::path(".");
+    const fs::path Folder = Folder_Of(Target);
     Temporary_File Fresh(Folder);
     Write_All(Fresh.File, Bytes);
     if (Mode && ::fchmod(Fresh.File.Get(), *Mode) != 0) Throw_System_Error(errno);
@@ -147,6 +164,16 @@ void Disk_Files::Make_Folder(const std::string& Path) {
     fs::create_directories(Path, Failure);
     if (Failure) Throw_System_Error(Failure.value());
     if (!fs::is_directory(Path, Failure)) Throw_System_Error(ENOTDIR);
+}
+
+void Remove_Left_Files(const std::string& Path) noexcept try {
+    std::error_code Failure;
+    for (const auto& Entry : fs::directory_iterator(Folder_Of(Target_Of(Path)), Failure)) {
+        const pid_t Process = Process_Of(Entry.path().filename().native());
+        if (Process > 0 && ::kill(Process, 0) != 0 && errno == ESRCH) ::unlink(Entry.path().c_str());
+    }
+} catch (const std::exception&) {
+    // The program works without.
 }
 
 } // namespace brinewright

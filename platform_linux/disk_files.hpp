@@ -18,4 +18,8 @@ class Disk_Files final : public Files {
     void Make_Folder(const std::string& Path) override;
 };
 
+// Removes what runs that were killed while they replaced a file left beside Path: temporary files whose
+// process is gone. Path may be a file or a folder with its final separator. What cannot be removed stays.
+void Remove_Left_Files(const std::string& Path) noexcept;
+
 } // namespace brinewright

@@ -21,6 +21,7 @@ class Unique_Fd {
     ~Unique_Fd() { Reset(); }
 
     int Get() const { return Fd; }
+    int Release() { return std::exchange(Fd, -1); } // the caller's from now on
     explicit operator bool() const { return Fd >= 0; }
     void Reset() {
         if (Fd >= 0) ::close(Fd);

@@ -18,7 +18,8 @@ bool Is_Ignored(int Signal) {
 
 } // namespace
 
-Termination_Signals::Termination_Signals(std::function<void()> On_Terminate) {
+Termination_Signals::Termination_Signals(std::function<void()> Terminate)
+    : On_Terminate(std::move(Terminate)) {
     std::signal(SIGPIPE, SIG_IGN);
     sigset_t Wanted;
     sigemptyset(&Wanted);
@@ -32,12 +33,22 @@ Termination_Signals::Termination_Signals(std::function<void()> On_Terminate) {
         ::pthread_sigmask(SIG_SETMASK, &Mask_Before, nullptr);
         Throw_System_Error(Failure);
     }
-    Watch = Watch_Fd(Signals.Get(), QSocketNotifier::Read, [this, Terminate = std::move(On_Terminate)] {
-        signalfd_siginfo Told{};
-        if (::read(Signals.Get(), &Told, sizeof Told) == sizeof Told) Terminate();
-    });
+    Watch = Watch_Fd(Signals.Get(), QSocketNotifier::Read, [this] { Look(); });
 }
 
-Termination_Signals::~Termination_Signals() { ::pthread_sigmask(SIG_SETMASK, &Mask_Before, nullptr); }
+// Those that came while the program ends already must not kill it when they are let through again.
+Termination_Signals::~Termination_Signals() {
+    signalfd_siginfo Told{};
+    while (::read(Signals.Get(), &Told, sizeof Told) == sizeof Told) {
+    }
+    ::pthread_sigmask(SIG_SETMASK, &Mask_Before, nullptr);
+}
+
+void Termination_Signals::Look() {
+    signalfd_siginfo Told{};
+    if (::read(Signals.Get(), &Told, sizeof Told) != sizeof Told) return;
+    Has_Come = true;
+    On_Terminate();
+}
 
 } // namespace brinewright

@@ -9,17 +9,24 @@
 
 namespace brinewright {
 
-// SIGTERM, SIGINT and SIGHUP call On_Terminate from the event loop, as often as they come; SIGPIPE is
+// SIGTERM, SIGINT and SIGHUP call Terminate from the event loop, as often as they come; SIGPIPE is
 // ignored. A SIGHUP that was ignored at the start (nohup) stays ignored. Make it before any thread is
 // started, as threads take over what is blocked here. Throws Run_Time_Error.
 class Termination_Signals {
   public:
-    explicit Termination_Signals(std::function<void()> On_Terminate);
+    explicit Termination_Signals(std::function<void()> Terminate);
     ~Termination_Signals();
     Termination_Signals(const Termination_Signals&) = delete;
     Termination_Signals& operator=(const Termination_Signals&) = delete;
 
+    // Looks now, for work that gives the event loop no turn.
+    void Look();
+    bool Came() const { return Has_Come; }
+    int Fd() const { return Signals.Get(); } // readable: one has come that was not looked at
+
   private:
+    std::function<void()> On_Terminate;
+    bool Has_Come = false;
     sigset_t Mask_Before{};
     Unique_Fd Signals;
     std::unique_ptr<QSocketNotifier> Watch;

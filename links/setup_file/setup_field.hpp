@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace brinewright {
 
@@ -12,6 +14,7 @@ namespace brinewright {
 struct Setup_Reader {
     std::string_view Bytes;
     std::size_t Position = 0;
+    std::vector<const void*> Lost; // the variables of lines that could not be told apart, see Line_Is_Lost
 };
 
 struct Setup_Writer {
@@ -49,6 +52,11 @@ void Field(Setup_Writer& Writer, const std::int32_t& Value);
 void Field(Setup_Writer& Writer, const float& Value);
 void Field(Setup_Writer& Writer, const double& Value);
 void Field(Setup_Writer& Writer, const std::string& Value);
+
+// Whether the line on which the reader stands was written with decimal commas: it has more fields than it is
+// to have, up to one more for each decimal number. Nobody can tell where one number ends, so the reader goes
+// to the next line, and what the line holds is lost.
+bool Line_Is_Lost(Setup_Reader& Reader, std::size_t Fields, std::size_t Decimal_Numbers);
 
 // A count of records that follow, 0 to Last. Any other count throws Run_Time_Error "Subscript out of range"
 // before it is stored or written: nobody is to meet it in the state.

@@ -1,6 +1,7 @@
 #include "links/setup_file/setup_file.hpp"
 #include "links/setup_file/setup_sections.hpp"
 #include "links/setup_file/setup_sentences.hpp"
+#include "platform/run_time_error.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -33,24 +34,27 @@ void Write_Marker(Setup_Writer& Writer, std::string_view Marker) {
 
 } // namespace
 
-bool Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Windows) {
+Setup_Reading Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Windows) {
     bool Known = false;
-    Setup_Reader Reader{Bytes};
+    bool Cut_Off = !Bytes.empty() && Bytes.back() != '\n' && Bytes.back() != '\r';
+    Setup_Reader Reader{Bytes, 0, {}};
     if (Bytes.starts_with(UTF8_Mark)) Reader.Position = UTF8_Mark.size();
     const auto Sentences = Kept_Sentences(State, Windows);
     const auto Later = Later_Sections(Sentences);
     while (!At_End(Reader)) {
         // Whatever is not a known marker is passed over field by field: unknown sections, junk, surplus
         // fields.
-        const std::string_view Text = Next_Field(Reader).Text;
-        if (!Text.starts_with("REM")) continue;
-        const Setup_Section* Section = Find_Section(Text);
-        if (!Section && std::find(Later.begin(), Later.end(), Text) == Later.end()) continue;
+        const Raw_Field Next = Next_Field(Reader);
+        Cut_Off |= !Next.Closed;
+        if (!Next.Text.starts_with("REM")) continue;
+        const Setup_Section* Section = Find_Section(Next.Text);
+        if (!Section && std::find(Later.begin(), Later.end(), Next.Text) == Later.end()) continue;
         if (Section) Section->Read(Reader, State);
-        Read_Sentences(Reader, Sentences, Text);
+        Read_Sentences(Reader, Sentences, Next.Text);
         Known = true;
     }
-    return Known;
+    if (Known && Cut_Off) throw Run_Time_Error(error_text::Type_Mismatch);
+    return {Known, std::move(Reader.Lost)};
 }
 
 std::string Write_Setup(const Simulator_State& State, Window_Span Windows) {

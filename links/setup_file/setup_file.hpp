@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace brinewright {
 
@@ -17,13 +18,27 @@ namespace brinewright {
 // The table of windows: it says where the choices of the sentences stand and what they start with.
 using Window_Span = std::span<const Window_Class* const>;
 
+struct Setup_Reading {
+    bool Known = false;            // a section was known: otherwise this is no setup file
+    std::vector<const void*> Lost; // variables of lines that were written with decimal commas
+};
+
 // Reads the sections of Bytes into State, in whatever order they stand. A section that is missing leaves its
 // part of State alone, and bytes without a marker change nothing. Lines may end in CR LF, LF or CR. Throws
-// Run_Time_Error: Type mismatch (a field of the wrong form), Overflow (a number too large for its variable),
+// Run_Time_Error: Type mismatch (a field of the wrong form, which is also a quotation mark that stays open
+// and a last line without its end: the file was cut off), Overflow (a number too large for its variable),
 // Input past end of file, or Subscript out of range (more windows than the list holds). What was read up to
-// there stays in State. Values are not looked at beyond their form: a port number, an index or an interval
-// may be anything. True when a known section was found: otherwise this is no setup file.
-bool Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Windows);
+// there stays in State. Values are not looked at beyond their form: see Repair_Values.
+Setup_Reading Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Windows);
+
+// Gives each kept variable its default that is Lost or holds what neither a control nor the program could
+// have given it, and comes back with their addresses. Zero and empty are always right.
+std::vector<const void*> Repair_Values(Simulator_State& State, const std::vector<const void*>& Lost,
+                                       Window_Span Windows);
+
+// What of a setup the user sets, to be compared: without what moves while the simulator runs and without the
+// places of windows.
+std::string Settings_Text(Simulator_State& State, Window_Span Windows);
 
 // The bytes of State as a setup file, all sections in their fixed order, lines ending in CR LF. Reading them
 // gives back what is kept, with these exceptions: in a text a line break becomes a blank, and a quotation

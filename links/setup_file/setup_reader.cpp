@@ -2,6 +2,7 @@
 #include "platform/run_time_error.hpp"
 #include "platform/trimmed.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <system_error>
 
@@ -95,6 +96,22 @@ Raw_Field Next_Field(Setup_Reader& Reader) {
     }
     Skip_Separator(Reader);
     return Raw;
+}
+
+bool Line_Is_Lost(Setup_Reader& Reader, std::size_t Fields, std::size_t Decimal_Numbers) {
+    const std::string_view Bytes = Reader.Bytes;
+    const std::size_t First = Reader.Position;
+    // Lines may be joined, since commas and line ends part fields alike: only a line of its own is judged.
+    if (Decimal_Numbers == 0 || (First > 0 && !Is_Line_End(Bytes[First - 1]))) return false;
+    const std::size_t End = std::min(Bytes.find_first_of("\r\n", First), Bytes.size());
+    const std::string_view Line = Bytes.substr(First, End - First);
+    if (static_cast<std::size_t>(std::count(Line.begin(), Line.end(), ',')) < Fields) return false;
+    std::size_t Count = 0;
+    for (Setup_Reader Rest{Line, 0, {}}; !At_End(Rest); ++Count) Next_Field(Rest);
+    if (Count <= Fields || Count > Fields + Decimal_Numbers) return false;
+    Reader.Position = End;
+    Skip_Separator(Reader);
+    return true;
 }
 
 void Field(Setup_Reader& Reader, bool& Value) {

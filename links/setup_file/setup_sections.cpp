@@ -1,6 +1,7 @@
 #include "links/setup_file/setup_sections.hpp"
 #include "extra/extra_state.hpp"
 #include "gnss/gnss_state.hpp"
+#include "links/setup_file/setup_line.hpp"
 #include "ownship/autopilot/autopilot_state.hpp"
 #include "ownship/navdata_state.hpp"
 #include "radar/gullwatch_state.hpp"
@@ -14,112 +15,110 @@
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
 
-#include <type_traits>
-
 namespace brinewright {
 
 namespace {
 
-// Below, W is a reader or a writer and S the state to fill or to tell.
+// What the variables are held to. All of them may be zero or empty, which is what a file leaves that lacks
+// their section. A place in a list is looked at where the list is.
+constexpr Setup_Limits Mode{.Words = Setup_Words::Mode};
+constexpr Setup_Limits Talker{.Words = Setup_Words::Talker};
+constexpr Setup_Limits Latitude{-90, 90}, Longitude{-180, 180};
+constexpr Setup_Limits Latitude_Rad{-1.571, 1.571}, Longitude_Rad{-3.142, 3.142};
+constexpr Setup_Limits Direction{-360, 360}, Variation{-180, 180};
+constexpr Setup_Limits Ship_Limit{0, 1000}; // knots, or degrees per minute
+constexpr Setup_Limits IP_Port{0, 65535}, Port_Number{0, 28}, Baud_Rate{0, 4'000'000};
+constexpr Setup_Limits Position_Decimals{0, 6}, Time_Decimals{0, 2}, Gyro_Decimals{0, 3};
+constexpr Setup_Limits Zone_Offset{-14 * 60, 14 * 60}, Sixty{0, 59};
+constexpr Setup_Limits Target_Count{0, 10}, Random_Count{0, 100};
 
-template <class Walker, class... Values>
-void Fields(Walker& W, Values&... V) {
-    (Field(W, V), ...);
+// Below, W is a reader, a writer or a list of the variables, and S the state to fill or to tell.
+
+template <class Area, class State>
+auto& Of(State& S) {
+    return S.template Of<Area>();
 }
-
-template <class Walker, class... Values>
-void Line(Walker& W, Values&... V) {
-    Fields(W, V...);
-    End_Line(W);
-}
-
-template <class State>
-inline constexpr bool Is_Read = !std::is_const_v<State>;
 
 template <class Walker, class State>
 void Serial_Port_Lines(Walker& W, State& S) {
     for (int N = 1; N <= 16; ++N) {
-        auto& P = S.template Of<Link_State>().Port_Table[N];
+        auto& P = Of<Link_State>(S).Port_Table[N];
         Line(W, P.Present, P.Enabled);
-        Line(W, P.BaudRate, P.DataBits, P.Parity, P.StopBits);
+        Line(W, Held(P.BaudRate, Baud_Rate), P.DataBits, P.Parity, P.StopBits);
     }
 }
 
 template <class Walker, class State>
 void UDP_Link_Lines(Walker& W, State& S, int First, int Last) {
     for (int N = First; N <= Last; ++N)
-        Line(W, S.template Of<Link_State>().Port_Table[N + 17].Present,
-             S.template Of<Link_State>().Port_Table[N + 17].Enabled,
-             S.template Of<Link_State>().UDP_Port_Number[N - 1]);
+        Line(W, Of<Link_State>(S).Port_Table[N + 17].Present, Of<Link_State>(S).Port_Table[N + 17].Enabled,
+             Held(Of<Link_State>(S).UDP_Port_Number[N - 1], IP_Port));
 }
 
 template <class Walker, class State>
 void Sensor_Lines(Walker& W, State& S, int First, int Last) {
     for (int N = First; N <= Last; ++N)
-        Line(W, S.template Of<Link_State>().Sensor_Table[N].Name,
-             S.template Of<Link_State>().Sensor_Table[N].Port);
+        Line(W, Of<Link_State>(S).Sensor_Table[N].Name,
+             Held(Of<Link_State>(S).Sensor_Table[N].Port, Port_Number));
 }
 
 template <class Walker, class State>
 void Open_Form_Lines(Walker& W, State& S) {
-    Count_Field(W, S.template Of<Shell_State>().Open_Form_Count,
-                S.template Of<Shell_State>().Open_Form_List.Last_Index);
+    Count_Field(W, Of<Shell_State>(S).Open_Form_Count, Of<Shell_State>(S).Open_Form_List.Last_Index);
     End_Line(W);
-    for (int N = 1; N <= S.template Of<Shell_State>().Open_Form_Count; ++N) {
-        auto& E = S.template Of<Shell_State>().Open_Form_List[N];
-        Line(W, E.Name, E.Index, E.Top, E.Left, E.Height, E.Width);
+    for (int N = 1; N <= Of<Shell_State>(S).Open_Form_Count; ++N) {
+        auto& E = Of<Shell_State>(S).Open_Form_List[N];
+        Line(W, Moving(E.Name), Moving(E.Index), Moving(E.Top), Moving(E.Left), Moving(E.Height),
+             Moving(E.Width));
     }
 }
 
 // Ten targets, however many are live.
 template <class Walker, class State, class Target_Line>
 void Target_Lines(Walker& W, State& S, Target_Line Fields_Of) {
-    for (int N = 1; N <= 10; ++N) Fields_Of(W, S.template Of<Radar_State>().ARPA_Target[N]);
+    for (int N = 1; N <= 10; ++N) Fields_Of(W, Of<Radar_State>(S).ARPA_Target[N]);
 }
 
 template <class Walker, class State>
 void Navdata_Lines(Walker& W, State& S) {
-    auto& D = S.template Of<Navdata_State>();
-    Line(W, D.Nav_Lat, D.Nav_Lon);
-    Line(W, D.Nav_SOG, D.Nav_COG);
-    Line(W, D.Nav_HDG, D.Nav_Rudder);
-    Line(W, S.template Of<Echo_State>().Echo_Depth);
-    auto& Wind = S.template Of<Wind_State>();
-    Line(W, Wind.Wind_Speed[1], Wind.Wind_Direction[1]);
-    Line(W, S.template Of<Shell_State>().Freeze_Active);
+    auto& D = Of<Navdata_State>(S);
+    Line(W, Moving(D.Nav_Lat, Latitude), Moving(D.Nav_Lon, Longitude));
+    Line(W, Moving(D.Nav_SOG), Moving(D.Nav_COG, Direction));
+    Line(W, Moving(D.Nav_HDG, Direction), Moving(D.Nav_Rudder));
+    Line(W, Moving(Of<Echo_State>(S).Echo_Depth));
+    auto& Wind = Of<Wind_State>(S);
+    Line(W, Moving(Wind.Wind_Speed[1]), Moving(Wind.Wind_Direction[1], Direction));
+    Line(W, Moving(Of<Shell_State>(S).Freeze_Active));
 }
 
 template <class Walker, class State>
 void Current_Navdata_Lines(Walker& W, State& S) {
-    Line(W, S.template Of<Shell_State>().Start_With_Last_Navdata);
-    if (Is_Read<State> && !S.template Of<Shell_State>().Start_With_Last_Navdata) {
-        Simulator_State Thrown_Away;
-        Navdata_Lines(W, Thrown_Away);
-    } else {
-        Navdata_Lines(W, S);
-    }
+    Line(W, Of<Shell_State>(S).Start_With_Last_Navdata);
+    if constexpr (Is_Reader<Walker>)
+        if (!Of<Shell_State>(S).Start_With_Last_Navdata) {
+            Simulator_State Thrown_Away;
+            return Navdata_Lines(W, Thrown_Away);
+        }
+    Navdata_Lines(W, S);
 }
 
 template <class Walker, class State>
 void Single_Noise_Lines(Walker& W, State& S, int Instance) {
-    Line(W, S.template Of<Log_State>().Log_Noise_Enabled[Instance],
-         S.template Of<Log_State>().Log_Noise_Level[Instance]);
-    Line(W, S.template Of<Echo_State>().Echo_Noise_Enabled[Instance],
-         S.template Of<Echo_State>().Echo_Noise_Level[Instance]);
-    auto& Level = S.template Of<Wind_State>().Wind_Noise_Level[Instance];
-    Line(W, S.template Of<Wind_State>().Wind_Noise_Enabled[Instance], Level[0], Level[1]);
+    Line(W, Of<Log_State>(S).Log_Noise_Enabled[Instance], Of<Log_State>(S).Log_Noise_Level[Instance]);
+    Line(W, Of<Echo_State>(S).Echo_Noise_Enabled[Instance], Of<Echo_State>(S).Echo_Noise_Level[Instance]);
+    auto& Level = Of<Wind_State>(S).Wind_Noise_Level[Instance];
+    Line(W, Of<Wind_State>(S).Wind_Noise_Enabled[Instance], Level[0], Level[1]);
 }
 
 template <class Walker, class State>
 void Noise_Lines(Walker& W, State& S) {
     for (int I = 1; I <= 2; ++I)
-        Line(W, S.template Of<GNSS_State>().GNSS_Noise_Enabled[I],
-             S.template Of<GNSS_State>().GNSS_Noise_Index[I],
-             S.template Of<GNSS_State>().GNSS_Noise_Accumulated[I]);
+        Line(W, Of<GNSS_State>(S).GNSS_Noise_Enabled[I], Of<GNSS_State>(S).GNSS_Noise_Index[I],
+             Of<GNSS_State>(S).GNSS_Noise_Accumulated[I]);
     for (int I = 1; I <= 2; ++I) {
-        auto& Level = S.template Of<Gyro_State>().Gyro_Noise_Level[I];
-        Line(W, S.template Of<Gyro_State>().Gyro_Noise_Enabled[I],
-             S.template Of<Gyro_State>().Gyro_Noise_Accumulated[I], Level[0], Level[1], Level[2], Level[3]);
+        auto& Level = Of<Gyro_State>(S).Gyro_Noise_Level[I];
+        Line(W, Of<Gyro_State>(S).Gyro_Noise_Enabled[I], Of<Gyro_State>(S).Gyro_Noise_Accumulated[I],
+             Level[0], Level[1], Level[2], Level[3]);
     }
     Single_Noise_Lines(W, S, 1);
 }
@@ -127,60 +126,66 @@ void Noise_Lines(Walker& W, State& S) {
 // The second instances, which were added late.
 template <class Walker, class State>
 void Second_Instance_Lines(Walker& W, State& S) {
-    Line(W, S.template Of<Log_State>().Log_Speed[2], S.template Of<Wind_State>().Wind_Speed[2],
-         S.template Of<Wind_State>().Wind_Direction[2], S.template Of<Wind_State>().Wind_Relative_Ref[2]);
+    auto& Wind = Of<Wind_State>(S);
+    Line(W, Moving(Of<Log_State>(S).Log_Speed[2]), Moving(Wind.Wind_Speed[2]),
+         Moving(Wind.Wind_Direction[2], Direction), Wind.Wind_Relative_Ref[2]);
     Single_Noise_Lines(W, S, 2);
-    Line(W, S.template Of<Log_State>().Log_Talker[2], S.template Of<Echo_State>().Echo_Talker[2],
-         S.template Of<Wind_State>().Wind_Talker[2]);
+    Line(W, Held(Of<Log_State>(S).Log_Talker[2], Talker), Held(Of<Echo_State>(S).Echo_Talker[2], Talker),
+         Held(Wind.Wind_Talker[2], Talker));
 }
 
 template <class Walker, class State>
 void Random_ARPA_Lines(Walker& W, State& S) {
-    // The targets themselves are not kept, so a run starts without any, and a count is read but never set.
-    std::int16_t Count = S.template Of<Radar_State>().ARPA_Random_Count;
-    Line(W, Count, S.template Of<Radar_State>().ARPA_Max_Range, S.template Of<Radar_State>().ARPA_Max_Speed);
-    if constexpr (Is_Read<State>) S.template Of<Radar_State>().ARPA_Random_Count = 0;
+    auto& R = Of<Radar_State>(S);
+    if constexpr (Is_Reader<Walker>) {
+        // The targets themselves are not kept, so a run starts without any, and a count is read but never
+        // set.
+        std::int16_t Count = 0;
+        Line(W, Count, R.ARPA_Max_Range, R.ARPA_Max_Speed);
+        R.ARPA_Random_Count = 0;
+    } else {
+        Line(W, Moving(R.ARPA_Random_Count, Random_Count), R.ARPA_Max_Range, R.ARPA_Max_Speed);
+    }
 }
 
 template <class Walker, class State>
 void GNSS_Configuration_Lines(Walker& W, State& S) {
     for (int N = 1; N <= 6; ++N) {
-        Line(W, S.template Of<GNSS_State>().GNSS_System_Used[N][1],
-             S.template Of<GNSS_State>().GNSS_System_Used[N][2]);
-        Line(W, S.template Of<GNSS_State>().GNSS_System_Mode[N][1],
-             S.template Of<GNSS_State>().GNSS_System_Mode[N][2]);
+        Line(W, Of<GNSS_State>(S).GNSS_System_Used[N][1], Of<GNSS_State>(S).GNSS_System_Used[N][2]);
+        Line(W, Of<GNSS_State>(S).GNSS_System_Mode[N][1], Of<GNSS_State>(S).GNSS_System_Mode[N][2]);
     }
-    Line(W, S.template Of<GNSS_State>().GNS_Mode_Indicator[1],
-         S.template Of<GNSS_State>().GNS_Mode_Indicator[2], S.template Of<GNSS_State>().GNSS_Systems_Text[1],
-         S.template Of<GNSS_State>().GNSS_Systems_Text[2], S.template Of<GNSS_State>().GNS_Talker[1],
-         S.template Of<GNSS_State>().GNS_Talker[2]);
+    Line(W, Of<GNSS_State>(S).GNS_Mode_Indicator[1], Of<GNSS_State>(S).GNS_Mode_Indicator[2],
+         Of<GNSS_State>(S).GNSS_Systems_Text[1], Of<GNSS_State>(S).GNSS_Systems_Text[2],
+         Held(Of<GNSS_State>(S).GNS_Talker[1], Talker), Held(Of<GNSS_State>(S).GNS_Talker[2], Talker));
 }
 
 // The settings of an additional sensor of any kind.
 template <class Walker, class Sensor>
-void Extra_Fields(Walker& W, Sensor& X, const Extra_Kind& Kind) {
-    Fields(W, X.Active, X.UDP_Port, X.Msg, X.Reference, X.Offset_Type);
-    for (int I = 0; I <= 1; ++I)
-        if (Kind[static_cast<std::size_t>(I)]) Field(W, X.Offset[I]);
-    Line(W, X.Interval, X.Sync);
+void Extra_Line(Walker& W, Sensor& X, const Extra_Kind& Kind) {
+    if (Kind[1])
+        Line(W, X.Active, Held(X.UDP_Port, IP_Port), X.Msg, X.Reference, X.Offset_Type, X.Offset[0],
+             X.Offset[1], X.Interval, X.Sync);
+    else
+        Line(W, X.Active, Held(X.UDP_Port, IP_Port), X.Msg, X.Reference, X.Offset_Type, X.Offset[0],
+             X.Interval, X.Sync);
 }
 
 // Additional sensor K is slot K + 3 of the GNSS configuration.
 template <class Walker, class State>
 void GNSSX_Lines(Walker& W, State& S) {
-    auto& X = S.template Of<Extra_State>();
-    auto& G = S.template Of<GNSS_State>();
+    auto& X = Of<Extra_State>(S);
+    auto& G = Of<GNSS_State>(S);
     for (int K = 0; K <= 3; ++K) {
-        Extra_Fields(W, X.Extra_GNSS[K], Extra_GNSS_Kind);
+        Extra_Line(W, X.Extra_GNSS[K], Extra_GNSS_Kind);
         for (int I = 1; I <= 2; ++I)
             Line(W, X.Sync_GGA[I][K], X.Sync_GLL[I][K], X.Sync_RMC[I][K], X.Sync_GNS[I][K]);
-        Line(W, G.GNS_Mode_Indicator[K + 3], G.GNSS_Systems_Text[K + 3], G.GNS_Talker[K + 3]);
+        Line(W, G.GNS_Mode_Indicator[K + 3], G.GNSS_Systems_Text[K + 3], Held(G.GNS_Talker[K + 3], Talker));
     }
 }
 
 template <class Walker, class State>
 void GNSSX_Configuration_Lines(Walker& W, State& S) {
-    auto& G = S.template Of<GNSS_State>();
+    auto& G = Of<GNSS_State>(S);
     for (int K = 0; K <= 3; ++K)
         for (int N = 1; N <= 6; ++N) Line(W, G.GNSS_System_Used[N][K + 3], G.GNSS_System_Mode[N][K + 3]);
 }
@@ -190,7 +195,7 @@ void GNSSX_Configuration_Lines(Walker& W, State& S) {
 template <class Walker, class Sensors, class... Syncs>
 void ExtraX_Lines(Walker& W, Sensors& Of_Kind, const Extra_Kind& Kind, Syncs&... Sync) {
     for (int K = 0; K <= 3; ++K) {
-        Extra_Fields(W, Of_Kind[K], Kind);
+        Extra_Line(W, Of_Kind[K], Kind);
         Line(W, Sync[1][K]...);
     }
 }
@@ -198,7 +203,7 @@ void ExtraX_Lines(Walker& W, Sensors& Of_Kind, const Extra_Kind& Kind, Syncs&...
 // The walk as a function of either kind.
 template <class Walk>
 constexpr Setup_Section Section(std::string_view Marker, Walk Fields_Of) {
-    return {Marker, Fields_Of, Fields_Of};
+    return {Marker, Fields_Of, Fields_Of, Fields_Of};
 }
 
 // A section of sentences alone.
@@ -208,30 +213,31 @@ constexpr Setup_Section Sentences_Only(std::string_view Marker) {
 
 // clang-format off
 constexpr Setup_Section Sections[] = {
-    Section("REM Mode", [](auto& W, auto& S) { Line(W, S.template Of<Shell_State>().Mode); }),
+    Section("REM Mode", [](auto& W, auto& S) { Line(W, Held(Of<Shell_State>(S).Mode, Mode)); }),
     Section("REM Comport settings", [](auto& W, auto& S) {
-        Line(W, S.template Of<Link_State>().Comport_Count);
+        Line(W, Of<Link_State>(S).Comport_Count);
         Serial_Port_Lines(W, S);
     }),
     Section("REM TCP/IP settings", [](auto& W, auto& S) {
-        Line(W, S.template Of<Link_State>().Port_Table[17].Present, S.template Of<Link_State>().Port_Table[17].Enabled, S.template Of<Link_State>().TCP_Port);
+        Line(W, Of<Link_State>(S).Port_Table[17].Present, Of<Link_State>(S).Port_Table[17].Enabled, Held(Of<Link_State>(S).TCP_Port, IP_Port));
     }),
     Section("REM Sensor settings", [](auto& W, auto& S) { Sensor_Lines(W, S, 1, 8); }),
     Section("REM Open forms", [](auto& W, auto& S) { Open_Form_Lines(W, S); }),
     Section("REM Public variables", [](auto& W, auto& S) {
-        Line(W, S.template Of<Navdata_State>().Start_Lat, S.template Of<Navdata_State>().Start_Lon);
-        Line(W, S.template Of<Navdata_State>().Max_Speed_Ahead, S.template Of<Navdata_State>().Max_Speed_Astern, S.template Of<Navdata_State>().Max_Rudder);
-        Line(W, S.template Of<Navdata_State>().Magnetic_Variation);
-        Line(W, S.template Of<Navdata_State>().Lat_Offset, S.template Of<Navdata_State>().Lon_Offset, S.template Of<Gyro_State>().Gyro_Offset[1], S.template Of<Gyro_State>().Gyro_Offset[2], S.template Of<Log_State>().Log_Offset[1]);
+        Line(W, Held(Of<Navdata_State>(S).Start_Lat, Latitude), Held(Of<Navdata_State>(S).Start_Lon, Longitude));
+        Line(W, Held(Of<Navdata_State>(S).Max_Speed_Ahead, Ship_Limit), Held(Of<Navdata_State>(S).Max_Speed_Astern, Ship_Limit), Held(Of<Navdata_State>(S).Max_Rudder, Ship_Limit));
+        Line(W, Held(Of<Navdata_State>(S).Magnetic_Variation, Variation));
+        Line(W, Of<Navdata_State>(S).Lat_Offset, Of<Navdata_State>(S).Lon_Offset, Of<Gyro_State>(S).Gyro_Offset[1], Of<Gyro_State>(S).Gyro_Offset[2], Of<Log_State>(S).Log_Offset[1]);
     }),
     Section("REM Startpositions", [](auto& W, auto& S) {
-        for (int I = 1; I <= 2; ++I) Line(W, S.template Of<GNSS_State>().GNSS_Start_Lat[I], S.template Of<GNSS_State>().GNSS_Start_Lon[I]);
+        for (int I = 1; I <= 2; ++I) Line(W, Moving(Of<GNSS_State>(S).GNSS_Start_Lat[I], Latitude), Moving(Of<GNSS_State>(S).GNSS_Start_Lon[I], Longitude));
     }),
     Section("REM ARPA settings", [](auto& W, auto& S) {
-        Line(W, S.template Of<Radar_State>().ARPA_Target_Count);
+        Line(W, Held(Of<Radar_State>(S).ARPA_Target_Count, Target_Count));
         Target_Lines(W, S, [](auto& V, auto& T) {
-            Line(V, T.Name, T.Reference, T.Status, T.Acquisition, T.Bearing, T.Course, T.Distance, T.Lat,
-                 T.Lat_Rad, T.Lon, T.Lon_Rad, T.Speed, T.CPA, T.TCPA);
+            Line(V, T.Name, T.Reference, T.Status, T.Acquisition, Moving(T.Bearing, Direction),
+                 Held(T.Course, Direction), Moving(T.Distance), Moving(T.Lat, Latitude), Moving(T.Lat_Rad, Latitude_Rad),
+                 Moving(T.Lon, Longitude), Moving(T.Lon_Rad, Longitude_Rad), T.Speed, Moving(T.CPA), Moving(T.TCPA));
         });
     }),
     Sentences_Only("REM Active messages"),
@@ -240,7 +246,7 @@ constexpr Setup_Section Sections[] = {
     Sentences_Only("REM TTD messages"),
     Section("REM Additional TTD data", [](auto& W, auto& S) {
         Target_Lines(W, S, [](auto& V, auto& T) {
-            Line(V, T.AIS_Heading, T.AIS_Mode, T.Op_Mode, T.Speed_Mode, T.Stab_Mode, T.Corr_No);
+            Line(V, Held(T.AIS_Heading, Direction), T.AIS_Mode, T.Op_Mode, T.Speed_Mode, T.Stab_Mode, T.Corr_No);
         });
     }),
     Section("REM Additional TTD Invalid data", [](auto& W, auto& S) {
@@ -249,48 +255,48 @@ constexpr Setup_Section Sections[] = {
         });
     }),
     Section("REM No of decimals", [](auto& W, auto& S) {
-        Line(W, S.template Of<GNSS_State>().GNSS_Decimals_Position[1], S.template Of<GNSS_State>().GNSS_Decimals_Position[2]);
-        Line(W, S.template Of<GNSS_State>().GNSS_Decimals_Time[1], S.template Of<GNSS_State>().GNSS_Decimals_Time[2]);
-        Line(W, S.template Of<Gyro_State>().Gyro_Decimals[1], S.template Of<Gyro_State>().Gyro_Decimals[2]);
+        Line(W, Held(Of<GNSS_State>(S).GNSS_Decimals_Position[1], Position_Decimals), Held(Of<GNSS_State>(S).GNSS_Decimals_Position[2], Position_Decimals));
+        Line(W, Held(Of<GNSS_State>(S).GNSS_Decimals_Time[1], Time_Decimals), Held(Of<GNSS_State>(S).GNSS_Decimals_Time[2], Time_Decimals));
+        Line(W, Held(Of<Gyro_State>(S).Gyro_Decimals[1], Gyro_Decimals), Held(Of<Gyro_State>(S).Gyro_Decimals[2], Gyro_Decimals));
     }),
     Sentences_Only("REM THS messages"),
-    Section("REM frmTCPIP position", [](auto& W, auto& S) { Line(W, S.template Of<Link_State>().frmTCPIP_Left, S.template Of<Link_State>().frmTCPIP_Top); }),
-    Section("REM Autopilot", [](auto& W, auto& S) { Line(W, S.template Of<Autopilot_State>().Autopilot_Mode, S.template Of<Autopilot_State>().Route_File); }),
+    Section("REM frmTCPIP position", [](auto& W, auto& S) { Line(W, Moving(Of<Link_State>(S).frmTCPIP_Left), Moving(Of<Link_State>(S).frmTCPIP_Top)); }),
+    Section("REM Autopilot", [](auto& W, auto& S) { Line(W, Of<Autopilot_State>(S).Autopilot_Mode, Of<Autopilot_State>(S).Route_File); }),
     Section("REM Current navdata", [](auto& W, auto& S) { Current_Navdata_Lines(W, S); }),
     Section("REM Noise", [](auto& W, auto& S) { Noise_Lines(W, S); }),
     Section("REM ShipNoise", [](auto& W, auto& S) {
-        Line(W, S.template Of<Navdata_State>().Ship_SOG_Noise_Index, S.template Of<Navdata_State>().Ship_ROT_Noise_Index);
+        Line(W, Of<Navdata_State>(S).Ship_SOG_Noise_Index, Of<Navdata_State>(S).Ship_ROT_Noise_Index);
     }),
-    Section("REM WindReference", [](auto& W, auto& S) { Line(W, S.template Of<Wind_State>().Wind_Relative_Ref[1]); }),
+    Section("REM WindReference", [](auto& W, auto& S) { Line(W, Of<Wind_State>(S).Wind_Relative_Ref[1]); }),
     Section("REM Talker ID", [](auto& W, auto& S) {
-        Line(W, S.template Of<GNSS_State>().GNSS_Talker[1], S.template Of<GNSS_State>().GNSS_Talker[2], S.template Of<Gyro_State>().Gyro_Talker[1], S.template Of<Gyro_State>().Gyro_Talker[2]);
-        Line(W, S.template Of<Log_State>().Log_Talker[1], S.template Of<Echo_State>().Echo_Talker[1], S.template Of<Radar_State>().ARPA_Talker, S.template Of<Wind_State>().Wind_Talker[1]);
+        Line(W, Held(Of<GNSS_State>(S).GNSS_Talker[1], Talker), Held(Of<GNSS_State>(S).GNSS_Talker[2], Talker), Held(Of<Gyro_State>(S).Gyro_Talker[1], Talker), Held(Of<Gyro_State>(S).Gyro_Talker[2], Talker));
+        Line(W, Held(Of<Log_State>(S).Log_Talker[1], Talker), Held(Of<Echo_State>(S).Echo_Talker[1], Talker), Held(Of<Radar_State>(S).ARPA_Talker, Talker), Held(Of<Wind_State>(S).Wind_Talker[1], Talker));
     }),
-    Section("REM UTCOffset", [](auto& W, auto& S) { Line(W, S.template Of<UTC_State>().UTC_Offset_Hours); }),
+    Section("REM UTCOffset", [](auto& W, auto& S) { Line(W, Held(Of<UTC_State>(S).UTC_Offset_Hours, Zone_Offset)); }),
     Sentences_Only("REM GST messages"),
     Sentences_Only("REM TLB messages"),
-    Section("REM TTD Protocol 1", [](auto& W, auto& S) { Line(W, S.template Of<Radar_State>().TTD_Protocol1_Enabled); }),
+    Section("REM TTD Protocol 1", [](auto& W, auto& S) { Line(W, Of<Radar_State>(S).TTD_Protocol1_Enabled); }),
     Section("REM TTD Protocol 1 Invalid data", [](auto& W, auto& S) {
         Target_Lines(W, S, [](auto& V, auto& T) { Line(V, T.CPA_NA, T.TCPA_NA); });
     }),
     Section("REM Random ARPA", [](auto& W, auto& S) { Random_ARPA_Lines(W, S); }),
     Section("REM UDP settings", [](auto& W, auto& S) { UDP_Link_Lines(W, S, 1, 1); }),
-    Section("REM Use UTC", [](auto& W, auto& S) { Line(W, S.template Of<UTC_State>().Use_UTC); }),
+    Section("REM Use UTC", [](auto& W, auto& S) { Line(W, Of<UTC_State>(S).Use_UTC); }),
     Section("REM Extended UDP settings", [](auto& W, auto& S) { UDP_Link_Lines(W, S, 2, 8); }),
     Section("REM IEC 61162-450 extended", [](auto& W, auto& S) {
-        Line(W, S.template Of<IEC450_State>().IEC450_Enabled, S.template Of<IEC450_State>().Use_c_Tag, S.template Of<IEC450_State>().Use_d_Tag, S.template Of<IEC450_State>().Use_d2_Tag, S.template Of<IEC450_State>().d_Tag, S.template Of<IEC450_State>().d2_Tag, S.template Of<IEC450_State>().Use_g_Tag,
-             S.template Of<IEC450_State>().Use_n_Tag, S.template Of<IEC450_State>().Use_s_Tag, S.template Of<IEC450_State>().s_Tag, S.template Of<IEC450_State>().Use_t_Tag, S.template Of<IEC450_State>().t_Tag);
+        Line(W, Of<IEC450_State>(S).IEC450_Enabled, Of<IEC450_State>(S).Use_c_Tag, Of<IEC450_State>(S).Use_d_Tag, Of<IEC450_State>(S).Use_d2_Tag, Of<IEC450_State>(S).d_Tag, Of<IEC450_State>(S).d2_Tag, Of<IEC450_State>(S).Use_g_Tag,
+             Of<IEC450_State>(S).Use_n_Tag, Of<IEC450_State>(S).Use_s_Tag, Of<IEC450_State>(S).s_Tag, Of<IEC450_State>(S).Use_t_Tag, Of<IEC450_State>(S).t_Tag);
     }),
-    Section("REM UDP Mode", [](auto& W, auto& S) { Line(W, S.template Of<Link_State>().UDP_Mode, S.template Of<Link_State>().UDP_Remote_Host); }),
-    Section("REM LatLon Format", [](auto& W, auto& S) { Line(W, S.template Of<Shell_State>().LatLon_Format); }),
-    Section("REM UdPbC header", [](auto& W, auto& S) { Line(W, S.template Of<IEC450_State>().UdPbC_Header_Enabled); }),
+    Section("REM UDP Mode", [](auto& W, auto& S) { Line(W, Of<Link_State>(S).UDP_Mode, Of<Link_State>(S).UDP_Remote_Host); }),
+    Section("REM LatLon Format", [](auto& W, auto& S) { Line(W, Of<Shell_State>(S).LatLon_Format); }),
+    Section("REM UdPbC header", [](auto& W, auto& S) { Line(W, Of<IEC450_State>(S).UdPbC_Header_Enabled); }),
     Sentences_Only("REM VLW Message"),
-    Section("REM UTC Offset Minutes", [](auto& W, auto& S) { Line(W, S.template Of<UTC_State>().UTC_Offset_Minutes); }),
+    Section("REM UTC Offset Minutes", [](auto& W, auto& S) { Line(W, Held(Of<UTC_State>(S).UTC_Offset_Minutes, Sixty)); }),
     Section("REM Gullwatch Connection", [](auto& W, auto& S) {
-        Line(W, S.template Of<Gullwatch_State>().Gullwatch_Remote_PC, S.template Of<Gullwatch_State>().Gullwatch_Remote_IP, S.template Of<Gullwatch_State>().Gullwatch_Bind_Port, S.template Of<Gullwatch_State>().Gullwatch_Remote_Port);
+        Line(W, Of<Gullwatch_State>(S).Gullwatch_Remote_PC, Of<Gullwatch_State>(S).Gullwatch_Remote_IP, Held(Of<Gullwatch_State>(S).Gullwatch_Bind_Port, IP_Port), Held(Of<Gullwatch_State>(S).Gullwatch_Remote_Port, IP_Port));
     }),
     Section("REM UTC Offset GNSS2", [](auto& W, auto& S) {
-        Line(W, S.template Of<UTC_State>().GNSS2_UTC_Offset_Hours, S.template Of<UTC_State>().GNSS2_UTC_Offset_Minutes, S.template Of<UTC_State>().GNSS2_UTC_Offset_Seconds);
+        Line(W, Held(Of<UTC_State>(S).GNSS2_UTC_Offset_Hours, Zone_Offset), Held(Of<UTC_State>(S).GNSS2_UTC_Offset_Minutes, Sixty), Held(Of<UTC_State>(S).GNSS2_UTC_Offset_Seconds, Sixty));
     }),
     Section("REM Sensor settings v6", [](auto& W, auto& S) { Sensor_Lines(W, S, 9, 11); }),
     Section("REM Utvidelser v6", [](auto& W, auto& S) { Second_Instance_Lines(W, S); }),
@@ -300,19 +306,19 @@ constexpr Setup_Section Sections[] = {
     Section("REM GNSSX", [](auto& W, auto& S) { GNSSX_Lines(W, S); }),
     Section("REM GNSSX Configuration", [](auto& W, auto& S) { GNSSX_Configuration_Lines(W, S); }),
     Section("REM GyroX", [](auto& W, auto& S) {
-        auto& X = S.template Of<Extra_State>();
+        auto& X = Of<Extra_State>(S);
         ExtraX_Lines(W, X.Extra_Gyro, Extra_Gyro_Kind, X.Sync_HDT, X.Sync_THS, X.Sync_ROT);
     }),
     Section("REM LogX", [](auto& W, auto& S) {
-        auto& X = S.template Of<Extra_State>();
+        auto& X = Of<Extra_State>(S);
         ExtraX_Lines(W, X.Extra_Log, Extra_Log_Kind, X.Sync_VHW, X.Sync_VBW);
     }),
     Section("REM EchosounderX", [](auto& W, auto& S) {
-        auto& X = S.template Of<Extra_State>();
+        auto& X = Of<Extra_State>(S);
         ExtraX_Lines(W, X.Extra_Echo, Extra_Echo_Kind, X.Sync_DBT, X.Sync_DPT);
     }),
     Section("REM WindX", [](auto& W, auto& S) {
-        auto& X = S.template Of<Extra_State>();
+        auto& X = Of<Extra_State>(S);
         ExtraX_Lines(W, X.Extra_Wind, Extra_Wind_Kind, X.Sync_MWV, X.Sync_MWD);
     }),
 };

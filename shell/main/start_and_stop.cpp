@@ -49,6 +49,7 @@ void Load_First_Setup(Simulator& Sim) {
     }
     Sim.Windows.Boxes.Show("No setupfile exist. Default data loaded and no comports initialized ! ");
     Load_Default_Data(Sim.State, Sim.Window_Table);
+    Sim.Setup_File = File;
     Open_Window(Sim, "frmSetup");
 }
 
@@ -89,8 +90,9 @@ void Open_Saved_Windows(Simulator& Sim) {
 
 void MDIForm_Unload(Simulator& Sim) {
     // Child windows go first, each adding itself to the list of open windows: in the order in which they lie
-    // upon each other, so that they lie so again. One that fails to (the list is full) is told in a box, and
-    // the end goes on.
+    // upon each other, so that they lie so again. One that fails to is told in a box, and
+    // the end goes on. Those that were closed before do not come back: the list begins anew.
+    Sim.State.Of<Shell_State>().Open_Form_Count = 0;
     auto Open_Now = Sim.Windows.Forms;
     std::stable_sort(Open_Now.begin(), Open_Now.end(),
                      [](const auto& A, const auto& B) { return A->Last_Active < B->Last_Active; });
@@ -130,6 +132,7 @@ void MDIForm_Load(Simulator& Sim) {
     if (auto* const Ship = Open_One<frmShip>(Sim))
         Start_Joystick(Sim, *Ship); // once more: it may have come while the windows opened
     if (S.Of<Link_State>().Control_Input_Enabled) Start_Control_Input(Sim);
+    Settle_Setup(Sim);
 }
 
 std::unique_ptr<Simulator> Make_Simulator(Platform& Its_Platform, Start_Options Its_Options) {

@@ -10,15 +10,19 @@ namespace brinewright {
 
 void Keep_Place(Simulator& Sim, const Form& Window) {
     Simulator_State& S = Sim.State;
-    // The list is full at 20 entries: the subscript failure that follows is required.
-    Open_Form_Entry& Entry = S.Of<Shell_State>().Open_Form_List[S.Of<Shell_State>().Open_Form_Count + 1];
+    std::int16_t& Count = S.Of<Shell_State>().Open_Form_Count;
+    // The list is full at 20 entries: the subscript failure that follows is required. It is not to come again
+    // with each further try, so the list begins anew behind it.
+    const int Place = Count + 1;
+    if (Place > S.Of<Shell_State>().Open_Form_List.Last_Index) Count = 0;
+    Open_Form_Entry& Entry = S.Of<Shell_State>().Open_Form_List[Place];
     Entry.Name = Window.Name;
     Entry.Index = static_cast<std::int16_t>(Val(Window.Tag));
     Entry.Top = Window.Top;
     Entry.Left = Window.Left;
     Entry.Height = Window.Height;
     Entry.Width = Window.Width;
-    ++S.Of<Shell_State>().Open_Form_Count;
+    ++Count;
 }
 
 void Restore_Place(const Simulator& Sim, Form& Window) {

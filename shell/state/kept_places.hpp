@@ -7,7 +7,7 @@ namespace brinewright {
 struct Simulator;
 
 // Appends the window's name, form index (its Tag) and place to Open_Form_List. Throws the subscript failure
-// when the list of 20 is full.
+// when the list of 20 is full, which begins anew then.
 void Keep_Place(Simulator& Sim, const Form& Window);
 
 // Applies the place of the first entry of Open_Form_List with the window's form index (its Tag); does nothing

@@ -38,6 +38,7 @@ struct Link_Table {
     std::unique_ptr<TCP_Connection> Gone_Connection; // the last one that went, see its closing
     Table<std::unique_ptr<UDP_Socket>, 0, 10> WinsockUDP;
     std::unique_ptr<UDP_Socket> WinsockQuillon; // the control input, when it is on
+    std::unique_ptr<Virtual_Port> vCom;         // nobody makes one, see SendVirtualData
     bool Control_Input_Warned = false;          // it has told that it needs Ship mode
     std::string Rx_Buffer; // received text without its line feed yet; one for all serial ports
 };

@@ -59,8 +59,11 @@ struct Simulator {
     const std::span<const Window_Class* const> Window_Table; // every kind of window that there is
     std::shared_ptr<Form> Main;                              // the container window, until the program ends
 
+    std::string Setup_File;       // from which the state was read last, or as which it was saved
+    std::string Saved_Settings;   // what the user had set then, see Setup_Is_Saved
     std::string Unreadable_Setup; // the setup file that failed to load; the save at the end leaves it alone
-    bool Ended = false;           // frmMain has unloaded
+    bool Save_At_End_Failed = false;
+    bool Ended = false; // frmMain has unloaded
 };
 
 } // namespace brinewright

@@ -1,11 +1,14 @@
 """From start to end: setups good and bad, options, signals, and what is saved."""
 
+import fcntl
 import os
 import signal
 import socket
+import subprocess
+import time
 import unittest
 
-from harness import Program, Refused, Setup, TcpClient, TestCase, free_port
+from harness import HEADLESS, Program, Refused, Setup, TcpClient, TestCase, free_port
 
 FALLEN_BACK = "  Default data loaded"
 
@@ -24,10 +27,10 @@ class Saving(TestCase):
         self.assertEqual(first.stop(signal.SIGINT), 0, first.stderr.text())
         saved = Setup()
         saved.lines = first.setup_file.read_bytes().decode("latin-1").split("\r\n")
-        # Closed and open windows alike stand in the list, in the order of their unloading.
+        # Those that were open at the end stand in the list.
         places = [saved.row("Open forms", row) for row in range(1, 1 + int(saved.row("Open forms", 0)))]
-        self.assertEqual([place.split(",")[:2] for place in places], [['"frmPosition"', "1"], ['"frmPosition"', "2"]])
-        self.assertEqual(places[1].split(",")[3], "4321")
+        self.assertEqual([place.split(",")[:2] for place in places], [['"frmPosition"', "2"]])
+        self.assertEqual(places[0].split(",")[3], "4321")
         self.assertEqual(saved.row("Active messages", 0), "#TRUE#,4")
 
         second = Program(self, folder=first.folder)
@@ -38,6 +41,24 @@ class Saving(TestCase):
         self.assertEqual(second.stop(signal.SIGTERM), 0, second.stderr.text())
         saved.lines = second.setup_file.read_bytes().decode("latin-1").split("\r\n")
         self.assertEqual(saved.row("Mode", 0), '"Ship"')
+
+    def test_a_virtual_run_of_its_own_ends_at_a_signal_too(self):
+        for how in (signal.SIGTERM, signal.SIGINT):
+            folder = self.new_folder()
+            record = folder / "rec"
+            run = subprocess.Popen([HEADLESS, "--data-folder", folder, "--virtual", "--duration", "1e9", "--record", record])
+            deadline = time.monotonic() + 20
+            while not record.exists() and time.monotonic() < deadline:
+                time.sleep(0.05)
+            time.sleep(0.3)
+            run.send_signal(how)
+            self.assertEqual(run.wait(20), 0)
+            self.assertTrue((folder / "Brinewright.ini").read_bytes().startswith(b'"REM Mode"'))
+
+    def test_a_save_that_fails_at_the_end_is_told_and_in_the_status(self):
+        place = self.new_folder()
+        done = self.run_to_end("--data-folder", place, "--setup", place / "no/such/x.ini", "--virtual", "--duration", 1, status=3)
+        self.assertIn(f"could not be saved as {place}/no/such/x.ini: No such file or directory", done.stderr.decode())
 
     def test_no_save_leaves_the_bytes(self):
         setup = Setup().tcp(free_port()).open_windows(1).only(1, "GGA")
@@ -123,7 +144,7 @@ class Options(TestCase):
     def test_wrong_options_are_told_in_one_line(self):
         place = self.new_folder()
         (place / "script").write_text("1 {nonsense\n")
-        cases = ["--bogus", "surplus", "--duration", "--duration 0", "--duration nan", "--instance 4", "--seed x", "--com 17=/dev/x",
+        cases = ["--bogus", "surplus", "--duration", "--duration 0", "--duration nan", "--instance 4", "--seed x", "--seed -1", "--seed 18446744073709551616", "--com 17=/dev/x",
                  "--com 1=", "--setup=", "--virtual", "--virtual --duration 1 --start-time yesterday", "--start-time 2026-01-01",
                  f"--data-folder {place} --virtual --script {place}/script", f"--data-folder {place} --virtual --script {place}/none",
                  f"--data-folder {place} --virtual --duration 1 --record {place}/none/x",
@@ -135,6 +156,7 @@ class Options(TestCase):
                 self.assertRegex(done.stderr.decode(), r"\Abrinewright-headless: [^\n]+\n\Z")
 
     def test_help_tells_every_option(self):
+        self.assertEqual(self.run_to_end("--version").stdout, b"Brinewright 7.00 2026-04-21\n")
         text = self.run_to_end("--help").stdout.decode()
         for option in ("setup FILE", "no-save", "data-folder DIR", "instance 1|2|3", "com N=DEVICE", "stdout", "record FILE",
                        "script FILE", "automation PATH", "hold-boxes", "seed N", "duration S", "virtual", "start-time ISO"):
@@ -171,7 +193,31 @@ class RealTime(TestCase):
         program.told("stdout: Broken pipe; nothing more is written to it")
         program.told("/dev/full: No space left on device; nothing more is written to it")
         self.assert_valid(TcpClient(tcp, self).lines(3))
+        self.assertEqual(program.stop(), 3, program.stderr.text())  # the recording is not there
+
+    def test_a_pipe_that_nobody_reads_holds_nothing_up(self):
+        reading, writing = os.pipe()
+        self.addCleanup(os.close, reading)
+        fcntl.fcntl(writing, fcntl.F_SETPIPE_SZ, 4096)
+        tcp = free_port()
+        program = Program(self, "--stdout", setup=Setup().tcp(tcp).open_windows(1).dense(1), stdout=writing)
+        os.close(writing)
+        TcpClient(tcp, self).lines(100)  # more than the pipe holds
         self.assertEqual(program.stop(), 0, program.stderr.text())
+        self.assertRegex(program.stderr.text(), r"stdout: \d+ sentences dropped\n")
+        text = os.read(reading, 65536)
+        self.assert_valid(text.decode().split("\r\n")[:-1])
+        self.assertTrue(text.endswith(b"\r\n"))
+
+    def test_what_a_killed_run_left_is_removed(self):
+        folder = self.new_folder()
+        gone = subprocess.Popen(["true"])
+        gone.wait()
+        left, foreign = folder / f".brinewright-{gone.pid}-0.tmp", folder / f".brinewright-{os.getpid()}-0.tmp"
+        left.touch(), foreign.touch()
+        self.run_to_end("--data-folder", folder, "--virtual", "--duration", 1)
+        self.assertFalse(left.exists())
+        self.assertTrue(foreign.exists())
 
     def test_a_held_box_stops_output_until_it_is_answered(self):
         tcp = free_port()

@@ -1,6 +1,7 @@
 #include "automation/script.hpp"
 #include "tests/automation/little_desktop.hpp"
 #include "tests/fuzz/require.hpp"
+#include "tests/fuzz/some_inputs.hpp"
 
 #include <nlohmann/json.hpp>
 
@@ -18,35 +19,57 @@ void Check_Response(const nlohmann::json& Response) {
     }
 }
 
-} // namespace
+void Check_Line(const std::string& Response) {
+    Require(Response.find('\n') == std::string::npos);
+    const auto Parsed = nlohmann::json::parse(Response);
+    Require(!Parsed.empty());
+    if (Parsed.is_array())
+        for (const auto& One : Parsed) Check_Response(One);
+    else
+        Check_Response(Parsed);
+}
 
-// Whatever the lines are, each is answered by what JSON-RPC allows, and so is each change that is pushed. The
-// same bytes as a script are refused, or play to their end.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
-    const std::string_view All(reinterpret_cast<const char*>(Data), Size);
-    Little_Desktop Desk;
-    Desk.Hooks_Limit_s = 5;
-    for (std::string_view Rest = All; !Rest.empty();) {
-        const std::size_t Length = std::min(Rest.find('\n'), Rest.size());
-        const std::string Response = Desk.Session.Handle_Line(Rest.substr(0, Length));
-        Rest.remove_prefix(std::min(Length + 1, Rest.size()));
-        if (Response.empty()) continue;
-        Require(Response.find('\n') == std::string::npos);
-        const auto Parsed = nlohmann::json::parse(Response);
-        Require(!Parsed.empty());
-        if (Parsed.is_array())
-            for (const auto& One : Parsed) Check_Response(One);
-        else
-            Check_Response(Parsed);
+// The desktop that takes all inputs. What one of them has operated is made anew for the next.
+Little_Desktop& Untouched_Desktop() {
+    static std::unique_ptr<Little_Desktop> Desk;
+    static std::uint64_t Revision = 0;
+    static std::int64_t Time_us = 0;
+    if (!Desk || Desk->Windows.Revision != Revision || Desk->Timers.Time.Wide_us() != Time_us) {
+        Desk = std::make_unique<Little_Desktop>();
+        Desk->Hooks_Limit_s = 5;
+        Revision = Desk->Windows.Revision;
+        Time_us = Desk->Timers.Time.Wide_us();
     }
-    for (const std::string& Line : Desk.Pushed) Require(nlohmann::json::parse(Line)["method"] == "changed");
+    Desk->Pushed.clear();
+    return *Desk;
+}
 
-    Little_Desktop Stage;
+void Play_As_Script(std::string_view All) {
     std::vector<Script_Line> Lines;
-    if (!Read_Script(All, Lines).empty()) return 0;
+    if (!Read_Script(All, Lines).empty()) return;
+    Little_Desktop Stage;
     const double End_s = Lines.empty() ? 0 : static_cast<double>(Lines.back().Due_us) / 1e6 + 1;
     Script_Player Player(Stage.Target(), Stage.Hooks(), std::move(Lines));
     Stage.Advance(End_s);
     Require(Player.Is_Done());
+}
+
+} // namespace
+
+// Whatever the lines are, each is answered by what JSON-RPC allows, and so is each change that is pushed. The
+// same bytes as a script are refused, or play to their end, which some of them have to show.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size) {
+    const std::string_view All(reinterpret_cast<const char*>(Data), Size);
+    Little_Desktop& Desk = Untouched_Desktop();
+    Automation_Session Session(Desk.Target(), Desk.Hooks());
+    Session.Push = Desk.Session.Push;
+    for (std::string_view Rest = All; !Rest.empty();) {
+        const std::size_t Length = std::min(Rest.find('\n'), Rest.size());
+        const std::string Response = Session.Handle_Line(Rest.substr(0, Length));
+        Rest.remove_prefix(std::min(Length + 1, Rest.size()));
+        if (!Response.empty()) Check_Line(Response);
+    }
+    for (const std::string& Line : Desk.Pushed) Require(nlohmann::json::parse(Line)["method"] == "changed");
+    if (Is_One_Of_Some(Data, Size)) Play_As_Script(All);
     return 0;
 }

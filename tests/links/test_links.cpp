@@ -1,6 +1,8 @@
 // The links: how they are opened, what comes in on them, and the list of those in use.
 
 #include "links/port_list.hpp"
+#include "links/port_setup/frm_virtual_port.hpp"
+#include "links/virtual_port.hpp"
 #include "platform/form.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
@@ -189,6 +191,35 @@ TEST(UDP_Links, Arriving_Datagrams_Show_On_The_Extended_Monitor_Only) {
     Link.Arrive("c");
     EXPECT_TRUE(Open_One<frmExtendedMonitor>(V.Sim)->txtInput.Text().ends_with("xabc"));
     EXPECT_TRUE(Link.Received.empty());
+}
+
+struct Played_Virtual_Port : Virtual_Port {
+    void DataToPort(std::string_view Text) override { Taken += Text; }
+    std::string Taken;
+};
+
+TEST(Virtual_Port, Is_Idle_Until_Its_Option_Its_Number_And_Its_Activity_Are_There) {
+    Virtual_Simulator V;
+    SendVirtualData(V.Sim, "nobody");
+    auto Made = std::make_unique<Played_Virtual_Port>();
+    const Played_Virtual_Port& Port = *Made;
+    V.Sim.Links.vCom = std::move(Made);
+    V.Links().Port_Table[1].Present = true;
+    V.Sim.Windows.Event([&] { Open_Window(V.Sim, frmVirtualPort::Class_Name); });
+    auto& Chosen = *Open_One<frmVirtualPort>(V.Sim);
+    EXPECT_EQ(Chosen.Caption, "Virtual Port Setup");
+    EXPECT_EQ(Chosen.cmbVirtualPort.Items().size(), 15u);
+    Chosen.cmbVirtualPort.Choose_Data(2);
+    V.Click(Chosen.cmdOK);
+    EXPECT_EQ(V.Links().Virtual_Port_Number, 2);
+    Activate_Virtual_Port(V.Sim);
+    SendVirtualData(V.Sim, "not created");
+    V.Links().Virtual_Port_Option = true;
+    SendVirtualData(V.Sim, "a");
+    EXPECT_EQ(Port.ComPort, 2);
+    Deactivate_Virtual_Port(V.Sim);
+    SendVirtualData(V.Sim, "b");
+    EXPECT_EQ(Port.Taken, "a");
 }
 
 TEST(Port_List, Offers_The_Links_In_Use_With_Their_Numbers) {

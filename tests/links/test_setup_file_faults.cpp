@@ -1,3 +1,4 @@
+#include "shell/main/setup_names.hpp"
 #include "tests/links/test_setup_file_support.hpp"
 
 #include <chrono>
@@ -109,7 +110,7 @@ TEST(Setup_File_Faults, Bytes_That_Are_No_Setup_Change_Nothing) {
 }
 
 // The failure, if any, is one of the told kinds, and the state can be saved and read again afterwards.
-void Expect_Sound_Outcome(const std::string& Bytes, const std::string& Hint) {
+std::string Expect_Sound_Outcome(const std::string& Bytes, const std::string& Hint) {
     Simulator_State State;
     const std::string Failure = Failure_Of(Bytes, State);
     const bool Known = Failure.empty() || Failure == error_text::Past_End_Of_File ||
@@ -119,12 +120,56 @@ void Expect_Sound_Outcome(const std::string& Bytes, const std::string& Hint) {
     const std::string Saved = Write_Setup(State, All_Windows());
     EXPECT_EQ(Failure_Of(Saved, State), "") << Hint;
     EXPECT_TRUE(Write_Setup(State, All_Windows()) == Saved) << Hint; // too long to be printed
+    return Failure;
 }
 
 TEST(Setup_File_Faults, Cut_At_Every_Byte) {
     const std::string Bytes = File_Of(All_Texts(Filled_State(5)));
-    for (std::size_t Length = 0; Length < Bytes.size(); ++Length)
-        Expect_Sound_Outcome(Bytes.substr(0, Length), " cut at " + std::to_string(Length));
+    const std::size_t Known_From = Bytes.find("\"REM Comport");
+    for (std::size_t Length = 0; Length < Bytes.size(); ++Length) {
+        const std::string Told =
+            Expect_Sound_Outcome(Bytes.substr(0, Length), " cut at " + std::to_string(Length));
+        const bool In_Line = Length > Known_From && Bytes[Length - 1] != '\r' && Bytes[Length - 1] != '\n';
+        EXPECT_TRUE(!In_Line || !Told.empty()) << Length;
+    }
+    EXPECT_EQ(Failure_Of(Bytes + "\"REM Unknown\"\r\n\"open\r\n"), "Type mismatch");
+}
+
+// What no control could give becomes the default of its field; all else stays, also what lies on its limit.
+TEST(Setup_File_Faults, Values_That_Cannot_Be) {
+    struct Case {
+        const char *Section, *Wrong;
+        std::vector<std::string> Repaired;
+    };
+    const Case Cases[] = {
+        {"Mode", "\"ship\"", {"Mode"}},
+        {"Startpositions", "90.1,-180.1\n90,180", {"GNSS_Start_Lat[1]", "GNSS_Start_Lon[1]"}},
+        {"Startpositions", "62,5,6.17\n-90,-180", {"GNSS_Start_Lat[1]", "GNSS_Start_Lon[1]"}},
+        {"Startpositions", "1,2\n62,5,6,25", {"GNSS_Start_Lat[2]", "GNSS_Start_Lon[2]"}},
+        {"Startpositions", "1,2,3,4,5,6", {}}, // joined lines, and more of them
+        {"ShipNoise", "1000000,999999", {"Ship_SOG_Noise_Index"}},
+        {"TCP/IP settings", "#TRUE#,#TRUE#,65536", {"TCP_Port"}},
+        {"Talker ID",
+         "\"G\x01\",\"gp\",\"\",\"HEX\"\n\"1W\",\"S-\",\"RA\",\"WI\"",
+         {"GNSS_Talker[1]", "Gyro_Talker[2]", "Echo_Talker[1]"}},
+        {"UDP Mode", "1,\"10.0.0.1\x7F\"", {"UDP_Remote_Host"}},
+        {"Current navdata", "#FALSE#\n200,0\n0,0\n0,0\n0\n0,0\n#FALSE#", {}}, // thrown away
+        {"Current navdata", "#TRUE#\n200,0\n0,0\n0,0\n0\n0,361\n#FALSE#", {"Nav_Lat", "Wind_Direction[1]"}},
+    };
+    Simulator_State Defaults;
+    Load_Default_Data(Defaults, All_Windows());
+    Simulator_State State = Defaults;
+    EXPECT_TRUE(Repair_Values(State, {}, All_Windows()).empty());
+    const Texts Right = All_Texts(Defaults);
+    for (const Case& C : Cases) {
+        State = Defaults;
+        const auto Reading =
+            Read_Setup(std::string("\"REM ") + C.Section + "\"\n" + C.Wrong + "\n", State, All_Windows());
+        const auto Repaired = Repair_Values(State, Reading.Lost, All_Windows());
+        EXPECT_EQ(Names_Of(State, Repaired), C.Repaired) << C.Wrong;
+        for (const std::string& Name : C.Repaired)
+            EXPECT_EQ(All_Texts(State).at(Name), Right.at(Name)) << Name;
+    }
 }
 
 TEST(Setup_File_Faults, Cut_Behind_Every_Line_Keeps_The_Lines_Before) {

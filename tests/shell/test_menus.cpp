@@ -64,6 +64,9 @@ TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
     EXPECT_EQ(Take_Boxes(), Texts{"Subscript out of range"});
     EXPECT_EQ(Disk.Content.at(Setup_Name), Before);
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
+    Click(Main().Item("mnuFileSave")); // the list has begun anew
+    EXPECT_EQ(Take_Boxes(), Texts{Saved_Box});
+    EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_Count, 2);
 }
 
 TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
@@ -77,8 +80,9 @@ TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
         EXPECT_EQ(Dialog.Filter, "Brinewright setup files (*.ini)|*.ini");
         EXPECT_EQ(Dialog.Default_Extension, ".ini");
         EXPECT_EQ(Dialog.Folder, "/data/");
-        Answer_File("/tmp/mine.ini");
+        Answer_File(Save == 1 ? "/tmp/mine" : "/tmp/mine.ini");
         EXPECT_EQ(Take_Boxes(), Texts{"Setup saved as /tmp/mine.ini"});
+        EXPECT_TRUE(Setup_Is_Saved(Sim));
         EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_Count, 1);
         EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_List[1].Index, 2);
         EXPECT_EQ(Shell().Open_Form_Count, 0);
@@ -92,7 +96,8 @@ TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
     Choose_Menu("mnuFileSaveAs");
     Answer_File("/tmp/mine.ini");
     Choose_Menu("mnuFileSave");
-    EXPECT_EQ(Take_Boxes(), (Texts{"Disk full", "Disk full"}));
+    EXPECT_EQ(Take_Boxes(), (Texts{"The setup could not be saved as /tmp/mine.ini: Disk full",
+                                   "The setup could not be saved as /data/Brinewright.ini: Disk full"}));
 }
 
 TEST_F(Menus, Open_Replaces_The_Session) {
@@ -145,6 +150,23 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     World.Log.clear();
     Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
     EXPECT_EQ(World.Log, (Texts{"COM 10 open 4800,n,8,1", "COM 11 close", "listen close"}));
+
+    // Every check of the menus follows what was read.
+    for (const bool On : {true, false}) {
+        Other.Of<Shell_State>().Mode = On ? "Ship" : "Sensor";
+        Other.Of<Shell_State>().Start_With_Last_Navdata = Other.Of<IEC450_State>().IEC450_Enabled = On;
+        Disk.Content["/tmp/other.ini"] = Write_Setup(Other, All_Windows());
+        Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
+        for (const char* Item : {"mnuSetupStartOption", "mnuOptionIEC450"})
+            EXPECT_EQ(*Main().Item(Item).Checked, On) << Item;
+        EXPECT_EQ(*Main().Item("mnuMode", 1).Checked, On);
+        EXPECT_EQ(*Main().Item("mnuMode", 2).Checked, !On);
+        EXPECT_EQ(*Main().Item("mnuSetupShip").Enabled, On);
+        EXPECT_TRUE(Setup_Is_Saved(Sim));
+    }
+    Click(Main().Item("mnuSetupStartOption"));
+    EXPECT_FALSE(Setup_Is_Saved(Sim));
+    Take_Boxes();
 
     // One that cannot be read: told, and the defaults.
     Disk.Content["/tmp/other.ini"] = "\"REM UTCOffset\"\r\n99999\r\n";

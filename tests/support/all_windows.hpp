@@ -61,6 +61,7 @@ struct Every_Window : Virtual_Simulator {
         Sim.State.Of<Link_State>().Ports_Initialised = false;
         Choose_Menu("mnuSetupPort");
         Click(Open_One<frmSetup>(Sim)->cmdComInfo);
+        Sim.Windows.Event([&] { Open_Window(Sim, "frmVirtualPort"); }); // no menu does
         Run_s(0.0775);
     }
 };

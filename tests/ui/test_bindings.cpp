@@ -250,7 +250,7 @@ struct Bindings : testing::Test, Shown_Desktop {
 TEST_F(Bindings, Every_Control_Of_Every_Window_Has_A_Widget_Bound_Both_Ways) {
     Open();
     Open_Every_Window();
-    ASSERT_EQ(Sim.Windows.Forms.size(), 22U);
+    ASSERT_EQ(Sim.Windows.Forms.size(), 23U);
     std::size_t Count = 0;
     for (const auto& F : Sim.Windows.Forms)
         if (F != Sim.Main) Count += Check_Window(*F);

@@ -1,5 +1,6 @@
 #include "ui/desktop/desktop_view.hpp"
 
+#include "shell/main/file_menu.hpp"
 #include "shell/main/frm_main.hpp"
 #include "ui/desktop/box_view.hpp"
 #include "ui/desktop/form_window.hpp"
@@ -9,6 +10,8 @@
 #include "ui/desktop/working_area.hpp"
 
 #include <QCloseEvent>
+#include <QFile>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
@@ -21,6 +24,7 @@ namespace brinewright {
 namespace {
 
 constexpr int Look_Pause_ms = 50; // 20 looks a second: figures and sentences cannot be read faster
+constexpr int Saved_Pause_ms = 1000;
 constexpr std::int64_t Look_Takes_us = 12'000;
 constexpr int Postponed_Looks_Limit = 10;
 
@@ -41,6 +45,10 @@ Desktop_View::Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme)
     connect(Boxes, &Box_View::Acted, this, &Desktop_View::Follow);
     Look.setSingleShot(true);
     connect(&Look, &QTimer::timeout, this, &Desktop_View::Look_Between_Ticks);
+    Title_Later.setSingleShot(true);
+    connect(&Title_Later, &QTimer::timeout, this, [this] {
+        if (Sim.Main && !Sim.Ended) Follow_Title();
+    });
     connect(&Colours, &Theme::Changed, this, [this] {
         Sim.Windows.Revision++;
         Look_Soon();
@@ -89,8 +97,20 @@ void Desktop_View::Follow() {
     Boxes->Follow();
 }
 
+// Whether it is saved is reckoned from the whole setup, so once a second at most.
+void Desktop_View::Follow_Title() {
+    if (Saved_Looked.isValid() && Saved_Looked.elapsed() < Saved_Pause_ms) {
+        if (!Title_Later.isActive()) Title_Later.start(Saved_Pause_ms);
+        return;
+    }
+    Saved_Looked.start();
+    const QString File = QFileInfo(QFile::decodeName(Sim.Setup_File.c_str())).fileName();
+    const QString Star = Setup_Is_Saved(Sim) ? QString() : QStringLiteral(" *");
+    setWindowTitle(To_Screen(Sim.Main->Caption) + (File.isEmpty() ? QString() : "  -  " + File + Star));
+}
+
 void Desktop_View::Follow_Main() {
-    setWindowTitle(To_Screen(Sim.Main->Caption));
+    Follow_Title();
     Menus->Follow();
     Panels->Follow();
     Strip->Follow();

@@ -3,6 +3,7 @@
 #include "shell/state/simulator.hpp"
 #include "ui/binder/form_view.hpp"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -45,6 +46,7 @@ class Desktop_View : public QMainWindow {
     void Report_Place();
     void Follow_Windows();
     void Follow_Main();
+    void Follow_Title();
     // A type of its own, so that the view finds its hook again among others.
     struct Settled_Hook {
         Desktop_View& View;
@@ -61,6 +63,8 @@ class Desktop_View : public QMainWindow {
     Link_Panels* Panels;
     Box_View* Boxes;
     QTimer Look;
+    QTimer Title_Later;
+    QElapsedTimer Saved_Looked;
     std::map<const Form*, std::unique_ptr<Form_Window>> Shown;
     std::uint64_t Seen = 0;
     int Postponed_Looks = 0;
