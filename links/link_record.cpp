@@ -75,6 +75,8 @@ std::string Why_Nothing_Leaves(const Simulator& Sim, int Port) {
     return {};
 }
 
+bool Link_Has_Failed(const Simulator& Sim, int Port) { return Is_Port(Port) && !Record_Of(Sim, Port).Open; }
+
 void Note_Wanted(Simulator& Sim) {
     for (int Port = 1; Port <= port_number::Last; ++Port) {
         Link_Record& R = Own(Sim, Port);

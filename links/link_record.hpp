@@ -20,6 +20,9 @@ bool Output_Leaves(const Simulator& Sim, int Port);
 // not in use", "no link is chosen", "output is paused". Empty while it leaves.
 std::string Why_Nothing_Leaves(const Simulator& Sim, int Port);
 
+// The link is wanted, or was chosen for sentences, and is not open.
+bool Link_Has_Failed(const Simulator& Sim, int Port);
+
 // The full name of link Port (1 to 28), as it stands in its record.
 std::string Full_Link_Name(const Simulator& Sim, int Port);
 

@@ -14,4 +14,9 @@ std::string UDP_Destination(const Simulator& Sim);
 // UDP_Port_Number name now; both are read again only here. A failure is told in a box.
 void Open_UDP(Simulator& Sim, std::int16_t K);
 
+// The same without a word. Empty, or the system's text of what went wrong.
+std::string Try_UDP(Simulator& Sim, std::int16_t K);
+
+void Close_UDP(Simulator& Sim, std::int16_t K); // the setup uses it no more
+
 } // namespace brinewright

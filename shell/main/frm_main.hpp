@@ -21,6 +21,14 @@ struct frmMain : Form {
 
     std::vector<std::unique_ptr<Menu_Item>> Menu_Items;
     Control_Array<Label, 1, 16> sbStatusBar; // one panel for each serial port
+    // The links of the setup, by port number; a click opens the port setup, or the link when it is closed.
+    Control_Array<Label, 1, 28> sbLink;
+    Label sbLinksClosed{*this, "sbLinksClosed", "Links are closed", "Click to open the links of the setup"};
+    // What the user must not overlook while it holds.
+    Label lblFaults{*this, "lblFaults", "", "Chosen in the menu Options"};
+    Label lblOutputHeld{*this, "lblOutputHeld", "Output is held while a message stands",
+                        "Answer the message, and sentences leave again"};
+    Label lblOutputPaused{*this, "lblOutputPaused", "Output is paused", "Click to let sentences leave again"};
     Timer timer_Sky{*this, "timer_Sky"};
 
     Menu_Item& Item(const char* Item_Name,
@@ -41,6 +49,9 @@ void mnuMode_Click(Simulator& Sim, int Index);
 
 // The text of a window's entry, "GNSS 1"; empty when no menu opens it.
 std::string Entry_Text(const Window_Class& Class, int Instance);
+
+void Wire_Link_Panels(Simulator& Sim);
+void Wire_Output_Strip(Simulator& Sim);
 
 // Connects menus and status bar with what they do and with the state that they show.
 void Wire_Main(Simulator& Sim);
