@@ -19,9 +19,13 @@ std::string Device_Name(Simulator& Sim, int Port) {
     return Name.size() <= Longest_Device ? Name : "..." + Name.substr(Name.size() - Longest_Device);
 }
 
+std::string Closed_Text(const Link_Record& R) {
+    return R.Name + " is closed" + (R.Why_Not.empty() ? "" : ": " + R.Why_Not);
+}
+
 std::string Panel_Text(Simulator& Sim, int Port) {
     const Link_Record& R = Record_Of(Sim, Port);
-    if (!R.Open) return R.Name + " is closed";
+    if (!R.Open) return Closed_Text(R);
     std::string Text = R.Name;
     if (Port == port_number::TCP)
         Text += "  " + std::to_string(R.Clients) + (R.Clients == 1 ? " client" : " clients");
@@ -36,7 +40,7 @@ std::string Panel_Tip(const Simulator& Sim, int Port) {
     if (R.Open)
         return R.Name + ": " + std::to_string(R.Sent) + " sentences sent, " + std::to_string(R.Refused) +
                " refused, " + std::to_string(R.Skipped) + " skipped. Click to open the port setup";
-    return R.Name + " is closed" + (R.Why_Not.empty() ? "" : ": " + R.Why_Not) + ". Click to open it again";
+    return Closed_Text(R) + ". Click to open it again";
 }
 
 void Show_Links_Closed(Simulator& Sim) {

@@ -106,7 +106,7 @@ TEST(Link_Records, Panels_Of_The_Main_Window_Follow_And_Act) {
     V.Use({17});
     Label& Panel = Main_Window(V.Sim).sbLink[17];
     EXPECT_TRUE(*Panel.Visible && !*Main_Window(V.Sim).sbLink[18].Visible);
-    EXPECT_EQ(*Panel.Caption, "TCP 8040 is closed");
+    EXPECT_EQ(*Panel.Caption, "TCP 8040 is closed: address in use");
     EXPECT_EQ(*Panel.Fore_Colour, Ink::Red);
     V.Click(Panel);
     EXPECT_EQ(V.Sim.State.Of<Shell_State>().Last_Said, "TCP 8040 is closed: address in use");
@@ -172,7 +172,7 @@ TEST_F(Port_Setup, Stays_Open_Until_Its_Values_Are_Good_With_One_Message_At_A_Ti
     Half_Type(F.txtPort, "80");
     Click(F.cmdOK);
     EXPECT_EQ(Take_Boxes().size(), 1u);
-    ASSERT_TRUE(Open_Form(Sim, "frmSetup"));
+    ASSERT_TRUE(Open_One<frmSetup>(Sim));
     EXPECT_EQ(F.txtPort.Text(), "8040");
     EXPECT_EQ(Sim.Windows.Focus, &F.txtPort);
 
@@ -188,11 +188,11 @@ TEST_F(Port_Setup, Stays_Open_Until_Its_Values_Are_Good_With_One_Message_At_A_Ti
     Click(*F.optUDPMode.Buttons[1]); // to no address
     Click(F.cmdOK);
     EXPECT_EQ(Take_Boxes().size(), 1u);
-    ASSERT_TRUE(Open_Form(Sim, "frmSetup"));
+    ASSERT_TRUE(Open_One<frmSetup>(Sim));
     Type(F.txtUDP_RemoteHost, "10.0.0.1");
     Click(F.cmdOK);
     EXPECT_TRUE(Take_Boxes().empty());
-    EXPECT_FALSE(Open_Form(Sim, "frmSetup"));
+    EXPECT_FALSE(Open_One<frmSetup>(Sim));
     EXPECT_TRUE(Record_Of(Sim, 18).Open);
 }
 

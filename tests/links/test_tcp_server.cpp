@@ -146,7 +146,7 @@ TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
               1); // closing the element that listens is no client going away
     EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 1);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
-    EXPECT_EQ(History().back(), " 1-Connected to IP : 10.0.0.7 - 01.01.2026 11:06:40");
+    EXPECT_EQ(History().back(), " 1-Connected to IP : 10.0.0.7 - 01.01.2026 10:00:00");
     EXPECT_EQ(F().cmbConnections.List_Index(), 0);
     EXPECT_EQ(History().size(), 1u); // no line for an element that has one
     World.Connect();

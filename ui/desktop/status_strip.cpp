@@ -22,6 +22,7 @@ Status_Strip::Status_Strip(Simulator& Its_Simulator, QMenuBar& Its_Bar)
     for (Label* Source : {&Main.lblOutputHeld, &Main.lblOutputPaused, &Main.lblFaults}) {
         auto* const Shown = new Clicked_Label(Sim, *Source, this);
         Shown->setProperty("notice", Source == &Main.lblFaults ? "bad" : "warn");
+        Shown->setAlignment(Qt::AlignCenter);
         connect(Shown, &Clicked_Label::Acted, this, &Status_Strip::Acted);
         Notices.push_back({Source, Shown});
     }
@@ -45,6 +46,7 @@ void Status_Strip::Place() {
     int End = width() - Gap;
     for (const Notice& Each : Notices) {
         if (!*Each.Source->Visible) continue;
+        Each.Shown->ensurePolished(); // the face is of the style
         const QString Whole = To_Screen(*Each.Source->Caption);
         const QFontMetrics Face = Each.Shown->fontMetrics();
         const int Wide = std::clamp(Face.horizontalAdvance(Whole) + Air, 0, std::max(End, 0));
