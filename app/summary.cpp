@@ -1,5 +1,7 @@
 #include "app/summary.hpp"
 
+#include "links/link_record.hpp"
+#include "links/links_at_start.hpp"
 #include "links/port_list.hpp"
 #include "shell/kit/sensor_form.hpp"
 #include "shell/main/file_menu.hpp"
@@ -22,23 +24,14 @@ std::string Sentence_List(const Sensor_Form& Window) {
 }
 
 std::string Link_Text(const Simulator& Sim, int Port) {
-    const Simulator_State& S = Sim.State;
-    if (Port == port_number::None) return "nowhere (no link is chosen)";
-    if (!Link_In_Use(Sim, Port)) return "nowhere (its link is not in use)";
-    if (Port <= port_number::Last_Serial) {
-        const auto& Link = Sim.Links.MSComm[Port];
-        return "COM " + std::to_string(Port) + (Link && Link->Is_Open() ? "" : ", which could not be opened");
-    }
-    if (Port == port_number::TCP) {
-        if (!Sim.Links.Listener || !Sim.Links.Listener->Is_Listening())
-            return "TCP port " + std::to_string(S.Of<Link_State>().TCP_Port) + ", which could not be opened";
-        return "TCP port " + std::to_string(S.Of<Link_State>().TCP_Port) + "; look with: nc localhost " +
-               std::to_string(S.Of<Link_State>().TCP_Port);
-    }
-    const std::string Host =
-        S.Of<Link_State>().UDP_Mode == 0 ? "255.255.255.255" : S.Of<Link_State>().UDP_Remote_Host;
-    return "UDP " + Host + ":" +
-           std::to_string(S.Of<Link_State>().UDP_Port_Number[Port - port_number::First_UDP]);
+    if (Port <= port_number::None || Port > port_number::Last) return "nowhere (no link is chosen)";
+    const Link_Record& R = Record_Of(Sim, Port);
+    if (!R.Wanted) return "nowhere (its link is not in use)";
+    if (Links_Are_Closed(Sim)) return R.Name + ", which is closed: links are not opened at start";
+    if (!R.Open) return R.Name + ", which could not be opened" + (R.Why_Not.empty() ? "" : ": " + R.Why_Not);
+    if (Port != port_number::TCP) return R.Name;
+    const std::string Number = std::to_string(Sim.State.Of<Link_State>().TCP_Port);
+    return "TCP port " + Number + "; look with: nc localhost " + Number;
 }
 
 } // namespace

@@ -95,6 +95,7 @@ Json Boxes_Json(const Desktop& Windows) {
                        {"kind", "message"},
                        {"title", To_UTF8(Box.Title)},
                        {"text", To_UTF8(Box.Text)},
+                       {"advice", To_UTF8(Box.Advice)},
                        {"icon", Icon_Names.at(static_cast<std::size_t>(Box.Icon))},
                        {"buttons", Box.Buttons == Box_Buttons::OK ? Json{"OK"} : Json{"OK", "Cancel"}}});
     for (const File_Dialog& Dialog : Windows.File_Dialogs)

@@ -17,12 +17,11 @@ struct Automation_Target {
     Desktop& Windows;
     Simulator_State& State;
     const Link_Table& Links;
-    const Send_Counts& Counts;
     std::span<const Window_Class* const> Window_Table;
 };
 
 inline Automation_Target Target_Of(Simulator& Sim) {
-    return {Sim.Windows, Sim.State, Sim.Links, Sim.Counts, Sim.Window_Table};
+    return {Sim.Windows, Sim.State, Sim.Links, Sim.Window_Table};
 }
 
 // What the program lends to automation beyond the target.

@@ -1,5 +1,8 @@
 #include "automation/statistics.hpp"
 
+#include "links/link_record_state.hpp"
+#include "links/port_list.hpp"
+
 #include <nlohmann/json.hpp>
 
 #include <chrono>
@@ -8,23 +11,38 @@ namespace brinewright {
 
 namespace {
 
-// Ports that have nothing to tell are left out.
-Json Port_Counts(const Table<std::uint64_t, 0, 28>& Counts) {
+std::string By_Number(int Port, const Link_Record&) { return std::to_string(Port); }
+std::string By_Kind(int Port, const Link_Record& R) {
+    return Port == port_number::TCP ? "TCP" : To_UTF8(R.Name);
+}
+
+// Of one count of the records; links that have nothing to tell are left out.
+Json Counts(const Link_Record_State& Records, std::uint64_t Link_Record::*Count,
+            std::string (*Key)(int Port, const Link_Record&) = By_Number) {
     Json Told = Json::object();
-    for (int Port = Counts.First_Index; Port <= Counts.Last_Index; ++Port)
-        if (Counts[Port] != 0) Told[std::to_string(Port)] = Counts[Port];
+    for (int Port = Records.Link.First_Index; Port <= Records.Link.Last_Index; ++Port)
+        if (const std::uint64_t Value = Records.Link[Port].*Count)
+            Told[Key(Port, Records.Link[Port])] = Value;
     return Told;
 }
 
-Json Skipped_Counts(const Link_Table& Links) {
-    Json Told = Json::object();
-    for (int Com = Links.MSComm.First_Index; Com <= Links.MSComm.Last_Index; ++Com)
-        if (Links.MSComm[Com] && Links.MSComm[Com]->Skipped_Count() != 0)
-            Told["COM" + std::to_string(Com)] = Links.MSComm[Com]->Skipped_Count();
-    std::uint64_t By_TCP = 0;
-    for (const auto& Element : Links.WinsockArray)
-        if (Element) By_TCP += Element->Connection ? Element->Connection->Skipped_Count() : Element->Skipped;
-    if (By_TCP != 0) Told["TCP"] = By_TCP;
+Json Sent_Counts(const Link_Record_State& Records) {
+    Json Told = Counts(Records, &Link_Record::Sent);
+    if (Records.Sent_Without_Link != 0) Told["0"] = Records.Sent_Without_Link;
+    return Told;
+}
+
+// The links of the setup.
+Json Link_List(const Link_Record_State& Records) {
+    Json Told = Json::array();
+    for (int Port = Records.Link.First_Index; Port <= Records.Link.Last_Index; ++Port) {
+        const Link_Record& R = Records.Link[Port];
+        if (!R.Wanted) continue;
+        Json Row{{"port", Port}, {"name", To_UTF8(R.Name)}, {"open", R.Open}};
+        if (!R.Open) Row["why_not"] = To_UTF8(R.Why_Not);
+        Row["sentences_per_s"] = R.Sentences_Per_s;
+        Told.push_back(std::move(Row));
+    }
     return Told;
 }
 
@@ -66,10 +84,12 @@ std::string Local_Time_Text(const Automation_Target& Target) {
 
 Json Statistics_Json(const Automation_Target& Target, const Automation_Hooks& Hooks) {
     const Timer_Queue& Timers = Target.Windows.Timers;
-    return {{"sent", Port_Counts(Target.Counts.Sent)},
-            {"failed", Port_Counts(Target.Counts.Failed)},
-            {"skipped", Skipped_Counts(Target.Links)},
-            {"dropped_by_box", Target.Counts.Dropped_By_Box},
+    const auto& Records = Target.State.Of<Link_Record_State>();
+    return {{"links", Link_List(Records)},
+            {"sent", Sent_Counts(Records)},
+            {"failed", Counts(Records, &Link_Record::Refused)},
+            {"skipped", Counts(Records, &Link_Record::Skipped, By_Kind)},
+            {"dropped_by_box", Records.Dropped_By_Box},
             {"clients", Client_List(Target.Links)},
             {"ticks",
              {{"count", Timers.Lateness.Total},

@@ -1,5 +1,7 @@
 #include "links/serial_ports.hpp"
 
+#include "links/link_record.hpp"
+#include "links/link_watch.hpp"
 #include "links/port_list.hpp"
 #include "links/tcp_server.hpp"
 #include "links/udp_links.hpp"
@@ -27,21 +29,19 @@ void Show_Panel(Simulator& Sim, int Index, bool Visible) {
 }
 
 void Open_Comport(Simulator& Sim, int Index) {
-    try {
-        Serial_Port& Port = Comport_Object(Sim, Index);
-        if (Port.Is_Open()) Port.Close();
-        Port.Open(Settings_Text(Sim.State.Of<Link_State>().Port_Table[Index]));
-    } catch (const Run_Time_Error& Failure) {
-        Sim.Windows.Boxes.Show(
-            std::string(Failure.what()) + ". Comport " + Number_Text(Index) +
-            " not available! Please re-arrange your COM Setup! (Use Reset buttom on Com Setup)");
-    }
+    const std::string Failure = Try_Comport(Sim, Index);
+    if (!Failure.empty())
+        Sim.Windows.Boxes.Show(Message_Box{
+            .Text = Failure + ". Comport " + Number_Text(Index) +
+                    " not available! Please re-arrange your COM Setup! (Use Reset buttom on Com Setup)",
+            .Advice = Record_Of(Sim, Index).Name + " is tried again every few seconds."});
     // The panel shows in spite of a failure.
     Show_Panel(Sim, Index, true);
 }
 
 void Leave_Comport(Simulator& Sim, int Index, bool Hide_Panel) {
     Close_Comport(Sim, Index);
+    Note_Unused(Sim, Index);
     for (int Slot = 1; Slot <= Last_Swept_Slot; ++Slot)
         if (Sim.State.Of<Link_State>().Sensor_Table[Slot].Port == Index)
             Sim.State.Of<Link_State>().Sensor_Table[Slot].Port = port_number::None;
@@ -60,12 +60,15 @@ void Take_Lines(Simulator& Sim, int Index) {
 }
 
 void Reset_Comport(Simulator& Sim, int Index, const char* Failure_Text) {
-    Sim.Windows.Boxes.Show(Failure_Text,
-                           "ERROR - A Communication error has occured on COM-port, port is reset");
+    Sim.Windows.Boxes.Show(
+        Message_Box{.Text = Failure_Text,
+                    .Title = "ERROR - A Communication error has occured on COM-port, port is reset",
+                    .Advice = "The port is " + Full_Link_Name(Sim, Index) +
+                              ". Look at its cable, and at its settings in Setup > Com setup."});
     const auto& Port = Sim.Links.MSComm[Index];
     if (!Port || !Port->Is_Open()) return;
-    Port->Close();
-    Port->Open(Settings_Text(Sim.State.Of<Link_State>().Port_Table[Index]));
+    const std::string Failure = Try_Comport(Sim, Index);
+    if (!Failure.empty()) throw Run_Time_Error(Failure);
 }
 
 } // namespace
@@ -81,9 +84,24 @@ Serial_Port& Comport_Object(Simulator& Sim, int Index) {
     return *Object;
 }
 
+std::string Try_Comport(Simulator& Sim, int Index) {
+    try {
+        Serial_Port& Port = Comport_Object(Sim, Index);
+        if (Port.Is_Open()) Port.Close();
+        Port.Open(Settings_Text(Sim.State.Of<Link_State>().Port_Table[Index]));
+    } catch (const Run_Time_Error& Failure) {
+        Note_Closed(Sim, Index, Failure.what());
+        return Failure.what();
+    }
+    Note_Open(Sim, Index);
+    return {};
+}
+
 void Close_Comport(Simulator& Sim, int Index) {
     const auto& Port = Sim.Links.MSComm[Index];
-    if (Port && Port->Is_Open()) Port->Close();
+    if (!Port || !Port->Is_Open()) return;
+    Port->Close();
+    Note_Unused(Sim, Index);
 }
 
 void Init_Comports(Simulator& Sim, std::int16_t Count) {
@@ -91,6 +109,8 @@ void Init_Comports(Simulator& Sim, std::int16_t Count) {
     S.Of<Link_State>().Link_Panel[1].Text = Count != 0 ? "COM 1" : "No comports enabled";
     Show_Panel(Sim, 1, Count == 0);
     S.Of<Link_State>().Comport_Count = Count;
+    S.Of<Link_Record_State>().Links_Opened = true;
+    Note_Wanted(Sim);
     for (int Index = 1; Index <= port_number::Last_Serial; ++Index) {
         if (Link_In_Use(Sim, Index))
             Open_Comport(Sim, Index);
@@ -104,9 +124,14 @@ void Init_Comports(Simulator& Sim, std::int16_t Count) {
     } else if (Sim.Links.Listener) {
         TCP_Stop(Sim);
     }
-    for (std::int16_t K = 0; K <= 10; ++K)
-        if (Link_In_Use(Sim, port_number::First_UDP + K)) Open_UDP(Sim, K);
+    for (std::int16_t K = 0; K <= 10; ++K) {
+        if (Link_In_Use(Sim, port_number::First_UDP + K))
+            Open_UDP(Sim, K);
+        else
+            Close_UDP(Sim, K);
+    }
     S.Of<Link_State>().Ports_Initialised = true;
+    Watch_Links(Sim);
 }
 
 void MSComm_OnComm(Simulator& Sim, int Index, Comm_Event Event) {

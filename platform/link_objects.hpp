@@ -39,11 +39,10 @@ class Serial_Port {
     virtual void Close() = 0;
     virtual bool Is_Open() const = 0;
     // Never blocks. Throws Run_Time_Error when the port is closed or the device has vanished. A text that
-    // would wait more than about 2 s on the line is skipped whole and counted.
-    virtual void Output(std::string_view Text) = 0;
+    // would wait more than about 2 s on the line is skipped whole, and false comes back.
+    virtual bool Output(std::string_view Text) = 0;
     // Takes what has been received since the last call, at most the 1024 bytes that are kept.
     virtual std::string Input() = 0;
-    virtual std::uint64_t Skipped_Count() const = 0;
 };
 
 // One accepted TCP connection. What the peer sends is read and thrown away.
@@ -94,15 +93,16 @@ class UDP_Socket {
 
     // Remote_Host is an IPv4 address; 224.0.0.0 to 239.255.255.255 is a multicast group, which is sent to
     // with the TTL and on the interface of the application settings. Throws Run_Time_Error with the system's
-    // text.
+    // text, for instance when no route leads there.
     virtual void Open(const std::string& Remote_Host, std::int32_t Remote_Port) = 0;
     // Opens it for receiving on Local_Port (1 to 65535) of every interface. Throws Run_Time_Error with the
     // system's text, for instance when the port is taken.
     virtual void Bind(std::int32_t Local_Port) = 0;
     virtual bool Is_Open() const = 0;
     virtual void Close() = 0;
-    // Throws Run_Time_Error with the system's text. Never blocks.
-    virtual void Send(std::string_view Text) = 0;
+    // Throws Run_Time_Error with the system's text. Never blocks: a text for which the system has no room now
+    // is skipped whole, and false comes back.
+    virtual bool Send(std::string_view Text) = 0;
     // The oldest datagram that is still kept, empty when there is none.
     virtual std::string Receive() = 0;
 };

@@ -6,7 +6,12 @@
 namespace brinewright {
 
 void Message_Boxes::Show(std::string Text, std::string Title, Box_Icon Icon, Box_Buttons Buttons) {
-    Standing.push_back({++Last_Id, std::move(Text), std::move(Title), Icon, Buttons});
+    Show(Message_Box{0, std::move(Text), std::move(Title), Icon, Buttons});
+}
+
+void Message_Boxes::Show(Message_Box New) {
+    New.Id = ++Last_Id;
+    Standing.push_back(std::move(New));
     // A copy, because the listener may answer at once and so remove the element.
     const Message_Box Shown = Standing.back();
     if (On_Show) On_Show(Shown);

@@ -28,12 +28,12 @@ class Memory_Serial_Port : public Serial_Port {
     }
     void Close() override { Opened = false; }
     bool Is_Open() const override { return Opened; }
-    void Output(std::string_view Text) override {
+    bool Output(std::string_view Text) override {
         if (!Opened) throw Run_Time_Error("Port not open");
         Keep_Sent(Links, Name, Text);
+        return true;
     }
     std::string Input() override { return {}; }
-    std::uint64_t Skipped_Count() const override { return 0; }
 
   private:
     Memory_Links& Links;
@@ -69,9 +69,10 @@ class Memory_UDP_Socket : public UDP_Socket {
     }
     bool Is_Open() const override { return !Name.empty(); }
     void Close() override { Name.clear(); }
-    void Send(std::string_view Text) override {
+    bool Send(std::string_view Text) override {
         if (Name.empty()) throw Run_Time_Error("Socket not open");
         Keep_Sent(Links, Name, Text);
+        return true;
     }
     std::string Receive() override { return {}; }
 

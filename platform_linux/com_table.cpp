@@ -48,11 +48,12 @@ std::vector<std::string> Numbered_Names(const std::vector<std::string>& Names, s
     return Result;
 }
 
-// The driver makes a ttyS for each port that could be there; those that are there have a type.
-bool Has_UART(const Device_Roots& Roots, const std::string& Name) {
+// The driver makes a ttyS for each port that could be there, and gives those that are not the type 0. One of
+// which it says nothing may be there: opening it tells.
+bool May_Have_UART(const Device_Roots& Roots, const std::string& Name) {
     std::ifstream File(Roots.Sys_TTY + "/" + Name + "/type");
     std::string Type;
-    return std::getline(File, Type) && !Type.empty() && Type != "0";
+    return !std::getline(File, Type) || Type != "0";
 }
 
 // The device that a path leads to, or the path itself while the device is away.
@@ -80,7 +81,7 @@ std::vector<std::string> Find_Serial_Devices(const Device_Roots& Roots) {
     std::vector<std::string> Found;
     const auto Names = Names_In(Roots.Dev);
     for (const std::string& Name : Numbered_Names(Names, "ttyS")) {
-        if (Has_UART(Roots, Name)) Found.push_back(Roots.Dev + "/" + Name);
+        if (May_Have_UART(Roots, Name)) Found.push_back(Roots.Dev + "/" + Name);
     }
     for (const std::string& Name : Numbered_Names(Names, "ttyAMA")) Found.push_back(Roots.Dev + "/" + Name);
     const std::string By_Id = Roots.Dev + "/serial/by-id";

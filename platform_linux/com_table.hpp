@@ -19,7 +19,7 @@ struct Device_Roots {
     std::string Sys_TTY = "/sys/class/tty";
 };
 
-// The serial devices of the machine, each under one path: built-in ports that really exist (ttyS, ttyAMA),
+// The serial devices of the machine, each under one path: built-in ports that may exist (ttyS, ttyAMA),
 // then USB adapters by the name that stays theirs, then those that have only a changing one (ttyUSB, ttyACM).
 std::vector<std::string> Find_Serial_Devices(const Device_Roots& Roots);
 

@@ -15,8 +15,6 @@ namespace brinewright {
 
 namespace {
 
-constexpr int Backlog = 16;
-
 Unique_Fd New_Socket() {
     Unique_Fd Socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
     if (!Socket) Throw_System_Error(errno);
@@ -66,7 +64,7 @@ Unique_Fd Listen_Locally(const std::string& Path) {
         Remove_Stale(Path, Address);
         if (!Bind(Socket, Address)) throw Run_Time_Error(Path + ": " + System_Text(errno));
     }
-    if (::listen(Socket.Get(), Backlog) != 0) throw Run_Time_Error(Path + ": " + System_Text(errno));
+    if (::listen(Socket.Get(), SOMAXCONN) != 0) throw Run_Time_Error(Path + ": " + System_Text(errno));
     return Socket;
 }
 

@@ -131,18 +131,16 @@ void Termios_Serial_Port::Vanish() {
     Vanished = true;
 }
 
-void Termios_Serial_Port::Output(std::string_view Text) {
+bool Termios_Serial_Port::Output(std::string_view Text) {
     if (Vanished) throw Run_Time_Error("Device unavailable");
     if (!Opened) throw Run_Time_Error("Port not open");
     const std::size_t Ahead_Bytes = Opened->Waiting.size() + Waiting_In_Driver(Opened->Device);
     const double Wait_s = static_cast<double>(Ahead_Bytes + Text.size()) / Opened->Bytes_Per_Second;
-    if (Ahead_Bytes != 0 && Wait_s > Output_Limit_s) {
-        ++Skipped;
-        return;
-    }
+    if (Ahead_Bytes != 0 && Wait_s > Output_Limit_s) return false;
     Opened->Waiting += Text;
     if (Opened->Waiting.size() == Text.size()) Write_Waiting(); // else it is the watch's turn
     if (Vanished) throw Run_Time_Error("Device unavailable");
+    return true;
 }
 
 void Termios_Serial_Port::Write_Waiting() {

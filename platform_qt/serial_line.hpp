@@ -24,9 +24,8 @@ class Termios_Serial_Port final : public Serial_Port {
     void Try() override; // touches neither the line's settings nor what waits in it
     void Close() override;
     bool Is_Open() const override { return Opened != nullptr; }
-    void Output(std::string_view Text) override;
+    bool Output(std::string_view Text) override;
     std::string Input() override;
-    std::uint64_t Skipped_Count() const override { return Skipped; }
 
   private:
     // What lasts from an opening to its closing. A callback may close the port and open it again; a weak
@@ -52,7 +51,6 @@ class Termios_Serial_Port final : public Serial_Port {
     std::shared_ptr<Opening> Opened;
     bool Vanished = false;
     std::string Received;
-    std::uint64_t Skipped = 0;
 };
 
 } // namespace brinewright

@@ -17,7 +17,6 @@ namespace {
 // Both bound what a client that does not read can hold back: about 800 sentences each.
 constexpr std::size_t Waiting_Limit_Bytes = 64 * 1024;
 constexpr int Send_Buffer_Bytes = 64 * 1024;
-constexpr int Backlog = 128;
 
 std::string Remote_Address(int Socket) {
     sockaddr_in Address{};
@@ -65,7 +64,7 @@ void Socket_TCP_Listener::Listen(std::int32_t Port) {
     ::setsockopt(Socket.Get(), SOL_SOCKET, SO_SNDBUF, &Send_Buffer_Bytes, sizeof Send_Buffer_Bytes);
     const sockaddr_in Address = IPv4_Address({htonl(INADDR_ANY)}, Port);
     if (::bind(Socket.Get(), reinterpret_cast<const sockaddr*>(&Address), sizeof Address) != 0 ||
-        ::listen(Socket.Get(), Backlog) != 0) {
+        ::listen(Socket.Get(), SOMAXCONN) != 0) {
         Throw_System_Error(errno);
     }
     if (!Watch) Watch = std::make_shared<Vanished_Peer_Watch>();

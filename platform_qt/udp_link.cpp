@@ -56,6 +56,13 @@ void Set_Multicast(const Unique_Fd& Socket, const App_Settings& Settings) {
     Set_Option(Socket, IPPROTO_IP, IP_MULTICAST_IF, Chosen);
 }
 
+Unique_Fd Make_Sender(in_addr Host, const App_Settings& Settings) {
+    Unique_Fd Fresh = Make_Socket();
+    Set_Option(Fresh, SOL_SOCKET, SO_BROADCAST, 1);
+    if (Is_Multicast(Host)) Set_Multicast(Fresh, Settings);
+    return Fresh;
+}
+
 } // namespace
 
 void Socket_UDP::Open(const std::string& Remote_Host, std::int32_t Remote_Port) {
@@ -63,10 +70,11 @@ void Socket_UDP::Open(const std::string& Remote_Host, std::int32_t Remote_Port) 
     const auto Host = Parse_IPv4(Remote_Host);
     if (!Host) throw Run_Time_Error("\"" + Remote_Host + "\" is not an IPv4 address.");
     Require_Port(Remote_Port);
-    Unique_Fd Fresh = Make_Socket();
-    Set_Option(Fresh, SOL_SOCKET, SO_BROADCAST, 1);
-    if (Is_Multicast(*Host)) Set_Multicast(Fresh, Settings);
-    Use(std::move(Fresh), IPv4_Address(*Host, Remote_Port));
+    const sockaddr_in Address = IPv4_Address(*Host, Remote_Port);
+    const Unique_Fd Probe = Make_Sender(*Host, Settings);
+    if (::connect(Probe.Get(), reinterpret_cast<const sockaddr*>(&Address), sizeof Address) != 0)
+        Throw_System_Error(errno);
+    Use(Make_Sender(*Host, Settings), Address);
 }
 
 void Socket_UDP::Bind(std::int32_t Local_Port) {
@@ -92,13 +100,15 @@ void Socket_UDP::Close() {
     Received.clear();
 }
 
-void Socket_UDP::Send(std::string_view Text) {
+bool Socket_UDP::Send(std::string_view Text) {
     if (!Socket) throw Run_Time_Error("Socket not open");
     const auto* Address = reinterpret_cast<const sockaddr*>(&Remote);
     while (::sendto(Socket.Get(), Text.data(), Text.size(), MSG_DONTWAIT | MSG_NOSIGNAL, Address,
                     sizeof Remote) < 0) {
+        if (errno == EAGAIN || errno == ENOBUFS) return false;
         if (errno != EINTR) Throw_System_Error(errno);
     }
+    return true;
 }
 
 std::string Socket_UDP::Receive() {

@@ -14,7 +14,7 @@ namespace brinewright {
 
 // A UDP socket that is never connected: an unreachable host is told by ICMP to connected sockets only, where
 // it would cost the next datagram. It gets its own port from the system with the first datagram that it
-// sends.
+// sends. Whether a route leads to the host is asked of a socket that is thrown away.
 //
 // Two application settings are read at each Open to a multicast group: "UDP_Multicast_TTL" (0 to 255, default
 // 1: the local network) and "UDP_Multicast_Interface" (an address or a name of an interface; empty: the
@@ -27,7 +27,7 @@ class Socket_UDP final : public UDP_Socket {
     void Bind(std::int32_t Local_Port) override;
     bool Is_Open() const override { return static_cast<bool>(Socket); }
     void Close() override;
-    void Send(std::string_view Text) override;
+    bool Send(std::string_view Text) override;
     std::string Receive() override;
 
   private:

@@ -1,6 +1,7 @@
 #include "dialogs/iec61162/frm_iec61162.hpp"
 
 #include "shell/state/iec450_state.hpp"
+#include "shell/state/say.hpp"
 #include "shell/state/simulator.hpp"
 
 #include <array>
@@ -44,7 +45,7 @@ std::array<Text_Row, 4> Text_Rows(IEC450_State& S, frmIEC61162& F) {
 void cmdOK_Click(Simulator& Sim, frmIEC61162& F) {
     IEC450_State& S = Sim.State.Of<IEC450_State>();
     const bool On = F.chkIEC61162_450.Value();
-    Sim.Windows.Boxes.Show(On ? "IEC 61162-450 option enabled." : "IEC 61162-450 option disabled.");
+    Say(Sim, On ? "IEC 61162-450 option enabled." : "IEC 61162-450 option disabled.");
     S.IEC450_Enabled = On;
     Sim.Told.Switched.Tell();
     S.UdPbC_Header_Enabled = F.chkUdpbc.Value();

@@ -163,13 +163,13 @@ Layout GST_Box(frmPosition& W) {
     return Box(W.frmGST, Cells(std::move(Parts), {.Down = 2, .High_Row = Line}), rhythm::Gap);
 }
 
-Layout Fix_Box(frmPosition& W) {
+Layout Fix_Box(const Simulator& Sim, frmPosition& W) {
     const auto Places =
         Routing(W, {{&W.lblDecimalsPosition, &W.cmbDecimals}, {&W.lblDecimalsTime, &W.cmbDecimalsTime}},
                 &W.lblDecimals);
     return Bare(W.frmGGA, Row({Column({Place(W.lblShipControl, Role::Readout), Simulator_Box(W),
                                        Control_Box(W), GNS_Box(W), Datum_Box(W), Stretch()}),
-                               Column({Messages(W), Places, Quality_Box(W), Modes_Box(W), Stretch()})}));
+                               Column({Messages(Sim, W), Places, Quality_Box(W), Modes_Box(W), Stretch()})}));
 }
 
 // The frames to the right are there only when the window is wide enough for all as far as this one.
@@ -192,8 +192,8 @@ Layout Lay_Out_Position(Simulator& Sim, Form& Shown) {
     const auto Last = Column({GSV_Box(Sim.State, W).Shown_When(Has_Room(W, W.frmGSV)).Wide(),
                               GST_Box(W).Shown_When(Has_Room(W, W.frmGST))})
                           .Spaced(rhythm::Toolkit);
-    return Window({State_Line(Sim, W, W.cmdPause, W.timer_Simulator),
-                   Row({Fix_Box(W), GSA_Box(W).Shown_When(Has_Room(W, W.frmGSA)), Last}).Wide(),
+    return Window({State_Line(Sim, W, W.cmdPause, W.timer_Simulator, "position stands still"),
+                   Row({Fix_Box(Sim, W), GSA_Box(W).Shown_When(Has_Room(W, W.frmGSA)), Last}).Wide(),
                    Ticker(Sim, W)});
 }
 

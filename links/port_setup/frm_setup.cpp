@@ -115,6 +115,7 @@ void Take_Line_Settings(const frmSetup& F, int Port, Port_Setting& Setting) {
 }
 
 void cmdOK_Click(Simulator& Sim, frmSetup& F) {
+    if (!All_Is_Valid(F)) return;
     Link_State& Links = Sim.State.Of<Link_State>();
     Links.Present_Port_Count = 0;
     for (int Port = 1; Port <= port_number::Last_Serial; ++Port) {

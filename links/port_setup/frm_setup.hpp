@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace brinewright {
 
@@ -65,6 +66,10 @@ struct frmSetup : Form {
     int Found_Ports = 0;
     int Refused_Ports = 0; // for lack of rights
     std::int64_t Detection_Start_us = 0;
+
+    // What has to be good before OK takes it over: each says what is wrong, and goes there.
+    std::vector<std::function<bool()>> Checks;
+    bool Went_Back = false; // the box that was just left was not valid and has the focus again
 
     // What goes back into a box when what is typed there is not valid.
     std::string Valid_Port;

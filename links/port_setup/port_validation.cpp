@@ -10,6 +10,7 @@
 #include <cmath>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace brinewright {
 
@@ -103,28 +104,84 @@ std::string Check_Remote_Host(std::string& Text) {
     return Text + " is not a valid IP address! Has to be in the range 1.0.0.1 to 255.255.255.255";
 }
 
-void Check_When_Left(Simulator& Sim, Text_Box& Box, std::string& Valid, Rule Its_Rule) {
+// Says what is wrong with Text, if anything.
+bool Accept(Simulator& Sim, const Rule& Its_Rule, std::string& Text) {
+    const std::string Message = Its_Rule(Text);
+    if (!Message.empty()) Sim.Windows.Boxes.Show(Message, "", Box_Icon::Stop);
+    return Message.empty();
+}
+
+void Check_When_Left(Simulator& Sim, frmSetup& F, Text_Box& Box, std::string& Valid, const Rule& Its_Rule) {
     Valid = Box.Text();
     Box.Got_Focus = [&Box] { Box.Select_All(); };
-    Box.Lost_Focus = [&Sim, &Box, &Valid, Its_Rule = std::move(Its_Rule)] {
+    Box.Lost_Focus = [&Sim, &F, &Box, &Valid, Its_Rule] {
+        F.Went_Back = false;
         if (Box.Text() == Valid) return;
         std::string Text = Box.Text();
-        const std::string Message = Its_Rule(Text);
-        if (Message.empty()) Valid = Text;
+        F.Went_Back = !Accept(Sim, Its_Rule, Text);
+        if (!F.Went_Back) Valid = Text;
         Box.Set_Text(Valid);
-        if (!Message.empty()) Sim.Windows.Boxes.Show(Message, "", Box_Icon::Stop);
+        if (F.Went_Back) Sim.Windows.Set_Focus(&Box);
+    };
+}
+
+// A setup file may hold anything, which nobody has entered and left.
+void Check_At_OK(Simulator& Sim, frmSetup& F, Text_Box& Box, const Rule& Its_Rule,
+                 const std::function<bool()>& Counts) {
+    F.Checks.push_back([&Sim, &Box, Its_Rule, Counts] {
+        std::string Text = Box.Text();
+        if (!Counts() || Accept(Sim, Its_Rule, Text)) return true;
+        if (*Box.Enabled) Sim.Windows.Set_Focus(&Box);
+        return false;
+    });
+}
+
+std::string No_Port_Number(int K) {
+    return "UDP Port" + Number_Text(K) +
+           " has no port number. Type one in the range 1-65535 first, or leave the link unticked.";
+}
+
+// Ticked, it would have nowhere to send to.
+void Require_Port_Number(Simulator& Sim, frmSetup& F, int K) {
+    Check_Box& Box = F.chkEnable[port_number::TCP + K];
+    Box.Click = [&Sim, &F, &Box, K] {
+        if (!Box.Value() || !F.txtUDP_port[K].Text().empty()) return;
+        Box.Set_Value(false);
+        if (!F.Went_Back) Sim.Windows.Boxes.Show(No_Port_Number(K), "", Box_Icon::Stop);
     };
 }
 
 } // namespace
 
 void Wire_Validation(Simulator& Sim, frmSetup& F) {
-    Check_When_Left(Sim, F.txtPort, F.Valid_Port, Check_TCP_Port);
-    for (int K = 1; K <= UDP_Link_Count; ++K)
-        Check_When_Left(Sim, F.txtUDP_port[K], F.Valid_UDP_Port[K], [&Sim](std::string& Text) {
-            return Check_UDP_Port(Sim.State.Of<Extra_State>(), Text);
-        });
-    Check_When_Left(Sim, F.txtUDP_RemoteHost, F.Valid_Remote_Host, Check_Remote_Host);
+    const auto Wire = [&](Text_Box& Box, std::string& Valid, const Rule& Its_Rule,
+                          const std::function<bool()>& Counts) {
+        Check_When_Left(Sim, F, Box, Valid, Its_Rule);
+        Check_At_OK(Sim, F, Box, Its_Rule, Counts);
+    };
+    Wire(F.txtPort, F.Valid_Port, Check_TCP_Port, [] { return true; });
+    for (int K = 1; K <= UDP_Link_Count; ++K) {
+        Wire(
+            F.txtUDP_port[K], F.Valid_UDP_Port[K],
+            [&Sim, &F, K](std::string& Text) {
+                const bool Ticked = F.chkEnable[port_number::TCP + K].Value();
+                std::string Message = Check_UDP_Port(Sim.State.Of<Extra_State>(), Text);
+                return Text.empty() && Ticked ? No_Port_Number(K) : Message;
+            },
+            [] { return true; });
+        Require_Port_Number(Sim, F, K);
+    }
+    // A broadcast does not use it, however it reads.
+    Wire(F.txtUDP_RemoteHost, F.Valid_Remote_Host, Check_Remote_Host, [&F] {
+        const bool Sends = std::any_of(F.chkEnable.begin() + port_number::TCP, F.chkEnable.end(),
+                                       [](const auto& Box) { return Box->Value(); });
+        return F.optUDPMode.Selected() != 0 && (Sends || !F.txtUDP_RemoteHost.Text().empty());
+    });
+}
+
+bool All_Is_Valid(frmSetup& F) {
+    if (std::exchange(F.Went_Back, false)) return false; // that has been told
+    return std::all_of(F.Checks.begin(), F.Checks.end(), [](const auto& Check) { return Check(); });
 }
 
 } // namespace brinewright

@@ -81,8 +81,10 @@ constexpr Latch Latches[] = {
     {&frmShip::cmdPause, &frmShip::lblPause, "TX PAUSE", &Shell_State::Pause_Active}};
 
 void Show_Latch(const Simulator_State& S, frmShip& W, const Latch& L) {
-    (W.*L.Key).Caption = std::string(S->*L.Active ? "continue" : L.Caption);
-    (W.*L.Lamp).Visible = S->*L.Active;
+    // A game controller hides both keys, with their first captions; the pause goes on all the same.
+    const bool Shown = S->*L.Active && *(W.*L.Key).Visible;
+    (W.*L.Key).Caption = std::string(Shown ? "continue" : L.Caption);
+    (W.*L.Lamp).Visible = Shown;
 }
 
 void sldThrottle_Change(Navdata_State& N, frmShip& W) {
@@ -250,8 +252,6 @@ void Form_Load(Simulator& Sim, Form& Opened) {
     Start_Joystick(Sim, W);
     Show_Freeze_And_Pause(S, W);
     Feed_Before_First_Step(S);
-    // A pause ends with the only button that could end it.
-    W.On_Unload = [&Sim] { Sim.State.Of<Shell_State>().Pause_Active = false; };
     W.Timer1.Tick = [&] { Timer1_Tick(Sim, W); };
     W.Timer1.Set_Interval(Step_ms);
 }

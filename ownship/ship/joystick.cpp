@@ -53,8 +53,8 @@ void Joystick_Read(Simulator& Sim) {
         J.Buttons[B] = (J.Last.Buttons >> B & 1U) != 0;
 }
 
-// With a game controller there is no freezing and no pausing, so neither may be left over: no button would
-// end it.
+// With a game controller there is no freezing, so none may be left over: no button would end it. A pause goes
+// on: the main window says so, and ends it.
 void Start_Joystick(Simulator& Sim, frmShip& W) {
     const bool Present = Joystick_Present(Sim, First_Joystick);
     W.frameJoystick.Visible = Present;
@@ -64,7 +64,6 @@ void Start_Joystick(Simulator& Sim, frmShip& W) {
     W.timerJoystick.Set_Interval(Present ? Polling_ms : 0);
     if (!Present) return;
     Sim.State.Of<Shell_State>().Freeze_Active = false;
-    Sim.State.Of<Shell_State>().Pause_Active = false;
     Show_Freeze_And_Pause(Sim.State, W);
 }
 

@@ -25,7 +25,8 @@ Layout Sent_Box(frmEchosounder& W) {
 Layout Lay_Out_Echosounder(Simulator& Sim, Form& Shown) {
     auto& W = static_cast<frmEchosounder&>(Shown);
     return Window({Row({State_Line(Sim, W, false).Wide(), Dim(W.lblEchosounder)}),
-                   Row({Depth_Box(W), Sent_Box(W).Wide()}).Wide(), Messages(W), Routing(W), Ticker(Sim, W)});
+                   Row({Depth_Box(W), Sent_Box(W).Wide()}).Wide(), Messages(Sim, W), Routing(W),
+                   Ticker(Sim, W)});
 }
 
 } // namespace brinewright

@@ -57,11 +57,12 @@ Layout Simulator_Box(frmGyro& W) {
 Layout Lay_Out_Gyro(Simulator& Sim, Form& Shown) {
     auto& W = static_cast<frmGyro&>(Shown);
     return Window(
-        {Row({State_Line(Sim, W, W.cmdPause, W.timer_Simulator).Wide(), Dim(W.lblShipControl)}),
+        {Row({State_Line(Sim, W, W.cmdPause, W.timer_Simulator, "heading stands still").Wide(),
+              Dim(W.lblShipControl)}),
          Row({Column({Current_Box(W), Attitude_Box(W).Wide(),
                       Box(W.frmSimulatorControl, Start_And_Pause(W.cmdStart, W.cmdPause, W.timer_Simulator))})
                   .Wide(),
-              Column({Simulator_Box(W), Messages(W), Routing(W, {{&W.lblDecimals, &W.cmbDecimals}}),
+              Column({Simulator_Box(W), Messages(Sim, W), Routing(W, {{&W.lblDecimals, &W.cmbDecimals}}),
                       Row({Dim(W.lblModeIndicator), Place(W.cmbModeIndicator).Wide()}), Stretch()})
                   .Wide()})
              .Wide(),

@@ -24,7 +24,7 @@ Layout Sent_Box(frmLog& W) {
 Layout Lay_Out_Log(Simulator& Sim, Form& Shown) {
     auto& W = static_cast<frmLog&>(Shown);
     return Window({Row({State_Line(Sim, W, true).Wide(), Dim(W.lblShipControl)}),
-                   Row({Speed_Box(W), Sent_Box(W).Wide()}).Wide(), Messages(W),
+                   Row({Speed_Box(W), Sent_Box(W).Wide()}).Wide(), Messages(Sim, W),
                    Row({Dim(W.lblVLW).Wide(), W.cmdResetVLW}), Routing(W), Ticker(Sim, W)});
 }
 

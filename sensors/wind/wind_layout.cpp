@@ -61,7 +61,7 @@ Layout Lay_Out_Wind(Simulator& Sim, Form& Shown) {
         {State_Line(Sim, W, false),
          Row({Column({Dial(Sim, W).Wide(), Relative_Box(W)}).Wide(),
               Column({Box(W.frmTrueWindDir, Direction), Speed_Box(W), Noise, Sent_Box(W),
-                      Messages(W, {{"MWV", Reference}, {"MWD", Variation}}), Routing(W), Stretch()})})
+                      Messages(Sim, W, {{"MWV", Reference}, {"MWD", Variation}}), Routing(W), Stretch()})})
              .Wide(),
          Ticker(Sim, W)});
 }

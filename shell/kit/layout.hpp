@@ -27,7 +27,7 @@ inline constexpr int Toolkit = -1; // what the toolkit puts there
 } // namespace rhythm
 
 // What a text or the state of a button means; the style says what it looks like.
-enum class Role { Plain, Dim, Readout, Good, Warn };
+enum class Role { Plain, Dim, Readout, Good, Warn, Bad };
 
 struct Layout;
 
@@ -105,6 +105,7 @@ struct Label_Scale { // ticks of a slider with labels at their shares of its way
 };
 struct Countdown { // a thin bar that fills when a timer ticks and empties until its next tick
     const Timer* Watched;
+    std::function<bool()> Counts; // otherwise it stands empty, whatever the timer does
 };
 using Reading =
     std::variant<std::function<Attitude_Reading()>, std::function<Compass_Reading()>,

@@ -1,7 +1,7 @@
 #include "shell/kit/sensor_layout.hpp"
 
+#include "links/link_record.hpp"
 #include "links/port_list.hpp"
-#include "sentences/number_text.hpp"
 #include "shell/state/link_state.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
@@ -12,39 +12,49 @@ namespace brinewright {
 
 namespace {
 
-std::string Port_Text(const Simulator& Sim, int Form_Index) {
-    const int Port = Sim.State.Of<Link_State>().Sensor_Table[Form_Index].Port;
-    if (!Link_In_Use(Sim, Port)) return "no link chosen";
-    if (Port <= port_number::Last_Serial) return "COM" + Number_Text(Port);
-    if (Port == port_number::TCP) return "TCP port" + Number_Text(Sim.State.Of<Link_State>().TCP_Port);
-    return "UDP port" +
-           Number_Text(Sim.State.Of<Link_State>().UDP_Port_Number[Port - port_number::First_UDP]);
+std::int16_t Port_Of(const Simulator& Sim, const Sensor_Form& W) {
+    return Sim.State.Of<Link_State>().Sensor_Table[W.Form_Index].Port;
 }
 
-layout::Said State_Said(const Simulator& Sim, const Sensor_Form& W, const char* State, Role As) {
-    return {State + ("   to " + Port_Text(Sim, W.Form_Index)), As};
+// What the sensor does, and where it goes or why nothing does.
+layout::Said State_Said(const Simulator& Sim, const Sensor_Form& W, const std::string& State, Role As) {
+    const std::int16_t Port = Port_Of(Sim, W);
+    const std::string Why_Not = Why_Nothing_Leaves(Sim, Port);
+    if (Why_Not.empty()) {
+        const Link_Record& Link = Record_Of(Sim, Port);
+        const bool Nobody = Port == port_number::TCP && Link.Clients == 0;
+        return {State + "   to " + Link.Name + (Nobody ? ", no client" : ""), As};
+    }
+    const bool Link_Fails = Link_Has_Failed(Sim, Port);
+    return {State + ", " + Why_Not, Link_Fails ? Role::Bad : As == Role::Dim ? As : Role::Warn};
 }
 
 bool Runs(const Timer& Clock) { return Clock.Interval_ms() > 0; }
+bool Any_Sentence_Runs(const Sensor_Form& W) {
+    return std::any_of(W.Sentences.Lines.begin(), W.Sentences.Lines.end(),
+                       [](const Sentence_Line& L) { return Runs(L.Clock); });
+}
 bool Pauses(const Button& Pause, const Timer& Simulation) { return !Runs(Simulation) && *Pause.Enabled; }
 
 } // namespace
 
-Layout State_Line(const Simulator& Sim, const Sensor_Form& W, const Button& Pause, const Timer& Simulation) {
-    return Text([&Sim, &W, &Pause, &Simulation] {
+Layout State_Line(const Simulator& Sim, const Sensor_Form& W, const Button& Pause, const Timer& Simulation,
+                  const char* Standing) {
+    return Text([&Sim, &W, &Pause, &Simulation, Standing] {
+        const bool Sends = Any_Sentence_Runs(W);
         if (Sim.State.Of<Shell_State>().Mode == "Ship")
             return State_Said(Sim, W, "Ship control", Role::Readout);
         if (Runs(Simulation)) return State_Said(Sim, W, "Running", Role::Good);
-        if (Pauses(Pause, Simulation)) return State_Said(Sim, W, "Paused", Role::Warn);
+        if (Pauses(Pause, Simulation))
+            return State_Said(Sim, W, Sends ? "Paused, sentences go on" : "Paused", Role::Warn);
+        if (Sends) return State_Said(Sim, W, std::string("Sending, ") + Standing, Role::Good);
         return State_Said(Sim, W, "Not started", Role::Dim);
     });
 }
 
 Layout State_Line(const Simulator& Sim, const Sensor_Form& W, bool Follows_Ship) {
     return Text([&Sim, &W, Follows_Ship] {
-        const bool Running = std::any_of(W.Sentences.Lines.begin(), W.Sentences.Lines.end(),
-                                         [](const Sentence_Line& L) { return Runs(L.Clock); });
-        if (!Running) return State_Said(Sim, W, "No sentence is on", Role::Dim);
+        if (!Any_Sentence_Runs(W)) return State_Said(Sim, W, "No sentence is on", Role::Dim);
         if (Follows_Ship && Sim.State.Of<Shell_State>().Mode == "Ship")
             return State_Said(Sim, W, "Ship control", Role::Readout);
         return State_Said(Sim, W, "Running", Role::Good);
@@ -57,13 +67,14 @@ Layout Start_And_Pause(Button& Start, Button& Pause, const Timer& Simulation) {
                     [&Pause, &Simulation] { return Pauses(Pause, Simulation) ? Role::Warn : Role::Plain; })});
 }
 
-Layout Messages(Sensor_Form& W, const std::vector<Message_Note>& Notes) {
+Layout Messages(const Simulator& Sim, Sensor_Form& W, const std::vector<Message_Note>& Notes) {
     std::vector<Layout> Parts;
     int Line_Number = 0;
+    const auto Leaves = [&Sim, &W] { return Output_Leaves(Sim, Port_Of(Sim, W)); };
     for (Sentence_Line& Line : W.Sentences.Lines) {
         Parts.push_back(At(Line_Number, 0, Line.Box));
         Parts.push_back(At(Line_Number, 1, Line.Interval_List));
-        Parts.push_back(At(Line_Number, 2, Layout(layout::Countdown{&Line.Clock})));
+        Parts.push_back(At(Line_Number, 2, Layout(layout::Countdown{&Line.Clock, Leaves})));
         if (Line.Note) Parts.push_back(At(Line_Number, 3, Row({Dim(*Line.Note)})));
         for (const auto& [Beside, Note] : Notes)
             if (Beside == Line.Row.Type) Parts.push_back(At(Line_Number, 3, Note));

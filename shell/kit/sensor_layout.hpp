@@ -11,8 +11,10 @@ namespace brinewright {
 
 // What every sensor window has, from top to bottom.
 
-// Running, paused or under the ship's control, and the port.
-Layout State_Line(const Simulator& Sim, const Sensor_Form& W, const Button& Pause, const Timer& Simulation);
+// Running, paused or under the ship's control, and where the sentences go or why they do not. Standing says
+// what does not move while sentences leave though the simulation was not started: "heading stands still".
+Layout State_Line(const Simulator& Sim, const Sensor_Form& W, const Button& Pause, const Timer& Simulation,
+                  const char* Standing);
 
 // The same for a window whose sentences run by themselves. Follows_Ship: the ship sets its value in Ship
 // mode.
@@ -21,10 +23,10 @@ Layout State_Line(const Simulator& Sim, const Sensor_Form& W, bool Follows_Ship)
 // START and PAUSE, which carry the state as a colour.
 Layout Start_And_Pause(Button& Start, Button& Pause, const Timer& Simulation);
 
-// A row a sentence: box, interval, and a thin bar that fills when it leaves and empties until the next one;
-// at its end what else belongs to the sentence.
+// A row a sentence: box, interval, and a thin bar that fills when it leaves and empties until the next one,
+// and stands empty while nothing leaves; at its end what else belongs to the sentence.
 using Message_Note = std::pair<std::string_view, Layout>; // the type of the sentence first
-Layout Messages(Sensor_Form& W, const std::vector<Message_Note>& Notes = {});
+Layout Messages(const Simulator& Sim, Sensor_Form& W, const std::vector<Message_Note>& Notes = {});
 
 // A bar with its scale, and beside it the box to type the value in, above its unit.
 Layout Bar_And_Box(Scroll_Bar& Bar, layout::Steps Scale, Text_Box& Typed, Layout Unit);
@@ -44,7 +46,7 @@ Layout Noise_Row(Check_Box& On, std::vector<Noise_List> Lists);
 Layout Routing(Sensor_Form& W, const std::vector<std::pair<Label*, Combo_Box*>>& Lists = {},
                Label* Lists_Title = nullptr);
 
-// The last sentence that the sensor sent.
+// The last sentence of the sensor that left.
 Layout Ticker(const Simulator& Sim, const Sensor_Form& W);
 
 // The box that has the focus while the keyboard steers, not to be seen.

@@ -1,5 +1,6 @@
 #include "shell/kit/sentence_family.hpp"
 
+#include "links/link_record.hpp"
 #include "links/port_list.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/sensor_form.hpp"
@@ -146,8 +147,11 @@ void Send_Sentence(Simulator& Sim, std::string Text, Sensor_Form& Window, std::i
     const bool Exists = Port >= port_number::None && Port <= port_number::Last;
     if (Sim.State.Of<IEC450_State>().IEC450_Enabled && Exists)
         Make_UdPbC_Header(Sim, Text, Port, Line, Lines);
+    const auto Taken = [&] { return Exists && Port != port_number::None ? Record_Of(Sim, Port).Sent : 0; };
+    const std::uint64_t Taken_Before = Taken();
     const Sending_As Mark(Sim, static_cast<std::int16_t>(Window.Form_Index));
     Send_NMEA(Sim, Text, Port);
+    if (Taken() == Taken_Before) return;
     Sim.Last_Sentence[Window.Form_Index] = std::move(Text);
     Window.Revision = ++Sim.Windows.Revision;
 }

@@ -1,5 +1,6 @@
 #include "shell/main/file_menu.hpp"
 
+#include "links/links_at_start.hpp"
 #include "links/serial_ports.hpp"
 #include "links/setup_file/setup_file.hpp"
 #include "shell/main/frm_main.hpp"
@@ -73,8 +74,7 @@ void Open_Existing_Setup(Simulator& Sim, const std::string& File) {
     Unload_Kept_Windows(Sim);
     Load_Setup(Sim, File);
     Repair_Talkers(Sim.State);
-    if (Sim.State.Of<Link_State>().Comport_Count > 0)
-        Init_Comports(Sim, Sim.State.Of<Link_State>().Comport_Count);
+    Open_Links_Of_Setup(Sim);
     Sim.Told.Switched.Tell();
     for (int I = 1; I <= Sim.State.Of<Shell_State>().Open_Form_Count; ++I) {
         const std::int16_t Index = Sim.State.Of<Shell_State>().Open_Form_List[I].Index;

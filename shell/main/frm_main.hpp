@@ -21,6 +21,14 @@ struct frmMain : Form {
 
     std::vector<std::unique_ptr<Menu_Item>> Menu_Items;
     Control_Array<Label, 1, 16> sbStatusBar; // one panel for each serial port
+    // The links of the setup, by port number; a click opens the port setup, or the link when it is closed.
+    Control_Array<Label, 1, 28> sbLink;
+    Label sbLinksClosed{*this, "sbLinksClosed", "Links are closed", "Click to open the links of the setup"};
+    // What the user must not overlook while it holds.
+    Label lblFaults{*this, "lblFaults", "", "Chosen in the menu Options"};
+    Label lblOutputHeld{*this, "lblOutputHeld", "Output is held while a message stands",
+                        "Answer the message, and sentences leave again"};
+    Label lblOutputPaused{*this, "lblOutputPaused", "Output is paused", "Click to let sentences leave again"};
     Timer timer_Sky{*this, "timer_Sky"};
 
     Menu_Item& Item(const char* Item_Name,
@@ -38,6 +46,9 @@ void MDIForm_Load(Simulator& Sim);
 // Index 1 Ship mode, 2 Sensor mode: every open sensor window is loaded anew, since sensors read Mode at load
 // only.
 void mnuMode_Click(Simulator& Sim, int Index);
+
+void Wire_Link_Panels(Simulator& Sim);
+void Wire_Output_Strip(Simulator& Sim);
 
 // Connects menus and status bar with what they do and with the state that they show.
 void Wire_Main(Simulator& Sim);

@@ -1,8 +1,10 @@
+#include "links/links_at_start.hpp"
 #include "sentences/number_text.hpp"
 #include "shell/main/file_menu.hpp"
 #include "shell/main/frm_main.hpp"
 #include "shell/state/fault_state.hpp"
 #include "shell/state/link_state.hpp"
+#include "shell/state/say.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
@@ -34,8 +36,13 @@ void mnuSetupStartOption_Click(Simulator& Sim) {
            "At restart the program will start with pos, speed, course etc. from last session");
 }
 
+void mnuSetupOpenLinks_Click(Simulator& Sim) {
+    Set_Opens_Network_Links(Sim, !Opens_Network_Links(Sim));
+    Sim.Told.Switched.Tell();
+}
+
 void mnuHelp_Click(Simulator& Sim) {
-    Sim.Windows.Boxes.Show("Unable to display Help Contents. There is no Help associated with this project.");
+    Say(Sim, "Unable to display Help Contents. There is no Help associated with this project.");
 }
 
 // An entry that opens no window.
@@ -63,6 +70,8 @@ constexpr Command Commands[] = {
     {"mnuSetupStartOption", "Setup", "Start with navdata from last session", Alone, 2,
      mnuSetupStartOption_Click,
      [](const Simulator& Sim) { return Sim.State.Of<Shell_State>().Start_With_Last_Navdata; }},
+    {"mnuSetupOpenLinks", "Setup", "Open network links at start", Alone, 5, mnuSetupOpenLinks_Click,
+     Opens_Network_Links},
     {"mnuOptionsChecksumDisabled", "Options", "Checksum disabled", Alone, 2,
      [](Simulator& Sim) {
          Switch(Sim, Sim.State.Of<Fault_State>().Fault_No_Checksum,
@@ -173,7 +182,7 @@ void Show_Panel(Simulator& Sim, int Port) {
 
 frmMain::frmMain(Desktop& Its_Windows, std::span<const Window_Class* const> Window_Table)
     : Form(Its_Windows, Class_Name, 0, Form_Kind::Main), Menu_Items(Make_Items(*this, Window_Table)),
-      sbStatusBar(*this, "sbStatusBar", "") {}
+      sbStatusBar(*this, "sbStatusBar", ""), sbLink(*this, "sbLink", "") {}
 
 Menu_Item& frmMain::Item(const char* Item_Name, int Index) const {
     for (const auto& I : Menu_Items)
@@ -198,6 +207,8 @@ void Wire_Main(Simulator& Sim) {
     Panels[1] = {"No comports enabled", true};
     for (int Port = 1; Port <= Panels.Last_Index; ++Port) Show_Panel(Sim, Port);
     Sim.Told.Panel.Add(&Sim, [&Sim](int Port) { Show_Panel(Sim, Port); });
+    Wire_Link_Panels(Sim);
+    Wire_Output_Strip(Sim);
     Sim.Told.Windows.Add(&Sim, [&Sim] { Show_Open_Windows(Sim); });
     Sim.Told.Switched.Add(&Sim, [&Sim] { Show_Orders(Sim); });
 }

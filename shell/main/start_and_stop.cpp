@@ -1,5 +1,5 @@
 #include "gnss/satellites/gnss_sky.hpp"
-#include "links/serial_ports.hpp"
+#include "links/links_at_start.hpp"
 #include "links/setup_file/setup_file.hpp"
 #include "ownship/ship/control_input.hpp"
 #include "ownship/ship/frm_ship.hpp"
@@ -43,8 +43,7 @@ void Load_First_Setup(Simulator& Sim) {
     const std::string File = Setup_File_Name(Sim);
     if (Sim.Services.Disk().Exists(File)) {
         Load_Setup(Sim, File);
-        if (Sim.State.Of<Link_State>().Comport_Count > 0)
-            Init_Comports(Sim, Sim.State.Of<Link_State>().Comport_Count);
+        Open_Links_Of_Setup(Sim);
         return;
     }
     Sim.Windows.Boxes.Show("No setupfile exist. Default data loaded and no comports initialized ! ");

@@ -23,6 +23,7 @@ Simulator::Simulator(Platform& Its_Platform, Start_Options Its_Options,
 Simulator::~Simulator() {
     for (const auto& Window : Windows.Forms) Window->On_Unload = nullptr;
     while (!Windows.Forms.empty()) Windows.Event([this] { Windows.Unload(*Windows.Forms.back()); });
+    Timers.Stop(Links.Watch.Each_Second);
     Links.State_Checks.clear(); // controls of the main window, which is still held
 }
 

@@ -26,13 +26,6 @@ struct Start_Options {
     bool Control_Input = false; // steered by datagrams, see links/control_input
 };
 
-// What has been sent since the start, by port number; element 0 counts sentences without a port.
-struct Send_Counts {
-    Table<std::uint64_t, 0, 28> Sent;
-    Table<std::uint64_t, 0, 28> Failed; // the link refused the sentence
-    std::uint64_t Dropped_By_Box = 0;   // a message box stood
-};
-
 // The whole simulator: state, windows, links and the platform below them. There is no other place for state,
 // so that every test makes a fresh one.
 struct Simulator {
@@ -48,12 +41,11 @@ struct Simulator {
     Timer_Queue Timers;
     Desktop Windows;
     Link_Table Links;
-    Send_Counts Counts;
     Reports Told;
     Sentence_Log Log;                   // of all that has left or come
     std::int16_t Sender = sender::None; // whose sentences go through the gate now, see Sending_As
 
-    // The last sentence of each sensor window, by form index, as it left.
+    // The last sentence of each sensor window that left, by form index.
     Table<std::string, 1, 11> Last_Sentence;
 
     const std::span<const Window_Class* const> Window_Table; // every kind of window that there is

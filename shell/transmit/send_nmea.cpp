@@ -1,5 +1,7 @@
 #include "shell/transmit/send_nmea.hpp"
 
+#include "links/link_record.hpp"
+#include "links/link_watch.hpp"
 #include "links/port_list.hpp"
 #include "links/tcp_server.hpp"
 #include "links/tx_time_text.hpp"
@@ -10,6 +12,7 @@
 #include "shell/state/simulator.hpp"
 
 #include <cmath>
+#include <utility>
 
 namespace brinewright {
 
@@ -51,69 +54,86 @@ void Pace(Simulator& Sim) {
     Last_s = Now_s(Sim);
 }
 
-// False when the write failed; the box comes once per port and run.
-bool Write_Serial(Simulator& Sim, const std::string& Text, std::int16_t Port) {
-    Transmit_Record& Transmit = Sim.State.Of<Link_State>().Transmit;
-    try {
-        if (!Sim.Links.MSComm[Port]) throw Run_Time_Error("Port not open");
-        Sim.Links.MSComm[Port]->Output(Text);
-    } catch (const Run_Time_Error&) {
-        // Set before the box is shown, so that a tick behind the box does not show it again.
-        if (!std::exchange(Transmit.Error_Shown[Port - 1], true))
-            Sim.Windows.Boxes.Show("Comport error COM" + Number_Text(Port) + ". Check your Comport settings!",
-                                   "Comport error", Box_Icon::Stop);
-        return false;
-    }
-    float& Last_Tx_s = Transmit.Last_Tx_Time[Port - 1];
+enum class Outcome { Taken, Skipped, Refused };
+
+void Show_Sent(Simulator& Sim, std::int16_t Port) {
+    float& Last_Tx_s = Sim.State.Of<Link_State>().Transmit.Last_Tx_Time[Port - 1];
     if (Last_Tx_s != 0) {
         Sim.State.Of<Link_State>().Link_Panel[Port].Text =
             "COM" + Number_Text(Port) + " : TX " + Tx_Time_Text(Sim.Services.Time());
         Sim.Told.Panel.Tell(Port);
     }
     Last_Tx_s = Now_s(Sim);
-    return true;
 }
 
-// Runtime errors count as nothing here: the statement after a failing one simply goes on. False when it
-// failed.
-bool Write_UDP(Simulator& Sim, const std::string& Text, std::int16_t Port) {
+// The box comes once per port and run.
+Outcome Write_Serial(Simulator& Sim, const std::string& Text, std::int16_t Port) {
     try {
-        const auto& Link = Sim.Links.WinsockUDP[Port - port_number::First_UDP];
-        if (!Link) return false;
-        Link->Send(Text);
-        return true;
-    } catch (const Run_Time_Error&) {
-        return false;
+        if (!Sim.Links.MSComm[Port]) throw Run_Time_Error("Port not open");
+        if (!Sim.Links.MSComm[Port]->Output(Text)) return Outcome::Skipped;
+    } catch (const Run_Time_Error& Failure) {
+        Link_Fails(Sim, Port, Failure.what());
+        // Set before the box is shown, so that a tick behind the box does not show it again.
+        bool& Told = Sim.State.Of<Link_State>().Transmit.Error_Shown[Port - 1];
+        if (!std::exchange(Told, true))
+            Sim.Windows.Boxes.Show("Comport error COM" + Number_Text(Port) + ". Check your Comport settings!",
+                                   "Comport error", Box_Icon::Stop);
+        return Outcome::Refused;
     }
+    Show_Sent(Sim, Port);
+    return Outcome::Taken;
+}
+
+// Runtime errors count as nothing here: the statement after a failing one simply goes on.
+Outcome Write_UDP(Simulator& Sim, const std::string& Text, std::int16_t Port) {
+    const auto& Link = Sim.Links.WinsockUDP[Port - port_number::First_UDP];
+    if (!Link || !Link->Is_Open()) return Outcome::Refused;
+    try {
+        if (!Link->Send(Text)) return Outcome::Skipped;
+    } catch (const Run_Time_Error& Failure) {
+        Link_Fails(Sim, Port, Failure.what());
+        return Outcome::Refused;
+    }
+    Link_Works(Sim, Port);
+    return Outcome::Taken;
+}
+
+Outcome Write_To(Simulator& Sim, const std::string& Text, std::int16_t Port) {
+    if (Port <= port_number::Last_Serial) return Write_Serial(Sim, Text, Port);
+    if (Port > port_number::TCP) return Write_UDP(Sim, Text, Port);
+    if (Write_TCP(Sim, Text)) return Outcome::Taken;
+    return Record_Of(Sim, Port).Open ? Outcome::Skipped : Outcome::Refused; // its clients are counted there
+}
+
+void Count(Simulator& Sim, std::int16_t Port, Outcome What) {
+    Link_Record& Record = Sim.State.Of<Link_Record_State>().Link[Port];
+    if (What == Outcome::Taken) Note_Sent(Sim, Port);
+    if (What == Outcome::Refused) ++Record.Refused;
+    if (What == Outcome::Skipped && Port != port_number::TCP) ++Record.Skipped;
 }
 
 } // namespace
 
 void Send_NMEA(Simulator& Sim, std::string& Text, std::int16_t Port) {
+    Link_Record_State& Records = Sim.State.Of<Link_Record_State>();
     if (Sim.State.Of<Shell_State>().Pause_Active) return;
     if (!Sim.Windows.Boxes.Standing.empty()) {
-        ++Sim.Counts.Dropped_By_Box;
+        ++Records.Dropped_By_Box;
         return;
     }
     Inject_Faults(Sim, Text);
     Pace(Sim);
     if (Port <= port_number::None) {
-        ++Sim.Counts.Sent[0];
+        ++Records.Sent_Without_Link;
         return;
     }
-    bool Link_Took_It = true;
-    if (Port <= port_number::Last_Serial) {
-        if (!Write_Serial(Sim, Text, Port)) {
-            ++Sim.Counts.Failed[Port];
-            return;
-        }
-    } else if (Port == port_number::TCP) {
-        Write_TCP(Sim, Text);
-    } else {
-        Link_Took_It = Write_UDP(Sim, Text, Port);
+    Outcome What = Outcome::Refused; // a setup file can name a port that does not exist
+    if (Port <= port_number::Last) {
+        What = Write_To(Sim, Text, Port);
+        Count(Sim, Port, What);
     }
-    if (Port <= port_number::Last) ++(Link_Took_It ? Sim.Counts.Sent : Sim.Counts.Failed)[Port];
-    Sim.Told.Sent.Tell({Text, Port, Link_Took_It, Sim.Sender});
+    if (What == Outcome::Refused && Port <= port_number::Last_Serial) return; // the monitors are not told
+    Sim.Told.Sent.Tell({Text, Port, What == Outcome::Taken, Sim.Sender});
 }
 
 } // namespace brinewright

@@ -72,7 +72,6 @@ struct Little_Desktop {
     Timer_Queue Timers{Services.Time()};
     Simulator_State State;
     Link_Table Links;
-    Send_Counts Counts;
     Desktop Windows{Timers};
     std::shared_ptr<Little_Form> Window = Open();
     std::vector<std::string> Pushed;
@@ -87,7 +86,7 @@ struct Little_Desktop {
         Windows.Event([&] { Windows.Show(Made); });
         return Made;
     }
-    Automation_Target Target() { return {Windows, State, Links, Counts, All_Windows()}; }
+    Automation_Target Target() { return {Windows, State, Links, All_Windows()}; }
     Automation_Hooks Hooks() {
         Automation_Hooks Lent;
         Lent.Advance = [this](double Seconds) { Advance(std::min(Seconds, Hooks_Limit_s)); };

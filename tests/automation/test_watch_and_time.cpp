@@ -1,3 +1,4 @@
+#include "links/link_record_state.hpp"
 #include "shell/state/link_state.hpp"
 #include "tests/automation/automation_test.hpp"
 
@@ -125,11 +126,12 @@ TEST_F(Watching, Pictures_Are_Taken_Where_There_Are_Windows) {
 }
 
 TEST_F(Watching, Statistics_Count_What_Was_Sent_And_Skipped) {
-    Counts.Sent[17] = 12;
-    Counts.Failed[3] = 2;
-    Counts.Dropped_By_Box = 5;
+    auto& Records = State.Of<Link_Record_State>();
+    Records.Link[17] = {
+        .Name = "TCP 8040", .Wanted = true, .Why_Not = "address in use", .Sent = 12, .Skipped = 4};
+    Records.Link[3].Refused = 2;
+    Records.Dropped_By_Box = 5;
     Links.WinsockArray.push_back(std::make_unique<TCP_Element>());
-    Links.WinsockArray.back()->Skipped = 4;
     Window->timer_GGA.Set_Interval(1000);
     Advance(2.5);
     const Json Told = Result("stats");
@@ -137,6 +139,11 @@ TEST_F(Watching, Statistics_Count_What_Was_Sent_And_Skipped) {
     EXPECT_EQ(Told["failed"], Json({{"3", 2}}));
     EXPECT_EQ(Told["skipped"], Json({{"TCP", 4}}));
     EXPECT_EQ(Told["dropped_by_box"], 5);
+    EXPECT_EQ(Told["links"], Json::array({{{"port", 17},
+                                           {"name", "TCP 8040"},
+                                           {"open", false},
+                                           {"why_not", "address in use"},
+                                           {"sentences_per_s", 0.0}}}));
     EXPECT_EQ(Told["clients"], Json::array()); // that one has gone
     EXPECT_EQ(Told["ticks"]["count"], 2);
     EXPECT_EQ(Told["ticks"]["lateness_us"], Json({{"p50", 0}, {"p99", 0}, {"max", 0}}));

@@ -7,6 +7,7 @@
 #include "tests/support/state_leaves.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
+#include <concepts>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -25,8 +26,10 @@ void Each_Leaf(Simulator_State& State, Leaf At_Leaf) {
 
 inline std::string Text_Of(bool Value) { return Value ? "#TRUE#" : "#FALSE#"; }
 inline std::string Text_Of(const std::string& Value) { return '"' + Value + '"'; }
-inline std::string Text_Of(std::int16_t Value) { return std::to_string(Value); }
-inline std::string Text_Of(std::int32_t Value) { return std::to_string(Value); }
+template <std::integral Whole>
+std::string Text_Of(Whole Value) {
+    return std::to_string(Value);
+}
 // Only for the values of Filled_State and zero: a whole number and a half, negative or not.
 inline std::string Text_Of(double Value) {
     const std::string Whole = std::to_string(static_cast<long>(Value));

@@ -108,6 +108,23 @@ TEST_F(TCP, Timers_Of_Clients_That_Have_Gone_Stop) {
               190);
 }
 
+// The numbers of elements are 16 bits wide; when they are used up, those whose clients have gone serve again.
+TEST_F(TCP, Serves_On_When_The_Numbers_Are_Used_Up) {
+    Close(F());
+    World.Connect("10.0.0.1"); // stays
+    for (std::size_t I = 1; I < 33'000; ++I) {
+        World.Connect();
+        Leave(I);
+    }
+    World.Connect("10.0.0.9");
+    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 32'767);
+    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 2);
+    EXPECT_EQ(Sim.Links.Connection_History.size(), 32'767u);
+    Send("$A", 17);
+    EXPECT_EQ(World.Sent, (std::vector<std::pair<std::string, std::string>>{{"TCP 0", "$A\r\n"},
+                                                                            {"TCP 33000", "$A\r\n"}}));
+}
+
 TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
     World.Connect("10.0.0.7");
     Link().TCP_Port = 4001;
@@ -120,8 +137,9 @@ TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
               1); // closing the element that listens is no client going away
     EXPECT_EQ(Link().TCP_Client_Max_Index, 1);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
-    EXPECT_EQ(History().back(), " 1-Connected to IP : 10.0.0.7 - 01.01.2026 11:06:40");
+    EXPECT_EQ(History().back(), " 1-Connected to IP : 10.0.0.7 - 01.01.2026 10:00:00");
     EXPECT_EQ(F().cmbConnections.List_Index(), 0);
+    EXPECT_EQ(History().size(), 1u); // no line for an element that has one
     World.Connect();
     Send("$A", 17);
     EXPECT_EQ(Sent_On("TCP 0").size() + Sent_On("TCP 1").size(), 2u);

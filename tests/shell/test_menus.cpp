@@ -149,7 +149,8 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Disk.Content["/tmp/other.ini"] = Write_Setup(Other, All_Windows());
     World.Log.clear();
     Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
-    EXPECT_EQ(World.Log, (Texts{"COM 10 open 4800,n,8,1", "COM 11 close", "listen close"}));
+    EXPECT_EQ(World.Log, (Texts{"COM 10 open 4800,n,8,1", "COM 11 close", "listen close",
+                                "UDP 255.255.255.255:60001 close"}));
 
     // Every check of the menus follows what was read.
     for (const bool On : {true, false}) {

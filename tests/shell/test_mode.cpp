@@ -155,7 +155,7 @@ TEST_F(Modes, The_First_Sentence_Tells_Where_The_Ship_Is_Even_When_It_Is_Frozen)
     EXPECT_EQ(Last_Value(*this, "GLL", 1), 5400);
 }
 
-TEST_F(Modes, A_Pause_Ends_With_The_Window_That_Could_End_It) {
+TEST_F(Modes, A_Pause_Outlives_The_Window_And_A_Click_In_The_Strip_Ends_It) {
     Send_On_TCP({3});
     Setup.Of<Gyro_State>().HDT_Enabled[1] = true;
     Begin("Ship", {0, 3});
@@ -163,6 +163,9 @@ TEST_F(Modes, A_Pause_Ends_With_The_Window_That_Could_End_It) {
     Run_s(3);
     EXPECT_TRUE(Left.empty());
     Choose_Menu("mnuMode", 2);
+    Run_s(3);
+    EXPECT_TRUE(Left.empty());
+    Click(Main_Window(Sim).lblOutputPaused);
     Run_s(3);
     EXPECT_FALSE(Left.empty());
 }

@@ -1,3 +1,4 @@
+#include "links/link_record.hpp"
 #include "links/tcp_status/frm_tcpip.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
@@ -33,13 +34,13 @@ TEST(Send_NMEA, Pause_Comes_Before_Everything_And_A_Standing_Box_Drops_As_Well) 
     V.Choose_Menu("mnuOptionSplittedMsg");
     V.Shell().Pause_Active = true;
     Expect_Nothing_Happens();
-    EXPECT_EQ(V.Sim.Counts.Dropped_By_Box, 0u);
+    EXPECT_EQ(V.Sim.State.Of<Link_Record_State>().Dropped_By_Box, 0u);
 
     V.Shell().Pause_Active = false;
     V.Hold_Boxes = true;
     V.Sim.Windows.Boxes.Show("stands");
     Expect_Nothing_Happens();
-    EXPECT_EQ(V.Sim.Counts.Dropped_By_Box, 2u);
+    EXPECT_EQ(V.Sim.State.Of<Link_Record_State>().Dropped_By_Box, 2u);
     V.Sim.Windows.Boxes.Answer(V.Told.back().Id);
     V.Send("$GPGGA*5A", 1);
     EXPECT_EQ(V.World.Sent.size(), 2u);
@@ -166,7 +167,7 @@ TEST(Send_NMEA, Every_Port_Number_Finds_Its_Link_Or_None) {
         {"UDP 255.255.255.255:60011", "$P28\r\n"}};
     EXPECT_EQ(V.World.Sent, Expected);
     EXPECT_EQ(V.Left.size(), 5u);
-    for (const int Port : {1, 16, 17, 18, 28}) EXPECT_EQ(V.Sim.Counts.Sent[Port], 1u);
+    for (const int Port : {1, 16, 17, 18, 28}) EXPECT_EQ(Record_Of(V.Sim, Port).Sent, 1u);
 }
 
 TEST(Send_NMEA, A_Failing_Serial_Write_Is_Told_Once_Per_Port) {
@@ -187,7 +188,7 @@ TEST(Send_NMEA, A_Failing_Serial_Write_Is_Told_Once_Per_Port) {
                                      "Comport error COM 5. Check your Comport settings!"}));
     EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[3].Text(), ""); // the monitors are not told
     EXPECT_TRUE(V.Left.empty());
-    EXPECT_EQ(V.Sim.Counts.Failed[3], 3u);
+    EXPECT_EQ(Record_Of(V.Sim, 3).Refused, 3u);
 
     V.World.Failures.clear();
     V.Send("$A*5A", 3);
@@ -208,8 +209,8 @@ TEST(Send_NMEA, A_Failing_Datagram_Is_Ignored_And_Shows_On_The_Monitor) {
     EXPECT_TRUE(V.Told.empty());
     EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[18].Text(), "$A*5A\r\n");
     EXPECT_EQ(V.Left, (std::vector<std::pair<int, std::string>>{{19, "$B*5A\r\n"}})); // only what has left
-    EXPECT_EQ(V.Sim.Counts.Failed[18], 1u);
-    EXPECT_EQ(V.Sim.Counts.Failed[20], 1u);
+    EXPECT_EQ(Record_Of(V.Sim, 18).Refused, 1u);
+    EXPECT_EQ(Record_Of(V.Sim, 20).Refused, 1u);
 }
 
 TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {

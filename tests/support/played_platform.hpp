@@ -32,15 +32,17 @@ class Played_Platform : public Virtual_Platform {
             Opened = false;
         }
         bool Is_Open() const override { return Opened; }
-        void Output(std::string_view Text) override {
+        bool Output(std::string_view Text) override {
             World.Fail_If_Told(Name + " output");
+            if (!Opened) throw Run_Time_Error("Port not open");
+            if (Is_Slow) return false;
             World.Sent.emplace_back(Name, Text);
+            return true;
         }
         std::string Input() override {
             World.Fail_If_Told(Name + " input");
             return std::exchange(Received, {});
         }
-        std::uint64_t Skipped_Count() const override { return 0; }
         void Arrive(const std::string& Data) {
             Received += Data;
             On_Comm(Comm_Event::Receive);
@@ -50,6 +52,7 @@ class Played_Platform : public Virtual_Platform {
         std::string Name;
         std::string Received;
         bool Opened = false;
+        bool Is_Slow = false; // takes nothing more
     };
 
     struct Client : TCP_Connection {
@@ -58,18 +61,19 @@ class Played_Platform : public Virtual_Platform {
               Its_IP(std::move(IP)) {}
         ~Client() override { World.Log.push_back(Name + " gone"); }
         bool Send(std::string_view Text) override {
-            if (!Reads) return false;
+            if (!Reads) return ++Skipped, false;
             World.Sent.emplace_back(Name, Text);
             return true;
         }
         void Close() override { World.Log.push_back(Name + " close"); }
         std::string Remote_IP() const override { return Its_IP; }
-        std::uint64_t Skipped_Count() const override { return 0; }
+        std::uint64_t Skipped_Count() const override { return Skipped; }
 
         Played_Platform& World;
         std::string Name;
         std::string Its_IP;
         bool Reads = true;
+        std::uint64_t Skipped = 0;
     };
 
     struct Server : TCP_Listener {
@@ -108,10 +112,11 @@ class Played_Platform : public Virtual_Platform {
             World.Log.push_back(Name + " close");
             Opened = false;
         }
-        void Send(std::string_view Text) override {
+        bool Send(std::string_view Text) override {
             World.Fail_If_Told(Name + " send");
             if (!Opened) throw Run_Time_Error("Socket not open");
             World.Sent.emplace_back(Name, Text);
+            return true;
         }
         std::string Receive() override {
             if (Received.empty()) return {};

@@ -42,7 +42,7 @@ TEST_F(Boxes_And_Ends, Boxes_Stand_One_At_A_Time_Until_Answered) {
     Run_s(3);
     Settle();
     EXPECT_EQ(Left.size(), Before);
-    EXPECT_GT(Sim.Counts.Dropped_By_Box, 0U);
+    EXPECT_GT(Sim.State.Of<Link_Record_State>().Dropped_By_Box, 0U);
     EXPECT_EQ(Top_Level<QMessageBox>(), Box);
 
     QTest::mouseClick(Box->button(QMessageBox::Ok), Qt::LeftButton);

@@ -50,6 +50,7 @@ void Box_View::Follow_Boxes() {
                           Front.Title.empty() ? QStringLiteral("Brinewright") : To_Screen(Front.Title),
                           To_Screen(Front.Text), QMessageBox::Ok | Cancel, Below);
     Box->setTextFormat(Qt::PlainText);
+    Box->setInformativeText(To_Screen(Front.Advice));
     connect(Box, &QMessageBox::finished, this, [this, Id = Box_Id] {
         Sim.Windows.Event([&] { Sim.Windows.Boxes.Answer(Id); });
         Q_EMIT Acted();

@@ -15,7 +15,6 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -31,16 +30,13 @@ constexpr int Postponed_Looks_Limit = 10;
 } // namespace
 
 Desktop_View::Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme)
-    : Sim(Its_Simulator), Colours(Its_Theme), Strip(new Status_Strip(Its_Simulator)),
-      Area(new Working_Area(Its_Theme, this)), Menus(new Menu_Bar(Its_Simulator, Its_Theme, *menuBar())),
+    : Sim(Its_Simulator), Colours(Its_Theme), Area(new Working_Area(Its_Theme, this)),
+      Menus(new Menu_Bar(Its_Simulator, Its_Theme, *menuBar())),
+      Strip(new Status_Strip(Its_Simulator, *menuBar())),
       Panels(new Link_Panels(Its_Simulator, *statusBar())), Boxes(new Box_View(Its_Simulator, *this)) {
-    auto* Centre = new QWidget(this);
-    auto* Column = new QVBoxLayout(Centre);
-    Column->setContentsMargins(0, 0, 0, 0);
-    Column->setSpacing(0);
-    Column->addWidget(Strip);
-    Column->addWidget(Area);
-    setCentralWidget(Centre);
+    setCentralWidget(Area);
+    connect(Strip, &Status_Strip::Acted, this, &Desktop_View::Follow);
+    connect(Panels, &Link_Panels::Acted, this, &Desktop_View::Follow);
     connect(Menus, &Menu_Bar::Acted, this, &Desktop_View::Follow);
     connect(Boxes, &Box_View::Acted, this, &Desktop_View::Follow);
     Look.setSingleShot(true);

@@ -57,9 +57,9 @@ class Desktop_View : public QMainWindow {
 
     Simulator& Sim;
     Theme& Colours;
-    Status_Strip* Strip;
     Working_Area* Area;
     Menu_Bar* Menus;
+    Status_Strip* Strip;
     Link_Panels* Panels;
     Box_View* Boxes;
     QTimer Look;

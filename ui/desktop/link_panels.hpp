@@ -1,16 +1,46 @@
 #pragma once
 
 #include "shell/state/simulator.hpp"
+#include "ui/desktop/clicked_label.hpp"
 
 #include <QLabel>
 #include <QStatusBar>
 #include <QTimer>
 
-#include <map>
+#include <vector>
 
 namespace brinewright {
 
-// The status bar: a panel for each serial port, and at the right, for some seconds, what the program said.
+// As many panels as there is room for, side by side; the links that are closed come first, and how many are
+// left stands at the end.
+class Panel_Row : public QWidget {
+    Q_OBJECT
+  public:
+    Panel_Row(Simulator& Its_Simulator, QWidget* Parent);
+
+    void Follow();
+
+  Q_SIGNALS:
+    void Acted(); // the user has clicked one
+
+  protected:
+    void resizeEvent(QResizeEvent*) override { Arrange(); }
+
+  private:
+    struct Panel {
+        const Label* Source;
+        Clicked_Label* Shown;
+    };
+    void Add(Label& Source);
+    void Arrange();
+
+    Simulator& Sim;
+    std::vector<Panel> Panels; // in their order
+    QLabel* Left_Over;
+};
+
+// The status bar: a panel for each serial port and each link, and at the right, for some seconds, what the
+// program said.
 class Link_Panels : public QObject {
     Q_OBJECT
   public:
@@ -18,11 +48,14 @@ class Link_Panels : public QObject {
 
     ~Link_Panels() override;
 
-    void Follow();
+    void Follow() { Row->Follow(); }
+
+  Q_SIGNALS:
+    void Acted(); // the user has clicked a panel
 
   private:
     Simulator& Sim;
-    std::map<int, QLabel*> Panels; // by port number
+    Panel_Row* Row;
     QLabel* Said;
     QTimer Said_Long_Enough;
 };

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace brinewright {
 
@@ -10,8 +11,9 @@ namespace {
 constexpr int Look_Pause_ms = 100;
 }
 
-Countdown_Bar::Countdown_Bar(const Theme& Its_Theme, std::weak_ptr<Form> Its_Owner, const Timer& Its_Timer)
-    : Colours(Its_Theme), Owner(std::move(Its_Owner)), Watched(Its_Timer) {
+Countdown_Bar::Countdown_Bar(const Theme& Its_Theme, std::weak_ptr<Form> Its_Owner, const Timer& Its_Timer,
+                             std::function<bool()> Its_Counts)
+    : Colours(Its_Theme), Owner(std::move(Its_Owner)), Watched(Its_Timer), Counts(std::move(Its_Counts)) {
     setFixedHeight(4);
     setAttribute(Qt::WA_OpaquePaintEvent); // so that nothing beneath is painted with it
     setMinimumWidth(40);
@@ -19,7 +21,7 @@ Countdown_Bar::Countdown_Bar(const Theme& Its_Theme, std::weak_ptr<Form> Its_Own
 }
 
 double Countdown_Bar::Share() const {
-    if (Owner.expired() || Watched.Interval_ms() <= 0) return 0;
+    if (Owner.expired() || Watched.Interval_ms() <= 0 || !Counts()) return 0;
     return std::clamp(Watched.Until_Tick_ms() / Watched.Interval_ms(), 0.0, 1.0);
 }
 

@@ -5,15 +5,18 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 namespace brinewright {
 
-// A thin bar that fills when a timer ticks and empties until its next tick; empty while the timer is stopped.
+// A thin bar that fills when a timer ticks and empties until its next tick; empty while the timer is stopped
+// and while it does not count.
 class Countdown_Bar : public QWidget {
     Q_OBJECT
   public:
-    Countdown_Bar(const Theme& Colours, std::weak_ptr<Form> Owner, const Timer& Watched);
+    Countdown_Bar(const Theme& Colours, std::weak_ptr<Form> Owner, const Timer& Watched,
+                  std::function<bool()> Counts);
     QSize sizeHint() const override { return {48, 4}; }
 
   protected:
@@ -26,6 +29,7 @@ class Countdown_Bar : public QWidget {
     const Theme& Colours;
     std::weak_ptr<Form> Owner;
     const Timer& Watched;
+    std::function<bool()> Counts;
     int Shown_Pixels = -1;
 };
 

@@ -96,7 +96,7 @@ Built Make(Form_View& View, const Layout& Node, const layout::Label_Scale& Kind)
 }
 
 Built Make(Form_View& View, const Layout&, const layout::Countdown& Kind) {
-    return new Countdown_Bar(View.Colours, View.Shown_Form(), *Kind.Watched);
+    return new Countdown_Bar(View.Colours, View.Shown_Form(), *Kind.Watched, Kind.Counts);
 }
 
 Built Make(Form_View& View, const Layout&, const layout::Instrument& Kind) {

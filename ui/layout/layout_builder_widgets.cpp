@@ -44,7 +44,7 @@ QLabel* Plain_Label() {
 } // namespace
 
 const char* Style_Name(Role As) {
-    constexpr const char* Names[] = {"", "dim", "readout", "good", "warn"};
+    constexpr const char* Names[] = {"", "dim", "readout", "good", "warn", "bad"};
     return Names[static_cast<std::size_t>(As)];
 }
 
@@ -70,12 +70,15 @@ Built Make(Form_View& View, const Layout&, const layout::Words& Kind) {
     QLabel* New = Plain_Label();
     New->setText(To_Screen(Kind.Now.Text));
     New->setProperty("role", QString::fromLatin1(Style_Name(Kind.Now.As)));
-    if (Kind.Read)
+    if (Kind.Read) {
+        New->setMinimumWidth(1); // one that grows is cut and does not widen the window
         View.When_Shown([New, Read = Kind.Read] {
             const layout::Said Now = Read();
             New->setText(To_Screen(Now.Text));
+            New->setToolTip(New->text());
             Show_Role(New, "role", Now.As);
         });
+    }
     return New;
 }
 

@@ -88,7 +88,9 @@ QLabel[ink="red"] { color: @Port; }
 QLabel[ink="green"] { color: @Starboard; }
 QLabel[ink="amber"] { color: @Warn; }
 QLabel#ticker { background: @Field; color: @Dim; border-top: 1px solid @Line; padding: 3px 8px; }
-QLabel#fault_strip { background: @Bad; color: @Field; padding: 4px 12px; font-weight: bold; }
+QLabel[notice] { color: @Field; padding: 0 8px; border-radius: 3px; font-weight: bold; }
+QLabel[notice="bad"] { background: @Bad; }
+QLabel[notice="warn"] { background: @Warn; }
 QSlider::groove:vertical { width: 4px; background: @Line; border-radius: 2px; }
 QSlider::groove:horizontal { height: 4px; background: @Line; border-radius: 2px; }
 QSlider::handle { background: @Accent; border-radius: 4px; }
