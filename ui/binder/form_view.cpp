@@ -2,6 +2,7 @@
 
 #include "ui/binder/callout.hpp"
 #include "ui/binder/grid_model.hpp"
+#include "ui/binder/mnemonic.hpp"
 
 #include <QApplication>
 #include <QEvent>
@@ -110,7 +111,8 @@ void Form_View::Bind(Visible_Control& C, QWidget* W, std::function<void()> Show)
 
 QPushButton* Form_View::Make(Button& C) {
     auto* W = new QPushButton(this);
-    Bind(C, W, [&C, W] { W->setText(To_Screen(*C.Caption)); });
+    const QChar Letter = Choose_Mnemonic(To_Screen(*C.Caption), Letters);
+    Bind(C, W, [&C, W, Letter] { W->setText(With_Mnemonic(To_Screen(*C.Caption), Letter)); });
     connect(W, &QPushButton::clicked, this, [this, &C] { Act([&C](Desktop& D) { D.User_Click(C); }); });
     return W;
 }
@@ -357,8 +359,8 @@ void Form_View::Enter(Binding& B, Qt::FocusReason Why) {
     Desktop& Windows = F->Windows;
     if (Windows.Focus == &C || !C.Can_Focus()) return;
     // Back from another window, the keyboard is where the toolkit left it; the model may have moved since.
-    const bool Back = Why == Qt::ActiveWindowFocusReason || Why == Qt::PopupFocusReason ||
-                      Why == Qt::MenuBarFocusReason;
+    const bool Back =
+        Why == Qt::ActiveWindowFocusReason || Why == Qt::PopupFocusReason || Why == Qt::MenuBarFocusReason;
     if (Back && Windows.Focus && &Windows.Focus->Owner == F.get()) return Follow_Focus(Windows);
     const bool Opens = !Windows.Focus && F->Kind == Form_Kind::Dialog;
     Act([&C](Desktop& D) { D.User_Focus(C); });
@@ -385,7 +387,8 @@ bool Form_View::Type_Key(Binding& B, const QKeyEvent& Pressed) {
     const auto& Typed = static_cast<const Typed_Control&>(*B.Source);
     const bool Enter = Pressed.key() == Qt::Key_Return || Pressed.key() == Qt::Key_Enter;
     const bool Restores = Pressed.key() == Qt::Key_Escape && Typed.Half_Typed();
-    const bool Editable = B.Source->Kind == Control_Kind::Text_Box || static_cast<const Combo_Box&>(Typed).Free_Text;
+    const bool Editable =
+        B.Source->Kind == Control_Kind::Text_Box || static_cast<const Combo_Box&>(Typed).Free_Text;
     if (!Editable || (!Enter && !Restores)) return false;
     const auto F = Source.lock();
     const std::uint64_t Refused_Before = F->Windows.Refusals;

@@ -98,6 +98,7 @@ class Form_View : public QWidget {
     std::vector<Binding> Bindings;
     std::vector<std::function<void()>> Looks;
     std::map<const QWidget*, Callout*> Callouts;
+    QString Letters = QStringLiteral("FMSVWOH"); // taken already, first of all by the menus
     std::uint64_t Seen = ~std::uint64_t{0};
     bool Following = false;              // the view moves the focus itself: no report
     Control* Moved_To = nullptr;         // where the focus went meanwhile
