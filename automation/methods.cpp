@@ -154,7 +154,8 @@ Json Boxes(Automation_Core& Core, const Json&) { return Boxes_Json(Core.Target.W
 Json Answer(Automation_Core& Core, const Json& Bound) {
     const Json& Id = Bound.at("id");
     if (!Id.is_number_unsigned()) Wrong_Parameter("id must be the number of a box");
-    Answer_By_User(Core.Target, Id.get<std::int64_t>(), Text_Parameter(Bound, "path"));
+    Answer_By_User(Core.Target, Id.get<std::int64_t>(), Text_Parameter(Bound, "path"),
+                   Bound.value("button", Json()));
     return true;
 }
 
@@ -204,7 +205,7 @@ constexpr std::array Methods{
     Rpc_Method{"watch", {{{"path", Needed}}}, Watch_Path},
     Rpc_Method{"unwatch", {{{"path"}}}, Unwatch_Path},
     Rpc_Method{"boxes", {}, Boxes},
-    Rpc_Method{"answer", {{{"id", Needed}, {"path"}}}, Answer},
+    Rpc_Method{"answer", {{{"id", Needed}, {"path"}, {"button"}}}, Answer},
     Rpc_Method{"advance", {{{"seconds", Needed}}}, Advance},
     Rpc_Method{"grab", {{{"path", Needed}, {"file", Needed}}}, Grab},
     Rpc_Method{"stats", {}, Stats},

@@ -46,6 +46,7 @@ struct Form : std::enable_shared_from_this<Form> {
     std::string Tag;
     std::string Caption;
     float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Under; // path of the control below which a dialog opens; empty: at its place
     Window_State State = Window_State::Normal;
     bool Key_Preview = false; // the form sees the keys before its controls do
     bool Loaded = false;

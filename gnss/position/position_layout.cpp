@@ -106,16 +106,20 @@ Layout GSA_Box(frmPosition& W) {
     const auto Choice = [](Frame& Around, const Option_Group& Group) {
         return Box(Around, Row(Each(Group.Buttons)), rhythm::Gap);
     };
-    return Box(W.frmGSA,
-               Column({Row({Choice(W.frmMode3D2D, W.optMode3D2D), Choice(W.frmModeAutMan, W.optModeAutMan)}),
-                       Fields({{W.lblPdop, W.cmbPdop}, {W.lblVdop, W.cmbVdop}}, 2),
-                       Box(W.frmSvs, Satellites(Each(W.chkSv)), rhythm::Gap),
-                       Box(W.frmGlonassSvs,
-                           Column({Satellites(Each(W.chkGLSv)), Dim(W.lblGLSvNote)}).Spaced(rhythm::Toolkit),
-                           rhythm::Gap),
-                       SBAS_Box(W), Place(W.lblGSAWarning, Role::Warn).Wrapped(), Stretch()})
-                   .Spaced(rhythm::Toolkit),
-               rhythm::Gap);
+    return Box(
+        W.frmGSA,
+        Column({Row({Choice(W.frmMode3D2D, W.optMode3D2D), Choice(W.frmModeAutMan, W.optModeAutMan)}),
+                Fields({{W.lblPdop, W.cmbPdop}, {W.lblVdop, W.cmbVdop}}, 2),
+                Column({Box(W.frmSvs, Satellites(Each(W.chkSv)), rhythm::Gap),
+                        Box(W.frmGlonassSvs,
+                            Column({Satellites(Each(W.chkGLSv)), Dim(W.lblGLSvNote)}).Spaced(rhythm::Toolkit),
+                            rhythm::Gap),
+                        SBAS_Box(W)})
+                    .Spaced(rhythm::Toolkit)
+                    .One_Stop(),
+                Place(W.lblGSAWarning, Role::Warn).Wrapped(), Stretch()})
+            .Spaced(rhythm::Toolkit),
+        rhythm::Gap);
 }
 
 // The satellites of the window in the order of its table: those in use, then the others in view.

@@ -30,10 +30,13 @@ Layout Dial(const Simulator& Sim, const frmWind& W) {
 }
 
 Layout Speed_Box(frmWind& W) {
-    return Box(W.frmTrueWindSpd,
-               Column({Row({Readout(W.lblSpeed, 26, "00.0"), Dim(W.lblUnit[0]).Left().Bottom(), Stretch(),
-                            Dim(W.lblSpeedUnit), W.cmbUnits}),
-                       Row({Lying(W.scrSpeed, {10, 100}), Place(W.txtSpeed).Width(Typed_Width).Top()})}));
+    return Box(
+        W.frmTrueWindSpd,
+        Row({Standing(W.scrSpeed, {10, 100}),
+             Column({Row({Readout(W.lblSpeed, 26, "00.0"), Dim(W.lblUnit[0]).Left().Bottom(), Stretch()}),
+                     Row({Place(W.txtSpeed).Width(Typed_Width), Dim(W.lblSpeedUnit), W.cmbUnits, Stretch()}),
+                     Stretch()})
+                 .Wide()}));
 }
 
 Layout Relative_Box(frmWind& W) {

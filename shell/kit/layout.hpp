@@ -135,6 +135,7 @@ struct Manner {
     bool Flush_Right = false;
     bool Wraps = false;
     bool Keeps_Room = false;     // also while it is hidden
+    bool One_Stop = false;       // of Tab: arrows walk the check boxes in it
     std::function<bool()> Shown; // whatever its control says
     std::function<Role()> Lit;   // of a button, whose colour says a state
 };
@@ -160,6 +161,7 @@ struct Layout {
     Layout& Flush_Right() { return How.Flush_Right = true, *this; }
     Layout& Wrapped() { return How.Wraps = true, *this; }
     Layout& Keeps_Room() { return How.Keeps_Room = true, *this; }
+    Layout& One_Stop() { return How.One_Stop = true, *this; }
     Layout& Shown_When(std::function<bool()> True) { return How.Shown = std::move(True), *this; }
     Layout& Lit(std::function<Role()> State) { return How.Lit = std::move(State), *this; }
     Layout& Moves_To(std::function<layout::Spot()> Now) { return How.Moves_To = std::move(Now), *this; }

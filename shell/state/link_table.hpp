@@ -55,6 +55,7 @@ struct Link_Table {
     std::unique_ptr<UDP_Socket> WinsockQuillon; // the control input, when it is on
     std::unique_ptr<Virtual_Port> vCom;         // nobody makes one, see SendVirtualData
     bool Control_Input_Warned = false;          // it has told that it needs Ship mode
+    bool Control_Input_Ignored = false;         // it has told of a number that no instrument gives
     std::string Rx_Buffer; // received text without its line feed yet; one for all serial ports
     Link_Watch Watch;
 };

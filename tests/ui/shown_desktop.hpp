@@ -53,6 +53,13 @@ struct Shown_Desktop : Every_Window {
         return nullptr;
     }
 
+    // Without the mark of a letter for the keyboard.
+    static QString Unmarked(QString Text) {
+        return Text.replace(QStringLiteral("&&"), QStringLiteral("\x01"))
+            .remove(QLatin1Char('&'))
+            .replace(QLatin1Char('\x01'), QLatin1Char('&'));
+    }
+
     Theme Colours;
     std::optional<Desktop_View> View;
 };

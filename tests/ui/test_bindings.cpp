@@ -48,7 +48,11 @@ struct Bindings : testing::Test, Shown_Desktop {
     }
 
     void Check(Button& C, QPushButton& W) {
-        Check_Caption<QAbstractButton>(C, W, &QAbstractButton::text);
+        const std::string Kept = C.Caption;
+        C.Caption = std::string("\xB0 & caption");
+        View->Follow();
+        EXPECT_EQ(Unmarked(W.text()), To_Screen(C.Caption));
+        C.Caption = Kept;
         QTest::mouseClick(&W, Qt::LeftButton);
         EXPECT_EQ(H.Clicks, 1);
     }

@@ -276,5 +276,85 @@ TEST_P(Tab_Order, Follows_The_Reading_Order) {
     }
 }
 
+// The keys and clicks of the toolkit itself. Every stop of Tab is a control, both ways round.
+TEST_P(Tab_Order, The_Keyboard_Is_Where_The_Focus_Is) {
+    Open(Full_Setup(GetParam()));
+    Open_Every_Window();
+    const auto Windows = Sim.Windows.Forms;
+    const Form* Now = nullptr;
+    const auto Expect_It = [&](const char* After) {
+        const QWidget* Has_It = QApplication::focusWidget();
+        ASSERT_TRUE(Has_It && Sim.Windows.Focus) << Now->Path() << " after " << After;
+        EXPECT_EQ(Has_It, Widget_Of(*Sim.Windows.Focus))
+            << Now->Path() << " after " << After << " at " << Has_It->objectName().toStdString();
+    };
+    for (const auto& F : Windows) {
+        if (F == Sim.Main) continue;
+        Now = F.get();
+        QWidget* Window = View->Window_Of(F->Path());
+        for (Control* C : F->Controls)
+            if (C->Kind == Control_Kind::Button) static_cast<Button*>(C)->Click = nullptr;
+        Sim.Windows.Event([&] { Sim.Windows.Activate(*F); });
+        Settle();
+        Window->activateWindow();
+        Settle();
+        std::set<QWidget*> Stops;
+        for (const Control* C : F->Controls) {
+            QWidget* W = C->Kind == Control_Kind::Timer ? nullptr : Widget_Of(*C);
+            if (W && C->Can_Focus() && W->isVisible() && W->isEnabled() && W->focusPolicy() & Qt::TabFocus)
+                Stops.insert(W);
+        }
+        if (Stops.empty()) continue;
+        for (const bool Back : {false, true}) {
+            std::set<QWidget*> Seen;
+            for (std::size_t I = 0; I < Stops.size(); ++I) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab,
+                                Back ? Qt::ShiftModifier : Qt::NoModifier);
+                Expect_It(Back ? "Shift+Tab" : "Tab");
+                Settle();
+                Seen.insert(QApplication::focusWidget());
+            }
+            EXPECT_EQ(Seen.size(), Stops.size()) << F->Path();
+        }
+        for (const Control* C : F->Controls) {
+            QWidget* W = C->Kind == Control_Kind::Timer ? nullptr : Widget_Of(*C);
+            if (!W || !C->Can_Focus() || !W->isVisible() || !W->isEnabled() || W->width() < 2) continue;
+            QWidget* Inner = W->childAt(W->rect().center());
+            QTest::mouseClick(Inner ? Inner : W, Qt::LeftButton, {}, QPoint(5, 5));
+            if (auto* List = qobject_cast<QComboBox*>(W)) List->hidePopup();
+            Settle();
+            Expect_It("a click");
+        }
+    }
+}
+
+// Typed at once after the dialog has opened, and over what stands there.
+TEST(Ship_Dialogs, The_First_Character_Counts) {
+    Shown_Desktop D;
+    D.Open(Shown_Desktop::Full_Setup("Ship"));
+    const auto Type = [&](const char* Path, const char* Text, Qt::Key Last) {
+        D.View->Window_Of(Path)->activateWindow();
+        QApplication::processEvents();
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(Text));
+        QTest::keyClick(QApplication::focusWidget(), Last);
+    };
+    D.Click(Main_Window(D.Sim).Item("mnuSetupShip"));
+    D.Settle();
+    Type("frmShipSetup", "12 30 N", Qt::Key_Tab);
+    EXPECT_EQ(Open_One<frmShipSetup>(D.Sim)->txtStartLat.Text(), "12\xB0 30.0000' N");
+    D.Sim.Windows.Event([&] { D.Sim.Windows.Unload(*Open_One<frmShipSetup>(D.Sim)); });
+    D.Settle();
+    D.Click(Open_One<frmShip>(D.Sim)->cmdSetSOG);
+    D.Settle();
+    const float Before_kn = D.Sim.State.Of<Navdata_State>().Nav_SOG;
+    Type("frmSetSOG", "abc", Qt::Key_Return);
+    frmSetSOG* Dialog = Open_One<frmSetSOG>(D.Sim);
+    ASSERT_TRUE(Dialog) << "it does not close over what it refused";
+    EXPECT_EQ(*Dialog->txtSOG.Refusal, "\"abc\" is no number");
+    EXPECT_EQ(D.Sim.State.Of<Navdata_State>().Nav_SOG, Before_kn);
+    Type("frmSetSOG", "8.5", Qt::Key_Return);
+    EXPECT_NEAR(D.Sim.State.Of<Navdata_State>().Nav_SOG, 8.5, 0.5) << "to a whole percent of the throttle";
+}
+
 } // namespace
 } // namespace brinewright

@@ -69,6 +69,7 @@ void Desktop_View::Open() {
 }
 
 void Desktop_View::Look_Soon() {
+    Boxes->Take_Answered_Away();
     if (Sim.Windows.Revision != Seen && !Look.isActive()) Look.start(Look_Pause_ms);
 }
 
@@ -129,7 +130,10 @@ void Desktop_View::Follow_Windows() {
     }
     const Form* Active = Sim.Windows.Active_Form;
     const auto Found = Shown.find(Active);
-    if (Active != Active_Seen && Found != Shown.end()) Found->second->Activate();
+    // Also when the user chose another one, but a box that he left took the focus back.
+    const bool Another = Found != Shown.end() && Area->activeSubWindow() != Found->second->Frame_Widget();
+    const bool Is_Child = Active && Active->Kind == Form_Kind::Child;
+    if (Found != Shown.end() && (Active != Active_Seen || (Is_Child && Another))) Found->second->Activate();
     Active_Seen = Active;
 }
 

@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -22,8 +23,8 @@ float Twips(int Pixel_Count) { return static_cast<float>(Pixel_Count * Twips_Per
 } // namespace
 
 Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, const Theme& Colours,
-                         QMdiArea& Area)
-    : Source(Shown), Its_View(new Form_View(Sim, Shown, Colours)) {
+                         QMdiArea& Its_Area)
+    : Source(Shown), Its_View(new Form_View(Sim, Shown, Colours)), Area(Its_Area) {
     // The frames first: a view that moves into them with all its widgets is styled anew at each step.
     if (Shown->Kind == Form_Kind::Dialog) {
         Dialog = new QDialog(Area.window());
@@ -36,7 +37,9 @@ Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, con
         // Small screens scroll what does not fit instead of cutting it.
         Scroll = new QScrollArea;
         Scroll->setWidgetResizable(true);
+        Scroll->setFocusPolicy(Qt::NoFocus); // Tab stops at controls only
         Child = new QMdiSubWindow;
+        Child->setFocusPolicy(Qt::NoFocus);
         Child->setWidget(Scroll);
         QPixmap No_Picture(1, 1); // titles carry none
         No_Picture.fill(Qt::transparent);
@@ -72,6 +75,7 @@ void Form_Window::Follow() {
     if (Frame_Widget()->windowTitle() != To_Screen(F->Caption))
         Frame_Widget()->setWindowTitle(To_Screen(F->Caption));
     const bool Moved = F->Left != Left || F->Top != Top || F->Width != Width || F->Height != Height;
+    if (First && Dialog) Place_Dialog(*F);
     if (First) Frame_Widget()->show(); // before its place: the area puts windows that open where it likes
     // What its parts ask for now that they are styled reaches the outermost layout in steps.
     if (First) QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
@@ -110,24 +114,58 @@ void Form_Window::Apply_Place(const Form& F) {
     QSize Wanted(std::max(Pixels(Width), Contents.width() + Frame_Margins.left() + Frame_Margins.right()),
                  std::max(Pixels(Height), Contents.height() + Frame_Margins.top() + Frame_Margins.bottom()));
     QPoint Corner(std::max(Pixels(Left), 0), std::max(Pixels(Top), 0));
-    const QWidget* Area = Child->parentWidget();
-    if (Area && Area->width() > 200 && Area->height() > 200) {
+    const QWidget* Room = Child->parentWidget();
+    if (Room && Room->width() > 200 && Room->height() > 200) {
         // A window that opens or grows does so inside the area, as far as it can.
-        Wanted = Wanted.boundedTo(Area->size());
-        Corner.setX(std::min(Corner.x(), Area->width() - Wanted.width()));
-        Corner.setY(std::min(Corner.y(), Area->height() - Wanted.height()));
+        Wanted = Wanted.boundedTo(Room->size());
+        Corner.setX(std::min(Corner.x(), Room->width() - Wanted.width()));
+        Corner.setY(std::min(Corner.y(), Room->height() - Wanted.height()));
     }
     Child->setGeometry(QRect(Corner, Wanted));
     Applied = Child->geometry();
 }
 
+QWidget* Form_Window::Widget_Below(const std::string& Control_Path) const {
+    const auto F = Source.lock();
+    const Control* C = F ? F->Windows.Find_Control(Control_Path) : nullptr;
+    if (!C) return nullptr;
+    for (const Form_View* V : Area.findChildren<Form_View*>())
+        if (QWidget* W = V->Widget_Of(*C)) return W;
+    return nullptr;
+}
+
+// In its proportions, as large as its contents need, and held on the screen.
+void Form_Window::Place_Dialog(const Form& F) {
+    for (QWidget* W : Dialog->findChildren<QWidget*>()) W->ensurePolished();
+    Its_View->layout()->activate();
+    const QSize Needs = Its_View->layout()->sizeHint().expandedTo(Its_View->minimumSize());
+    QSize Wanted = Needs;
+    if (F.Width > 0 && F.Height > 0) {
+        const QSizeF Told(F.Width / Twips_Per_Pixel, F.Height / Twips_Per_Pixel);
+        const double Factor = std::max({1.0, Needs.width() / Told.width(), Needs.height() / Told.height()});
+        Wanted = (Told * Factor).toSize().expandedTo(Needs);
+    }
+    const QRect Screen = Area.screen()->availableGeometry();
+    Dialog->resize(Wanted.boundedTo(Screen.size()));
+    const QWidget* const Above = F.Under.empty() ? nullptr : Widget_Below(F.Under);
+    const bool Has_Place = F.Left != 0 || F.Top != 0;
+    if (!Above && !Has_Place) return; // the toolkit puts it over the middle of the main window
+    QPoint Corner = Above ? Above->mapToGlobal(QPoint(0, Above->height() + rhythm::Base))
+                          : Area.mapToGlobal(QPoint(Pixels(F.Left), Pixels(F.Top)));
+    // About what a window manager puts around it.
+    const QRect Room = Screen.adjusted(0, 0, -Dialog->width() - 10, -Dialog->height() - 40);
+    Corner.setX(std::max(Screen.left(), std::min(Corner.x(), Room.right())));
+    Corner.setY(std::max(Screen.top(), std::min(Corner.y(), Room.bottom())));
+    Dialog->move(Corner);
+}
+
 void Form_Window::Activate() {
     if (Child) {
-        if (const auto* Area = Child->mdiArea(); Area && Area->activeSubWindow() == Child) return;
+        if (Area.activeSubWindow() == Child) return;
         Placing = true;
-        if (Child->mdiArea()) Child->mdiArea()->setActiveSubWindow(Child);
+        Area.setActiveSubWindow(Child);
         Placing = false;
-    } else {
+    } else if (!Dialog->isActiveWindow()) {
         Dialog->raise();
         Dialog->activateWindow();
     }
@@ -170,6 +208,12 @@ void Form_Window::Press(const char* First_Name, const char* Other_Name) {
 
 bool Form_Window::eventFilter(QObject* Watched, QEvent* Happened) {
     switch (Happened->type()) {
+    case QEvent::MouseButtonPress:
+        // On its title, or where it has no control: what is half typed is taken, and the window comes up.
+        if (Watched != Child) break;
+        Its_View->Act([](Desktop& D) { D.Take_Half_Typed(); });
+        if (Area.activeSubWindow() != Child) Area.setActiveSubWindow(Child);
+        break;
     case QEvent::LayoutRequest:
         if (Watched == Its_View) Grow_To_Contents();
         break;

@@ -33,6 +33,8 @@ class Form_Window : public QObject {
 
   private:
     void Apply_Place(const Form& F);
+    void Place_Dialog(const Form& F);
+    QWidget* Widget_Below(const std::string& Control_Path) const;
     void Grow_To_Contents();
     void Report_Place();
     void Close_By_User();
@@ -43,6 +45,7 @@ class Form_Window : public QObject {
     QPointer<QMdiSubWindow> Child;
     QPointer<QDialog> Dialog;
     QPointer<QScrollArea> Scroll;
+    QMdiArea& Area;
     float Left = 0, Top = 0, Width = 0, Height = 0; // of the form, as applied last
     QRect Applied; // the geometry that this gave the child window, as far as the user has not changed it
     QSize Needed;  // by the contents, when they were looked at last

@@ -23,11 +23,14 @@ class Menu_Bar : public QObject {
 
   private:
     void Make_View_Menu();
+    void Choose_Letters();
+    QString Text_Of(const Menu_Item& Item) const;
 
     Simulator& Sim;
     Theme& Colours;
     QMenuBar& Bar;
     std::map<const Menu_Item*, QAction*> Actions;
+    std::map<const Menu_Item*, QChar> Letters; // of those whose caption marks none itself
 };
 
 } // namespace brinewright

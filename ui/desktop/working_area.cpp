@@ -8,6 +8,7 @@
 namespace brinewright {
 
 Working_Area::Working_Area(const Theme& Its_Theme, QWidget* Parent) : QMdiArea(Parent), Colours(Its_Theme) {
+    setFocusPolicy(Qt::NoFocus); // the keyboard is a control's
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }

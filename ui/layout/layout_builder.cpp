@@ -3,6 +3,7 @@
 #include "ui/layout/layout_builder.hpp"
 
 #include "shell/state/windows.hpp"
+#include "ui/binder/roving_stop.hpp"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -11,7 +12,10 @@
 #include <QGroupBox>
 #include <QSplitter>
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
+#include <vector>
 
 namespace brinewright {
 
@@ -69,6 +73,32 @@ void Follow_Place(Form_View& View, QGridLayout* Grid, QWidget* W, const Layout& 
         Grid->removeWidget(W);
         if (Part->Shown()) Add(*Grid, W, Moves_To(), {});
     });
+}
+
+// Of a grid line by line, of everything else as it stands there.
+void Order_Stops(const Form_View& View, const Layout& Tree, QWidget*& Before) {
+    QWidget* const W = Tree.Part ? View.Widget_Of(*Tree.Part) : nullptr;
+    if (W && W->focusPolicy() != Qt::NoFocus) {
+        if (Before) QWidget::setTabOrder(Before, W);
+        Before = W;
+    }
+    std::vector<const Layout*> Parts;
+    for (const Layout& Part : Tree.Inside) Parts.push_back(&Part);
+    if (std::holds_alternative<layout::Raster>(Tree.What))
+        std::stable_sort(Parts.begin(), Parts.end(), [](const Layout* A, const Layout* B) {
+            const layout::Spot &First = A->How.Cell, &Second = B->How.Cell;
+            return std::pair(First.Row, First.Column) < std::pair(Second.Row, Second.Column);
+        });
+    for (const Layout* Part : Parts) Order_Stops(View, *Part, Before);
+}
+
+void Make_One_Stop(Form_View& View, const Layout& Tree) {
+    std::vector<QWidget*> Boxes;
+    For_Each_Placed(Tree, [&](const Visible_Control& C) {
+        if (C.Kind == Control_Kind::Check_Box) Boxes.push_back(View.Widget_Of(C));
+    });
+    auto* Stop = new Roving_Stop(std::move(Boxes), &View);
+    View.When_Shown([Stop] { Stop->Follow(); });
 }
 
 // A group box takes its margins from the style when it is made, before it had the name that the style knows.
@@ -149,6 +179,7 @@ Built Make(Form_View&, const Layout&, const layout::Room&) {
 
 Built Make(Form_View& View, const Layout& Node) {
     const Built New = std::visit([&](const auto& Kind) { return Make(View, Node, Kind); }, Node.What);
+    if (Node.How.One_Stop) Make_One_Stop(View, Node);
     if (New.Main) {
         Give_Sizes(Node.How, *New.Main);
         Follow(View, Node.How, New.Main);
@@ -158,6 +189,8 @@ Built Make(Form_View& View, const Layout& Node) {
 
 void Build_Layout(Form_View& View, const Layout& Whole) {
     View.setLayout(Make(View, Whole).Inside);
+    QWidget* Before = nullptr;
+    Order_Stops(View, Whole, Before);
     Give_Sizes(Whole.How, View);
 }
 

@@ -88,6 +88,7 @@ Built Make(Form_View& View, const Layout&, const layout::Ticker& Kind) {
     New->setAttribute(Qt::WA_OpaquePaintEvent); // its style fills it
     New->setFont(Sentence_Font());
     New->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    New->setFocusPolicy(Qt::NoFocus); // it is selected in, and the keyboard stays with a control
     New->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     New->setToolTip(QStringLiteral("The last sentence of this sensor, as it left"));
     View.When_Shown([New, Read = Kind.Read] { New->setText(To_Screen(Read()).simplified()); });

@@ -57,6 +57,8 @@ QHeaderView::section { background: @Panel; color: @Dim; border: 0; border-bottom
 QTableCornerButton::section { background: @Panel; border: 0; }
 QLineEdit:focus, QPlainTextEdit:focus, QComboBox:focus, QTableView:focus { border: 1px solid @Accent; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled { background: @Panel; color: @Dim; }
+QLineEdit[refused="true"], QComboBox[refused="true"] { border: 1px solid @Bad; color: @Bad; }
+QLabel#refusal { background: @Field; color: @Bad; border: 1px solid @Bad; border-radius: 3px; padding: 2px 6px; }
 QComboBox::drop-down { width: 18px; border: 0; }
 QComboBox::down-arrow { width: 0; height: 0; border-left: 4px solid @Field; border-right: 4px solid @Field;
     border-top: 5px solid @Text; margin-right: 4px; }
@@ -72,13 +74,13 @@ QPushButton[state="warn"] { background: @Warn; color: @Field; border-color: @War
 QPushButton[state="good"]:disabled, QPushButton[state="warn"]:disabled { background: @Panel; color: @Dim; }
 QCheckBox, QRadioButton { spacing: 4px; }
 QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: @Dim; }
-QCheckBox::indicator, QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid @Dim; background: @Field; }
-QCheckBox::indicator { border-radius: 3px; }
-QRadioButton::indicator { border-radius: 7px; }
-QCheckBox::indicator:checked, QRadioButton::indicator:checked { background: @Accent; border-color: @Accent; }
+QRadioButton::indicator { width: 13px; height: 13px; border: 1px solid @Dim; background: @Field; border-radius: 7px; }
+QRadioButton::indicator:checked { background: @Accent; border-color: @Accent; }
 QCheckBox:focus, QRadioButton:focus { color: @Readout; }
-QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { border-color: @Line; background: @Panel; }
-QCheckBox::indicator:checked:disabled, QRadioButton::indicator:checked:disabled { background: @Line; }
+QRadioButton::indicator:focus { border: 2px solid @Accent; border-radius: 8px; }
+QRadioButton::indicator:checked:focus { border: 2px solid @Text; }
+QRadioButton::indicator:disabled { border-color: @Line; background: @Panel; }
+QRadioButton::indicator:checked:disabled { background: @Line; }
 QLabel[role="dim"] { color: @Dim; }
 QLabel[role="readout"] { color: @Readout; }
 QLabel[role="good"] { color: @Good; }
@@ -96,7 +98,8 @@ QSlider::groove:horizontal { height: 4px; background: @Line; border-radius: 2px;
 QSlider::handle { background: @Accent; border-radius: 4px; }
 QSlider::handle:vertical { height: 14px; margin: 0 -7px; }
 QSlider::handle:horizontal { width: 14px; margin: -7px 0; }
-QSlider::handle:disabled { background: @Line; }
+QSlider::handle:focus { background: @Readout; border: 2px solid @Text; }
+QSlider::handle:disabled { background: @Line; border: 0; }
 QScrollBar { background: @Panel; border: 0; }
 QScrollBar:vertical { width: 12px; } QScrollBar:horizontal { height: 12px; }
 QScrollBar::handle { background: @Line; border-radius: 4px; min-height: 24px; min-width: 24px; }

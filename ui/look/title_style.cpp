@@ -31,9 +31,42 @@ void Paint_Sign(QPainter& Painter, QStyle::SubControl Which, const QPointF& Midd
     }
 }
 
+// A tick, and a frame that is heavier where the keyboard is. The palette holds the tokens.
+void Paint_Check_Box(const QStyleOption& Option, QPainter& Painter) {
+    const QPalette& P = Option.palette;
+    const bool Enabled = Option.state & QStyle::State_Enabled, On = Option.state & QStyle::State_On;
+    const bool Focused = Option.state & QStyle::State_HasFocus;
+    const QColor Accent = P.color(QPalette::Highlight), Line = P.color(QPalette::Mid);
+    const QColor Frame = !Enabled ? Line : Focused || On ? Accent : P.color(QPalette::PlaceholderText);
+    const double Weight = Focused ? 2 : 1;
+    const double Half = Weight / 2;
+    const QRectF Box = QRectF(Option.rect).adjusted(Half, Half, -Half, -Half);
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(Frame, Weight));
+    Painter.setBrush(P.color(Enabled ? QPalette::Base : QPalette::Button));
+    Painter.drawRoundedRect(Box, 3, 3);
+    if (On) {
+        const auto Place = [&](double Across, double Down) {
+            return QPointF(Box.left() + Across * Box.width(), Box.top() + Down * Box.height());
+        };
+        Painter.setPen(QPen(Enabled ? Accent : Line, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        Painter.drawPolyline(QPolygonF{Place(0.22, 0.52), Place(0.42, 0.74), Place(0.8, 0.26)});
+    }
+    Painter.restore();
+}
+
 } // namespace
 
 Title_Style::Title_Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void Title_Style::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
+                                const QWidget* Widget) const {
+    if (Element == PE_IndicatorCheckBox)
+        Paint_Check_Box(*Option, *Painter);
+    else
+        QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+}
 
 void Title_Style::drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option,
                                      QPainter* Painter, const QWidget* Widget) const {

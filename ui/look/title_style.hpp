@@ -10,6 +10,8 @@ class Title_Style : public QProxyStyle {
     Q_OBJECT
   public:
     Title_Style();
+    void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
+                       const QWidget* Widget) const override;
     void drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option, QPainter* Painter,
                             const QWidget* Widget) const override;
 };
