@@ -17,6 +17,8 @@ void Desktop::Show(std::shared_ptr<Form> Window, bool With_Focus) {
 }
 
 void Desktop::Activate(Form& Window) {
+    if (Window.State == Window_State::Minimised && Window.Kind != Form_Kind::Main)
+        Window.Set_State(Window_State::Normal); // what is chosen is to be seen
     Active_Form = &Window;
     Window.Revision = Window.Last_Active = ++Revision;
     if (Window.On_Got_Focus) Window.On_Got_Focus();

@@ -29,6 +29,7 @@ std::string Numbered(std::string_view Pattern, int Instance) {
 void Watch_Closing(Simulator& Sim, Form& Window, bool Keeps_Place) {
     Window.On_Unload = [&Sim, &Window, Keeps_Place, Own = std::move(Window.On_Unload)] {
         if (Own) Own();
+        if (Window.Kind == Form_Kind::Child) Keep_Manner(Sim, Window);
         Sim.Told.Windows.Tell();
         if (Keeps_Place) Keep_Place(Sim, Window);
     };
@@ -45,6 +46,7 @@ void Open_Window(Simulator& Sim, const Window_Class& Class, int Instance) {
     if (Class.Load) Class.Load(Sim, *Window);
     const bool Keeps_Place = Class.First_Form_Index != form_index::None;
     if (Keeps_Place) Restore_Place(Sim, *Window);
+    if (Window->Kind == Form_Kind::Child) Restore_Manner(Sim, *Window);
     Watch_Closing(Sim, *Window, Keeps_Place);
     Sim.Windows.Show(Window, Class.With_Focus);
     if (Class.Caption) Window->Set_Caption(Numbered(Class.Caption, Instance));

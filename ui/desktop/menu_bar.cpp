@@ -21,9 +21,9 @@ Menu_Bar::Menu_Bar(Simulator& Its_Simulator, Theme& Its_Theme, QMenuBar& Its_Bar
         auto& Item = static_cast<Menu_Item&>(*C);
         QMenu*& Menu = Menus[Item.Menu];
         if (!Menu) {
-            if (Item.Menu == "Window") Make_View_Menu();
             Menu = Bar.addMenu("&" + To_Screen(Item.Menu));
             Menu->setToolTipsVisible(true);
+            if (Item.Menu == "View") Add_Palettes(*Menu);
         }
         QAction* Action = Menu->addAction(To_Screen(*Item.Caption));
         Action->setObjectName(To_Screen(Item.Path()));
@@ -47,12 +47,12 @@ void Menu_Bar::Follow() {
     }
 }
 
-void Menu_Bar::Make_View_Menu() {
-    QMenu* Menu = Bar.addMenu(QStringLiteral("&View"));
+// They concern only what is seen.
+void Menu_Bar::Add_Palettes(QMenu& Menu) {
     auto* Group = new QActionGroup(this);
     const std::string Kept = Sim.Services.Settings().Get(Palette_Key, Palette_Names[0]);
     for (std::size_t I = 0; I < Palette_Names.size(); ++I) {
-        QAction* Action = Menu->addAction(QString::fromLatin1(Palette_Names[I]));
+        QAction* Action = Menu.addAction(QString::fromLatin1(Palette_Names[I]));
         Action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(I + 1)));
         Action->setCheckable(true);
         Group->addAction(Action);
@@ -66,6 +66,7 @@ void Menu_Bar::Make_View_Menu() {
             if (Colours.Chosen() != Kind) Colours.Choose(Kind);
         }
     }
+    Menu.addSeparator();
 }
 
 } // namespace brinewright
