@@ -25,6 +25,11 @@ void DataArrival(Simulator& Sim, std::int16_t K) {
 
 } // namespace
 
+std::string UDP_Destination(const Simulator& Sim) {
+    const Link_State& S = Sim.State.Of<Link_State>();
+    return S.UDP_Mode != 0 ? S.UDP_Remote_Host : Broadcast;
+}
+
 void Open_UDP(Simulator& Sim, std::int16_t K) {
     try {
         auto& Link = Sim.Links.WinsockUDP[K];
@@ -33,9 +38,7 @@ void Open_UDP(Simulator& Sim, std::int16_t K) {
             Link->On_Data_Arrival = [&Sim, K] { Sim.Windows.Event([&] { DataArrival(Sim, K); }); };
         }
         if (Link->Is_Open()) Link->Close();
-        Link->Open(Sim.State.Of<Link_State>().UDP_Mode != 0 ? Sim.State.Of<Link_State>().UDP_Remote_Host
-                                                            : Broadcast,
-                   Sim.State.Of<Link_State>().UDP_Port_Number[K]);
+        Link->Open(UDP_Destination(Sim), Sim.State.Of<Link_State>().UDP_Port_Number[K]);
     } catch (const Run_Time_Error& Failure) {
         Sim.Windows.Boxes.Show(std::string("UDP Error : ") + Failure.what() + " Select another port number",
                                "", Box_Icon::Stop);

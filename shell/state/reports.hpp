@@ -52,6 +52,7 @@ struct Reports {
     Listeners<> Switched;                        // the mode, a fault, an option of the state
     Listeners<> Windows;                         // one has opened or closed
     Listeners<> Links_Chosen;                    // other links are in use, or have other numbers
+    Listeners<int> Link;                         // the record of a link has changed, by port number
     Listeners<int> Panel;                        // the panel of a serial port has changed in the state
     Listeners<> Ship_Speed;                      // the ship has another speed than its window set
     Listeners<> Ship_Limits;                     // its limits have changed

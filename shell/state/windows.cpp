@@ -66,6 +66,11 @@ void Open_Window_Of_Index(Simulator& Sim, std::int16_t Form_Index) {
     Open_Window(Sim, *Class, Instance_Of_Index(*Class, Form_Index));
 }
 
+void Look_Anew(Simulator& Sim) {
+    const std::uint64_t Now = ++Sim.Windows.Revision;
+    for (const auto& F : Sim.Windows.Forms) F->Revision = Now;
+}
+
 const Window_Class* Find_Class(const Simulator& Sim, std::string_view Class_Name) {
     for (const Window_Class* Class : Sim.Window_Table)
         if (Class->Name == Class_Name) return Class;

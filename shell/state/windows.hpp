@@ -16,6 +16,9 @@ void Open_Window(Simulator& Sim, std::string_view Class_Name, int Instance = 0);
 // Does nothing for a form index without a window, which a setup file may hold.
 void Open_Window_Of_Index(Simulator& Sim, std::int16_t Form_Index);
 
+// All open windows are looked at anew: something has changed that belongs to none of their controls.
+void Look_Anew(Simulator& Sim);
+
 // Null when there is no such window.
 const Window_Class* Find_Class(const Simulator& Sim, std::string_view Class_Name);
 const Window_Class* Class_Of_Index(const Simulator& Sim, std::int16_t Form_Index);
