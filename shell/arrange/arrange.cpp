@@ -13,14 +13,14 @@ namespace {
 
 constexpr float Cascade_Step = 420; // a title's height to the right and down
 
-std::vector<Place> In_Equal_Parts(std::size_t Count, Extent Room) {
+std::vector<Window_Place> In_Equal_Parts(std::size_t Count, Extent Room) {
     // Windows are about four wide to three high.
     constexpr float Shape = 4.0F / 3.0F;
     const auto All = static_cast<float>(Count);
     const float Across = std::max(1.0F, std::round(std::sqrt(All * Room.Width / Room.Height / Shape)));
     const float Down = std::ceil(All / Across);
     const Extent Part{std::floor(Room.Width / Across), std::floor(Room.Height / Down)};
-    std::vector<Place> Places;
+    std::vector<Window_Place> Places;
     for (std::size_t I = 0; I < Count; ++I) {
         const auto Row = std::floor(static_cast<float>(I) / Across);
         const float Column = static_cast<float>(I) - Row * Across;
@@ -29,40 +29,40 @@ std::vector<Place> In_Equal_Parts(std::size_t Count, Extent Room) {
     return Places;
 }
 
-float Shared(const Place& A, const Place& B) {
+float Shared(const Window_Place& A, const Window_Place& B) {
     const float Across = std::min(A.Left + A.Width, B.Left + B.Width) - std::max(A.Left, B.Left);
     const float Down = std::min(A.Top + A.Height, B.Top + B.Height) - std::max(A.Top, B.Top);
     return Across > 0 && Down > 0 ? Across * Down : 0;
 }
 
-float Hidden_By(const Place& Here, std::span<const Place> Taken) {
+float Hidden_By(const Window_Place& Here, std::span<const Window_Place> Taken) {
     float Hidden = 0;
-    for (const Place& T : Taken) Hidden += Shared(Here, T);
+    for (const Window_Place& T : Taken) Hidden += Shared(Here, T);
     return Hidden;
 }
 
 float Area(Extent Size) { return Size.Width * Size.Height; }
 
-bool Sticks_Out(const Place& P, Extent Room) {
+bool Sticks_Out(const Window_Place& P, Extent Room) {
     return P.Left + P.Width > Room.Width || P.Top + P.Height > Room.Height;
 }
 
-void Put(Form& Window, const Place& There) {
+void Put(Form& Window, const Window_Place& There) {
     Window.Set_State(Window_State::Normal);
     Window.Set_Place(There.Left, There.Top, There.Width, There.Height);
 }
 
 } // namespace
 
-std::vector<Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room) {
+std::vector<Window_Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room) {
     // The large ones first: small ones find room beside them.
     std::vector<std::size_t> Order(Sizes.size());
     std::iota(Order.begin(), Order.end(), std::size_t{0});
     std::stable_sort(Order.begin(), Order.end(),
                      [&](std::size_t A, std::size_t B) { return Area(Sizes[A]) > Area(Sizes[B]); });
-    std::vector<Place> Taken, Places(Sizes.size());
+    std::vector<Window_Place> Taken, Places(Sizes.size());
     for (const std::size_t I : Order) {
-        const Place New = Free_Place(Sizes[I], Taken, Room);
+        const Window_Place New = Free_Place(Sizes[I], Taken, Room);
         if (Sticks_Out(New, Room) || Hidden_By(New, Taken) > 0) return In_Equal_Parts(Sizes.size(), Room);
         Taken.push_back(New);
         Places[I] = New;
@@ -70,9 +70,9 @@ std::vector<Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room)
     return Places;
 }
 
-Place Free_Place(Extent Size, std::span<const Place> Taken, Extent Room) {
+Window_Place Free_Place(Extent Size, std::span<const Window_Place> Taken, Extent Room) {
     std::vector<float> Lefts{0}, Tops{0};
-    for (const Place& T : Taken) {
+    for (const Window_Place& T : Taken) {
         Lefts.push_back(T.Left + T.Width);
         Tops.push_back(T.Top + T.Height);
     }
@@ -81,16 +81,16 @@ Place Free_Place(Extent Size, std::span<const Place> Taken, Extent Room) {
     Tops.push_back(std::max(0.0F, Room.Height - Size.Height));
     std::sort(Lefts.begin(), Lefts.end());
     std::sort(Tops.begin(), Tops.end());
-    Place Best{0, 0, Size.Width, Size.Height};
+    Window_Place Best{0, 0, Size.Width, Size.Height};
     float Least_Hidden = -1;
     for (const float Top : Tops)
         for (const float Left : Lefts) {
-            const Place Here{Left, Top, Size.Width, Size.Height};
+            const Window_Place Here{Left, Top, Size.Width, Size.Height};
             const bool Origin = Left == 0 && Top == 0;
             if (!Origin && Sticks_Out(Here, Room)) continue;
             float Hidden = Hidden_By(Here, Taken);
             // Never exactly upon another, whose title would not be seen.
-            for (const Place& T : Taken)
+            for (const Window_Place& T : Taken)
                 if (T.Left == Left && T.Top == Top) Hidden += Area(Room);
             if (Least_Hidden >= 0 && Hidden >= Least_Hidden) continue;
             Least_Hidden = Hidden;
@@ -119,7 +119,7 @@ void Tile(Simulator& Sim) {
     const std::vector<Form*> Windows = Standing_Windows(Sim);
     std::vector<Extent> Sizes;
     for (const Form* Window : Windows) Sizes.push_back(Size_Of(*Window));
-    const std::vector<Place> Places = Beside_Each_Other(Sizes, Room_Of(Sim));
+    const std::vector<Window_Place> Places = Beside_Each_Other(Sizes, Room_Of(Sim));
     for (std::size_t I = 0; I < Windows.size(); ++I) Put(*Windows[I], Places[I]);
 }
 

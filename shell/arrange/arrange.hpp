@@ -9,7 +9,7 @@ struct Form;
 struct Simulator;
 
 // A place in the room for child windows, in twentieths of a point.
-struct Place {
+struct Window_Place {
     float Left = 0, Top = 0, Width = 0, Height = 0;
 };
 struct Extent {
@@ -18,11 +18,11 @@ struct Extent {
 
 // Places for windows of these sizes, none upon another, from the top left. Where they do not fit in the room
 // in their sizes, all get equal parts of it.
-std::vector<Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room);
+std::vector<Window_Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room);
 
 // Where a window of this size stands upon no other, as far to the top left as can be; where there is no such
 // place, the one where it hides least.
-Place Free_Place(Extent Size, std::span<const Place> Taken, Extent Room);
+Window_Place Free_Place(Extent Size, std::span<const Window_Place> Taken, Extent Room);
 
 // The child windows that stand in the room, in opening order: neither minimised nor dialogs.
 std::vector<Form*> Standing_Windows(const Simulator& Sim);

@@ -15,7 +15,7 @@ struct Layout_Window {
     std::string Class_Name;
     int Instance = 0;
     bool Small = false;
-    Place Share; // of the room, 0 to 1; none has a width of 0 in layouts that are fitted
+    Window_Place Share; // of the room, 0 to 1; none has a width of 0 in layouts that are fitted
 };
 
 struct Window_Layout {

@@ -39,9 +39,6 @@ void MDIForm_Load(Simulator& Sim);
 // only.
 void mnuMode_Click(Simulator& Sim, int Index);
 
-// The text of a window's entry, "GNSS 1"; empty when no menu opens it.
-std::string Entry_Text(const Window_Class& Class, int Instance);
-
 // Connects menus and status bar with what they do and with the state that they show.
 void Wire_Main(Simulator& Sim);
 

@@ -208,11 +208,6 @@ Menu_Item& frmMain::Item(const char* Item_Name, int Index) const {
     throw std::logic_error(std::string("no menu item ") + Item_Name);
 }
 
-std::string Entry_Text(const Window_Class& Class, int Instance) {
-    if (!Class.Entry.Text) return {};
-    return Class.Entry.Text + (Class.Count == 0 ? std::string() : Number_Text(Instance));
-}
-
 frmMain& Main_Window(const Simulator& Sim) { return static_cast<frmMain&>(*Sim.Main); }
 
 void Wire_Main(Simulator& Sim) {
@@ -222,6 +217,9 @@ void Wire_Main(Simulator& Sim) {
                 E.Its_Command->Click(Sim);
             else if (!E.Class)
                 Show_Layout(Sim, E.Instance);
+            else if (Form* Open = Open_Form(Sim, E.Class->Name, E.Instance);
+                     Open && E.Class->Closes_When_Chosen)
+                Sim.Windows.Unload(*Open);
             else if (E.Class->Count != 0)
                 Open_Window_Of_Index(Sim, static_cast<std::int16_t>(E.Index()));
             else
