@@ -1,8 +1,6 @@
 #include "shell/main/frm_main.hpp"
 #include "tests/automation/automation_test.hpp"
 
-#include <algorithm>
-
 namespace brinewright {
 namespace {
 
@@ -66,21 +64,6 @@ TEST_F(Whole_Program, Is_Set_Up_And_Run_By_Paths) {
     EXPECT_EQ(Seen.back(), Get("state.GNSS_Lat[1]"));
     const int Refused = Ask("set", {GNSS + "txtLat", "55 N"})["error"]["code"];
     EXPECT_EQ(Refused, -32002); // a start position is set at rest
-}
-
-TEST_F(Whole_Program, Tells_Closed_Windows_From_Wrong_Paths) {
-    for (const char* Item : {"mnuOpenForm(1)", "mnuOpenForm(2)", "mnuMonitor", "mnuExtendedMonitor",
-                             "mnuSetupLatLonFormat", "mnuOptionIEC450", "mnuTraffic"})
-        Do("click", {std::string("frmMain.") + Item});
-    std::vector<std::string> Opened;
-    for (const Json& Row : Do("list")) Opened.push_back(Row["path"]);
-    EXPECT_GE(Opened.size(), 6u);
-    std::reverse(Opened.begin(), Opened.end()); // the port setup takes its progress window with it
-    for (const std::string& Path : Opened) {
-        if (Path == "frmMain") continue;
-        Do("close", {Path});
-        EXPECT_EQ(Ask("get", {Path + ".x"})["error"]["code"], -32001) << Path;
-    }
 }
 
 TEST_F(Whole_Program, Ends_By_Its_Menu) {

@@ -1,16 +1,15 @@
 // The constellation dialog: mode field, names and talker of GNS.
 
-#include "gnss_bench.hpp"
+#include "tests/support/sentence_bench.hpp"
 
 #include "gnss/configuration/frm_gnss.hpp"
-#include "gnss/gnss_state.hpp"
 
 namespace brinewright {
 namespace {
 
-struct Dialog_Bench : GNSS_Bench {
+struct Dialog_Bench : Sentence_Bench {
     frmGNSS& Configure(int Slot = 1) {
-        Sim.Windows.Event([&] { Click(Window(Slot).cmdGNSS); });
+        Sim.Windows.Event([&] { Click(Open_One<frmPosition>(Sim, Slot)->cmdGNSS); });
         return *Open_One<frmGNSS>(Sim, Slot);
     }
     void Use(frmGNSS& F, std::size_t System, int Mode) {
@@ -21,9 +20,7 @@ struct Dialog_Bench : GNSS_Bench {
         Sim.Windows.Event([&] { Click(B); });
     }
     std::string GNS(int Slot = 1) {
-        Sent.clear();
-        Sim.Windows.Event([&] { Window(Slot).Sentences["GNS"].Clock.Tick(); });
-        const std::string& Text = Sent.at(0).Text;
+        const std::string Text = Tick(*Open_One<frmPosition>(Sim, Slot), "GNS");
         const std::size_t Mode = Text.find("E,") + 2; // behind the position
         return Text.substr(1, 2) + " " + Text.substr(Mode, Text.find(',', Mode) - Mode);
     }
@@ -35,7 +32,7 @@ std::string Shown(const frmGNSS& F) {
 
 TEST(GNSS_Configuration, Letters_Names_And_Talker_Follow_The_Choice) {
     Dialog_Bench Bench;
-    Bench.Open();
+    Bench.Open<frmPosition>();
     frmGNSS& F = Bench.Configure();
     const auto Drop = [&](std::size_t System) { Bench.Click(F.Systems[System].chkUse); };
     Bench.Use(F, 2, 1);
@@ -48,7 +45,7 @@ TEST(GNSS_Configuration, Letters_Names_And_Talker_Follow_The_Choice) {
     EXPECT_EQ(Shown(F), "ND GLONASS GL");
     Drop(1);
     EXPECT_EQ(F.Systems[1].cmbMode.List_Index(), 0);
-    EXPECT_THROW(Bench.Click(F.Systems[1].cmbMode), User_Refusal);
+    EXPECT_THROW(Bench.Sim.Windows.User_Click(F.Systems[1].cmbMode), User_Refusal);
     EXPECT_EQ(Shown(F), "N  GN");
     Bench.Use(F, 0, 1);
     Bench.Use(F, 5, 1);
@@ -67,8 +64,8 @@ TEST(GNSS_Configuration, Letters_Names_And_Talker_Follow_The_Choice) {
 
 TEST(GNSS_Configuration, OK_Reaches_The_Next_GNS_And_Cancel_Nothing) {
     Dialog_Bench Bench;
-    Bench.Open(1);
-    Bench.Open(2);
+    Bench.Open<frmPosition>();
+    Bench.Open<frmPosition>(2);
     frmGNSS& F = Bench.Configure();
     Bench.Use(F, 3, 4);
     EXPECT_EQ(Bench.GNS(), "GP A") << "nothing before OK";
@@ -83,26 +80,26 @@ TEST(GNSS_Configuration, OK_Reaches_The_Next_GNS_And_Cancel_Nothing) {
     Bench.Press(Again.cmdOK);
     EXPECT_EQ(Bench.GNS(), "GN ANNR");
     EXPECT_EQ(Bench.GNS(2), "GP A");
-    EXPECT_EQ(*Bench.Window().lblGNS_ModeIndicator.Caption, "ANNR");
-    EXPECT_EQ(*Bench.Window().lblGNSS.Caption, "GPS-BDS");
-    EXPECT_EQ(*Bench.Window().lblGNS_Talker.Caption, "GN");
-    EXPECT_TRUE(Bench.Sim.State.Of<GNSS_State>().GNSS_System_Used[4][1]);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[4][1], 4);
+    EXPECT_EQ(*Open_One<frmPosition>(Bench.Sim, 1)->lblGNS_ModeIndicator.Caption, "ANNR");
+    EXPECT_EQ(*Open_One<frmPosition>(Bench.Sim, 1)->lblGNSS.Caption, "GPS-BDS");
+    EXPECT_EQ(*Open_One<frmPosition>(Bench.Sim, 1)->lblGNS_Talker.Caption, "GN");
+    EXPECT_TRUE(Bench.GNSS().GNSS_System_Used[4][1]);
+    EXPECT_EQ(Bench.GNSS().GNSS_System_Mode[4][1], 4);
     EXPECT_EQ(Shown(Bench.Configure()), "ANNR GPS-BDS GN");
 }
 
 TEST(GNSS_Configuration, Survives_Stored_Garbage_And_A_Window_That_Closes) {
     Dialog_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[2][1] = 99;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Mode[3][1] = -1;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_System_Used[4][1] = true;
-    Bench.Open();
+    Bench.GNSS().GNSS_System_Mode[2][1] = 99;
+    Bench.GNSS().GNSS_System_Mode[3][1] = -1;
+    Bench.GNSS().GNSS_System_Used[4][1] = true;
+    Bench.Open<frmPosition>();
     frmGNSS& F = Bench.Configure();
     EXPECT_EQ(Shown(F), "ANNN GPS-BDS GN");
-    Bench.Close();
+    Bench.Close(*Open_One<frmPosition>(Bench.Sim, 1));
     Bench.Press(F.cmdOK);
-    EXPECT_EQ(Bench.Sim.State.Of<GNSS_State>().GNS_Mode_Indicator[1], "ANNN");
-    EXPECT_EQ(*Bench.Open().lblGNS_ModeIndicator.Caption, "ANNN");
+    EXPECT_EQ(Bench.GNSS().GNS_Mode_Indicator[1], "ANNN");
+    EXPECT_EQ(*Bench.Open<frmPosition>().lblGNS_ModeIndicator.Caption, "ANNN");
     EXPECT_EQ(Bench.Last_Box(), "");
 }
 

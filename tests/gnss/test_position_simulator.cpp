@@ -1,8 +1,6 @@
 // The position of a GNSS window: steps, noise, held offset and the position boxes.
 
-#include "gnss/gnss_state.hpp"
-#include "gnss_bench.hpp"
-#include "shell/state/shell_state.hpp"
+#include "tests/support/sentence_bench.hpp"
 
 #include <cmath>
 #include <numbers>
@@ -43,19 +41,17 @@ Point Metres_Between(Point From, Point To) {
             Radians(To.Lon - From.Lon) * WGS84_a_m / std::sqrt(W2) * std::cos(Radians(From.Lat))};
 }
 
-Point True_Position(const GNSS_Bench& B, int I = 1) {
-    return {B.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Start_Lon[I]};
+Point True_Position(const Sentence_Bench& B, int I = 1) {
+    return {B.GNSS().GNSS_Start_Lat[I], B.GNSS().GNSS_Start_Lon[I]};
 }
-Point Reported(const GNSS_Bench& B, int I = 1) {
-    return {B.Sim.State.Of<GNSS_State>().GNSS_Lat[I], B.Sim.State.Of<GNSS_State>().GNSS_Lon[I]};
-}
+Point Reported(const Sentence_Bench& B, int I = 1) { return {B.GNSS().GNSS_Lat[I], B.GNSS().GNSS_Lon[I]}; }
 
-frmPosition& Start_At(GNSS_Bench& Bench, Point At, float SOG, float COG, std::int16_t I = 1) {
-    Bench.Sim.State.Of<GNSS_State>().GNSS_Start_Lat[I] = At.Lat;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_Start_Lon[I] = At.Lon;
-    frmPosition& W = Bench.Open(I);
-    Bench.Sim.State.Of<GNSS_State>().GNSS_SOG[I] = SOG;
-    Bench.Sim.State.Of<GNSS_State>().GNSS_COG[I] = COG;
+frmPosition& Start_At(Sentence_Bench& Bench, Point At, float SOG, float COG, std::int16_t I = 1) {
+    Bench.GNSS().GNSS_Start_Lat[I] = At.Lat;
+    Bench.GNSS().GNSS_Start_Lon[I] = At.Lon;
+    frmPosition& W = Bench.Open<frmPosition>(I);
+    Bench.GNSS().GNSS_SOG[I] = SOG;
+    Bench.GNSS().GNSS_COG[I] = COG;
     Bench.Click(W.cmdStart);
     return W;
 }
@@ -73,7 +69,7 @@ TEST(Position_Simulator, A_Minute_Of_Steps_Follows_The_Geodesic) {
     };
     for (const Case& C : {Case{{60, 5}, 10, 90}, Case{{-33.9, 18.4}, 40, 217.5F}, Case{{0, -30}, 25, 0},
                           Case{{78.2, 15.6}, 17.3F, 300}}) {
-        GNSS_Bench Bench;
+        Sentence_Bench Bench;
         Start_At(Bench, C.At, C.SOG, C.COG);
         EXPECT_EQ(Reported(Bench).Lat, 0) << "nothing is reported before the first tick";
         Bench.Run_To(60.5);
@@ -85,11 +81,11 @@ TEST(Position_Simulator, A_Minute_Of_Steps_Follows_The_Geodesic) {
 }
 
 TEST(Position_Simulator, Crosses_The_Date_Line_And_Stands_Bit_For_Bit) {
-    GNSS_Bench Bench;
+    Sentence_Bench Bench;
     Start_At(Bench, {10, 179.9999}, 40, 90);
     Bench.Run_To(2.5);
     EXPECT_LT(Reported(Bench).Lon, -179.99);
-    GNSS_Bench Still;
+    Sentence_Bench Still;
     const Point At{62.59166666666667, 6.1666666666666661};
     frmPosition& W = Start_At(Still, At, 0, 123);
     Still.Run_To(3600);
@@ -103,24 +99,24 @@ TEST(Position_Simulator, Crosses_The_Date_Line_And_Stands_Bit_For_Bit) {
 }
 
 TEST(Position_Simulator, Shows_The_Reported_Position_In_The_Chosen_Format) {
-    GNSS_Bench Bench;
+    Sentence_Bench Bench;
     frmPosition& W = Start_At(Bench, {62 + 35.5 / 60, -(6 + 10.0 / 60)}, 0, 0);
     EXPECT_EQ(W.txtLat.Text(), "62\xB0 35.5000' N");
     EXPECT_EQ(*W.lblLat.Caption, "00\xB0 00.0000' N");
     Bench.Run_To(1.5);
     EXPECT_EQ(*W.lblLon.Caption, "006\xB0 10.0000' W");
-    Bench.Sim.State.Of<Shell_State>().LatLon_Format = 1;
+    Bench.Shell().LatLon_Format = 1;
     Bench.Run_To(2.5);
     EXPECT_EQ(*W.lblLat.Caption, "62\xB0"
                                  "35'30.000\"N");
 }
 
 TEST(Position_Simulator, Noise_Is_Uniform_In_Distance_And_In_Direction) {
-    GNSS_Bench Bench;
+    Sentence_Bench Bench;
     Bench.Sim.Services.Random.Seed(7);
     frmPosition& W = Start_At(Bench, {60, 5}, 0, 0);
     Bench.Click(W.chkNoise);
-    W.cmbNoise.Set_List_Index(19);
+    Bench.Choose(W.cmbNoise, 19);
     constexpr int Draws = 8000, Bins = 8;
     int By_Distance[Bins] = {}, By_Direction[Bins] = {};
     for (int I = 1; I <= Draws; ++I) {
@@ -144,11 +140,11 @@ TEST(Position_Simulator, Noise_Is_Uniform_In_Distance_And_In_Direction) {
 
 TEST(Position_Simulator, Noise_Accumulates_Only_When_Asked_And_A_Seed_Repeats_It) {
     const auto Walk = [](std::uint64_t Seed, bool Accumulated) {
-        GNSS_Bench Bench;
+        Sentence_Bench Bench;
         Bench.Sim.Services.Random.Seed(Seed);
         frmPosition& W = Start_At(Bench, {60, 5}, 10, 0);
         Bench.Click(W.chkNoise);
-        W.cmbNoise.Set_List_Index(10);
+        Bench.Choose(W.cmbNoise, 10);
         W.optAccumulatedNoise.Select(Accumulated ? 1 : 0);
         Bench.Run_To(400.5);
         return std::pair{True_Position(Bench), Reported(Bench)};
@@ -168,11 +164,11 @@ TEST(Position_Simulator, Noise_Accumulates_Only_When_Asked_And_A_Seed_Repeats_It
 }
 
 TEST(Position_Simulator, A_Held_Offset_Follows_The_True_Position_Of_GNSS_1) {
-    GNSS_Bench Bench;
+    Sentence_Bench Bench;
     frmPosition& First = Start_At(Bench, {60, 5}, 0, 0, 1);
     Bench.Click(First.chkNoise);
-    First.cmbNoise.Set_List_Index(19);
-    frmPosition& W = Bench.Open(2);
+    Bench.Choose(First.cmbNoise, 19);
+    frmPosition& W = Bench.Open<frmPosition>(2);
     Bench.Click(W.chkFixOffset);
     EXPECT_EQ(W.txtLat.Text(), "0.0 m");
     EXPECT_EQ(*W.txtLat.Width, 735);
@@ -188,12 +184,12 @@ TEST(Position_Simulator, A_Held_Offset_Follows_The_True_Position_Of_GNSS_1) {
 }
 
 TEST(Position_Simulator, A_Held_Offset_With_Noise_Reports_Around_The_Origin) {
-    GNSS_Bench Bench;
+    Sentence_Bench Bench;
     Start_At(Bench, {60, 5}, 0, 0, 1);
     frmPosition& W = Start_At(Bench, {60, 5}, 10, 45, 2);
     Bench.Click(W.chkFixOffset);
     Bench.Click(W.chkNoise);
-    W.cmbNoise.Set_List_Index(8);
+    Bench.Choose(W.cmbNoise, 8);
     Bench.Run_To(1.5);
     const Point Off = Metres_Between({0, 0}, Reported(Bench, 2));
     EXPECT_LE(std::hypot(Off.Lat, Off.Lon), 8.001);
@@ -208,8 +204,8 @@ TEST(Position_Simulator, A_Held_Offset_With_Noise_Reports_Around_The_Origin) {
 }
 
 TEST(Position_Simulator, The_Labels_Slip_When_The_Offset_Is_Released) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open(2);
+    Sentence_Bench Bench;
+    frmPosition& W = Bench.Open<frmPosition>(2);
     Bench.Click(W.chkFixOffset);
     EXPECT_EQ(*W.lblStartLat.Caption, "deltaNorth");
     EXPECT_EQ(*W.lblStartLon.Caption, "deltaEast");
@@ -218,8 +214,8 @@ TEST(Position_Simulator, The_Labels_Slip_When_The_Offset_Is_Released) {
     EXPECT_EQ(*W.lblStartLon.Caption, "deltaEast");
     EXPECT_EQ(*W.txtLon.Width, 1455);
     EXPECT_EQ(W.txtLon.Text(), "000\xB0 00.0000' E");
-    frmPosition& First = Bench.Open(1);
-    EXPECT_THROW(Bench.Click(First.chkFixOffset), User_Refusal);
+    frmPosition& First = Bench.Open<frmPosition>();
+    EXPECT_THROW(Bench.Sim.Windows.User_Click(First.chkFixOffset), User_Refusal);
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 // The sky, and what GSA and GSV tell of it.
 
-#include "gnss/gnss_state.hpp"
-#include "gnss_bench.hpp"
-#include "shell/state/iec450_state.hpp"
+#include "tests/support/sentence_bench.hpp"
 
 #include <cmath>
 #include <limits>
@@ -11,26 +9,14 @@
 namespace brinewright {
 namespace {
 
-std::vector<std::string> Fields(const std::string& Sentence) {
-    std::vector<std::string> Found;
-    std::istringstream Rest(Sentence.substr(0, Sentence.find('*')));
-    for (std::string Field; std::getline(Rest, Field, ',');) Found.push_back(Field);
-    return Found;
-}
-
-void Tick_GSV(GNSS_Bench& Bench, frmPosition& W) {
-    Bench.Sent.clear();
-    Bench.Sim.Windows.Event([&] { W.Sentences["GSV"].Clock.Tick(); });
-}
-
 TEST(GNSS_Sky, Starts_Inside_Its_Ranges) {
-    GNSS_Bench Bench;
+    Sentence_Bench Bench;
     Bench.Sim.Services.Random.Seed(3);
     int Rising = 0, Increasing = 0, Same = 0;
     float Lowest_SNR = 1e9F, Highest_SNR = 0;
     for (int Round = 0; Round < 50; ++Round) {
         Init_Sky(Bench.Sim);
-        for (const Sky_Satellite& S : Bench.Sim.State.Of<GNSS_State>().Sky_Table) {
+        for (const Sky_Satellite& S : Bench.GNSS().Sky_Table) {
             EXPECT_TRUE(S.Max_Elevation >= 20 && S.Max_Elevation <= 90) << S.Max_Elevation;
             EXPECT_TRUE(S.Elevation >= 5 && S.Elevation <= static_cast<float>(S.Max_Elevation))
                 << S.Elevation;
@@ -50,9 +36,9 @@ TEST(GNSS_Sky, Starts_Inside_Its_Ranges) {
 }
 
 TEST(GNSS_Sky, Drifts_In_Small_Steps_And_Turns_At_Its_Bounds) {
-    GNSS_Bench Bench;
+    Sentence_Bench Bench;
     Init_Sky(Bench.Sim);
-    auto& Sky = Bench.Sim.State.Of<GNSS_State>().Sky_Table;
+    auto& Sky = Bench.GNSS().Sky_Table;
     double Largest_deg = 0, Largest_SNR = 0;
     for (int Step = 0; Step < 20'000; ++Step) {
         const auto Before = Sky;
@@ -94,94 +80,110 @@ TEST(GNSS_Sky, Drifts_In_Small_Steps_And_Turns_At_Its_Bounds) {
     EXPECT_GT(Highest, 30);
 }
 
-TEST(GNSS_Satellites, Opening_Puts_The_Eight_Into_All_Lists) {
-    GNSS_Bench Bench;
-    Bench.Sim.State.Of<GNSS_State>().Sky_Table[1].Used = Bench.Sim.State.Of<GNSS_State>().Sky_Table[88].Used =
-        true;
-    Bench.Sim.State.Of<GNSS_State>().Svs_In_Use[9] = 77;
-    const frmPosition& W = Bench.Open();
-    const std::vector<int> Eight{3, 6, 8, 12, 19, 24, 25, 32};
-    std::vector<int> In_Use, Used, PRN;
-    for (const std::int16_t I : Bench.Sim.State.Of<GNSS_State>().Svs_In_Use)
-        if (I != 0) In_Use.push_back(I);
-    for (int I = 1; I <= 88; ++I)
-        if (Bench.Sim.State.Of<GNSS_State>().Sky_Table[I].Used) Used.push_back(I);
-    for (const std::int16_t I : W.GSA_Record.PRN)
-        if (I != 0) PRN.push_back(I);
-    EXPECT_EQ(In_Use, Eight);
-    EXPECT_EQ(Used, Eight);
-    EXPECT_EQ(PRN, Eight);
-    EXPECT_EQ(W.GGA_Record.Sats, 8);
-    EXPECT_EQ(W.GNS_Record.Sats, 8);
-    EXPECT_EQ(W.GSV_Record.In_View, 8);
-}
-
 TEST(GNSS_Satellites, GSV_Is_A_Series_With_Whole_Numbers_From_Below) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    auto& Sky = Bench.Sim.State.Of<GNSS_State>().Sky_Table;
-    for (const std::int16_t I : Bench.Sim.State.Of<GNSS_State>().Svs_In_Use)
+    Sentence_Bench Bench;
+    frmPosition& W = Bench.Open<frmPosition>();
+    auto& Sky = Bench.GNSS().Sky_Table;
+    for (const std::int16_t I : Bench.GNSS().Svs_In_Use)
         if (I != 0) {
             Sky[I].Elevation = static_cast<float>(I) + 0.99F;
             Sky[I].Azimuth = 100.5F + static_cast<float>(I);
             Sky[I].SNR = -0.5F;
         }
-    Tick_GSV(Bench, W);
+    Bench.Tick(W, "GSV");
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[0].Text, Framed("GPGSV,2,1,8,3,3,103,-1,6,6,106,-1,8,8,108,-1,12,12,112,-1"));
     EXPECT_EQ(Bench.Sent[1].Text, Framed("GPGSV,2,2,8,19,19,119,-1,24,24,124,-1,25,25,125,-1,32,32,132,-1"));
     Sky[3].SNR = 1e9F;
     Sky[6].SNR = -std::numeric_limits<float>::infinity();
     Sky[8].SNR = std::numeric_limits<float>::quiet_NaN();
-    Tick_GSV(Bench, W);
+    Bench.Tick(W, "GSV");
     EXPECT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Last_Box(), "");
 }
 
 TEST(GNSS_Satellites, GSV_Lists_Those_In_Use_Then_Those_In_View_Then_Nothing) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    auto& State = Bench.Sim.State;
-    W.cmbInView.Set_List_Index(13);
-    State.Of<GNSS_State>().Svs_In_View[2] = 33;
-    State.Of<GNSS_State>().Svs_In_View[3] = 88;
-    State.Of<GNSS_State>().Svs_In_View[4] = State.Of<GNSS_State>().Svs_In_View[5] = 0;
-    State.Of<IEC450_State>().IEC450_Enabled = State.Of<IEC450_State>().Use_g_Tag = true;
-    Tick_GSV(Bench, W);
+    Sentence_Bench Bench;
+    frmPosition& W = Bench.Open<frmPosition>();
+    Bench.Choose(W.cmbInView, 13);
+    Bench.GNSS().Svs_In_View[2] = 33;
+    Bench.GNSS().Svs_In_View[3] = 88;
+    Bench.GNSS().Svs_In_View[4] = Bench.GNSS().Svs_In_View[5] = 0;
+    Bench.IEC450().IEC450_Enabled = Bench.IEC450().Use_g_Tag = true;
+    Bench.Tick(W, "GSV");
     ASSERT_EQ(Bench.Sent.size(), 4U);
     std::string Numbers;
     for (std::size_t M = 0; M < 4; ++M) {
         const std::string& Text = Bench.Sent[M].Text;
         const std::string Group = "g:" + std::to_string(M + 1) + "-4-1";
         EXPECT_EQ(Text.substr(1, Group.size()), Group);
-        const auto F = Fields(Text.substr(Text.find('$')) + ",");
+        const auto F = Fields_Of(Text.substr(Text.find('$')));
         EXPECT_EQ(F[1] + F[2] + F[3], "4" + std::to_string(M + 1) + "13");
         for (std::size_t K = 0; K < 4; ++K) Numbers += (F.size() > 4 + 4 * K ? F[4 + 4 * K] : "") + " ";
     }
     EXPECT_EQ(Numbers, "3 6 8 12 19 24 25 32 1 120 88 " + std::string(5, ' '));
     EXPECT_TRUE(Bench.Sent[3].Text.find("$GPGSV,4,4,13,,,,,,,,,,,,,,,,*") != std::string::npos)
         << Bench.Sent[3].Text;
-    EXPECT_EQ(Fields(Bench.Sent[2].Text.substr(Bench.Sent[2].Text.find('$')) + ",")[16], "");
+    EXPECT_EQ(Fields_Of(Bench.Sent[2].Text.substr(Bench.Sent[2].Text.find('$')))[16], "");
 
-    W.cmbSats.Set_List_Index(0);
-    Tick_GSV(Bench, W);
+    Bench.Choose(W.cmbSats, 0);
+    Bench.Tick(W, "GSV");
     EXPECT_TRUE(Bench.Sent.empty());
-    W.cmbInView.Set_List_Index(1);
-    Tick_GSV(Bench, W);
+    Bench.Choose(W.cmbInView, 1);
+    Bench.Tick(W, "GSV");
     ASSERT_EQ(Bench.Sent.size(), 1U);
     EXPECT_EQ(Bench.Sent[0].Text.front(), '*') << "a sentence alone has no group";
 }
 
 TEST(GNSS_Satellites, An_Identifier_Without_A_Satellite_Goes_Out_Empty) {
-    GNSS_Bench Bench;
-    frmPosition& W = Bench.Open();
-    Bench.Sim.State.Of<GNSS_State>().Svs_In_Use[1] = -5;
-    Bench.Sim.State.Of<GNSS_State>().Svs_In_Use[2] = 89;
-    Tick_GSV(Bench, W);
+    Sentence_Bench Bench;
+    frmPosition& W = Bench.Open<frmPosition>();
+    Bench.GNSS().Svs_In_Use[1] = -5;
+    Bench.GNSS().Svs_In_Use[2] = 89;
+    Bench.Tick(W, "GSV");
     ASSERT_EQ(Bench.Sent.size(), 2U);
     EXPECT_EQ(Bench.Sent[0].Text.substr(0, 23), "$GPGSV,2,1,8,,,,,,,,,8,");
     Bench.Sim.Windows.Event([&] { W.timer_GSVUpdate.Tick(); });
     EXPECT_EQ(Bench.Last_Box(), "");
+}
+
+TEST(GNSS_Satellite_Controls, The_Table_Rounds_And_Follows_The_Sky_Once_A_Minute) {
+    Sentence_Bench Bench;
+    frmPosition& W = Bench.Open<frmPosition>();
+    Bench.Choose(W.cmbInView, 9);
+    for (const int I : {1, 3}) {
+        Sky_Satellite& S = Bench.GNSS().Sky_Table[I];
+        S.Elevation = 62.5F;
+        S.Azimuth = 7.25F;
+        S.SNR = -0.25F;
+    }
+    EXPECT_EQ(W.hfgGSV.At(0, 1).Text, "00");
+    W.timer_GSVUpdate.Set_Interval(60'000);
+    Main_Window(Bench.Sim).timer_Sky.Set_Interval(0); // keep the values
+    Bench.Run_s(60);
+    const auto Row = [&](int R) {
+        return W.hfgGSV.At(R, 1).Text + " " + W.hfgGSV.At(R, 2).Text + " " + W.hfgGSV.At(R, 3).Text;
+    };
+    EXPECT_EQ(Row(0), "62 007 00") << "in use: to the even integer first";
+    EXPECT_EQ(Row(8), "63 007 -00") << "in view: the value itself in the pattern";
+}
+
+TEST(GNSS_Satellite_Controls, Both_Windows_Share_One_Sky) {
+    Sentence_Bench Bench;
+    frmPosition& First = Bench.Open<frmPosition>();
+    frmPosition& Second = Bench.Open<frmPosition>(2);
+    Bench.Click(Second.chkSv[3]);
+    Bench.Click(Second.chkGLSv[2]);
+    EXPECT_FALSE(Bench.GNSS().Sky_Table[3].Used);
+    EXPECT_TRUE(First.chkSv[3].Value()) << "the boxes of the other window stay";
+    EXPECT_EQ(First.GSA_Record.PRN[1], 3);
+    for (frmPosition* W : {&First, &Second}) {
+        Bench.Tick(*W, "GSV");
+        EXPECT_EQ(Bench.Sent.at(0).Text.substr(0, 15), "$GPGSV,2,1,8,6,");
+        EXPECT_NE(Bench.Sent.at(1).Text.find(",66,"), std::string::npos);
+    }
+    Bench.Choose(First.cmbInView, 9);
+    EXPECT_EQ(Bench.GNSS().Svs_In_View[3], 3) << "free by the other window's choice";
 }
 
 } // namespace

@@ -1,9 +1,5 @@
-#include "ownship/navdata_state.hpp"
 #include "ownship/ship/control_input.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "sensors/log/log_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -19,11 +15,8 @@ constexpr const char* Warning =
 struct Steered_Ship : Virtual_Simulator {
     explicit Steered_Ship(const char* Mode = "Ship") {
         Disk.Content[Port_File] = "5050\r\n";
-        Simulator_State Setup;
-        Load_Default_Data(Setup, All_Windows());
-        Setup.Of<Shell_State>().Mode = Mode;
         Sim.Options.Control_Input = true;
-        Start(Setup);
+        Start(Default_Setup(Mode));
         Opening = std::exchange(Told, {});
     }
     void Arrive(const std::string& Datagram) const { Input().Arrive(Datagram); }
@@ -36,7 +29,7 @@ struct Steered_Ship : Virtual_Simulator {
 // The boxes of a start with this port file, nothing being told but by the control input.
 std::vector<Message_Box> Boxes_Of_Start(Virtual_Simulator& V, const std::string& Content) {
     V.Disk.Content[Port_File] = Content;
-    V.Sim.State.Of<Shell_State>().Data_Folder = "/data/";
+    V.Shell().Data_Folder = "/data/";
     V.Sim.Windows.Event([&] { Start_Control_Input(V.Sim); });
     return V.Told;
 }
@@ -61,9 +54,7 @@ TEST(Control_Input, Opens_The_Port_That_The_File_Names) {
     // Without the option there is neither box nor socket.
     Virtual_Simulator Without;
     Without.Disk.Content[Port_File] = "5050";
-    Simulator_State Setup;
-    Load_Default_Data(Setup, All_Windows());
-    Without.Start(Setup);
+    Without.Start(Default_Setup("Ship"));
     EXPECT_TRUE(Without.Told.empty());
     EXPECT_TRUE(Without.World.Sockets.empty());
 }
@@ -81,7 +72,7 @@ TEST(Control_Input, A_Bad_Port_File_Or_A_Taken_Port_Is_A_Box_And_Not_An_End) {
                   "port number, 1 to 65535, and nothing else");
         EXPECT_EQ(Boxes[0].Title, Title);
         EXPECT_TRUE(V.World.Sockets.empty());
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().Control_Input_Port, 0);
+        EXPECT_EQ(V.Link().Control_Input_Port, 0);
     }
     Virtual_Simulator Large;
     EXPECT_NE(Boxes_Of_Start(Large, std::string(2000, ' ') + "5050").at(0).Text.find("File too large"),
@@ -149,10 +140,9 @@ TEST(Control_Input, Rate_Of_Turn_Sets_The_Rudder) {
     for (const Row& R : Rows) {
         V.Arrive(R.Datagram);
         EXPECT_EQ(V.Ship().sldRudder.Value(), R.Rudder) << R.Datagram;
-        EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_Rudder, static_cast<float>(R.Rudder) / 10)
-            << R.Datagram;
+        EXPECT_EQ(V.Nav().Nav_Rudder, static_cast<float>(R.Rudder) / 10) << R.Datagram;
     }
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 0.0F);
+    EXPECT_EQ(V.Nav().Nav_SOG, 0.0F);
 }
 
 TEST(Control_Input, Whatever_Is_No_VTG_Or_ROT_Is_Ignored_And_Numbers_Stay_Finite) {
@@ -165,8 +155,8 @@ TEST(Control_Input, Whatever_Is_No_VTG_Or_ROT_Is_Ignored_And_Numbers_Stay_Finite
           std::string("$GPVT\0,,,,,3", 12), std::string(65507, '\xFF'), std::string(65507, ','),
           std::string("UdPbC\0$GPVTG,,,,,3", 18)}) {
         V.Arrive(Datagram);
-        EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 10.0F);
-        EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_Rudder, 5.0F);
+        EXPECT_EQ(V.Nav().Nav_SOG, 10.0F);
+        EXPECT_EQ(V.Nav().Nav_Rudder, 5.0F);
     }
     for (const std::string& Number : {std::string("1e999"), std::string("-1e999"), std::string("nan"),
                                       std::string("inf"), std::string("1e38"), std::string(60000, '9'),
@@ -175,7 +165,7 @@ TEST(Control_Input, Whatever_Is_No_VTG_Or_ROT_Is_Ignored_And_Numbers_Stay_Finite
                                                   3)}) {
         V.Arrive("$GPVTG,,,,," + Number + ",N");
         V.Arrive("$HEROT," + Number + ",A");
-        EXPECT_TRUE(std::isfinite(V.Sim.State.Of<Navdata_State>().Nav_SOG)) << Number.substr(0, 9);
+        EXPECT_TRUE(std::isfinite(V.Nav().Nav_SOG)) << Number.substr(0, 9);
         V.Run_s(3);
         const Simulator_State& S = V.Sim.State;
         for (const double Value :
@@ -185,14 +175,14 @@ TEST(Control_Input, Whatever_Is_No_VTG_Or_ROT_Is_Ignored_And_Numbers_Stay_Finite
               double{S.Of<Log_State>().Log_Speed[2]}})
             EXPECT_TRUE(std::isfinite(Value)) << Number.substr(0, 9);
     }
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 5.0F); // a NUL ends a number
+    EXPECT_EQ(V.Nav().Nav_SOG, 5.0F); // a NUL ends a number
     // A ship that cannot go ahead: its setup file may say so.
-    V.Sim.State.Of<Navdata_State>().Max_Speed_Ahead = 0;
+    V.Nav().Max_Speed_Ahead = 0;
     V.Arrive("$GPVTG,,,,,0,N");
     EXPECT_EQ(V.Ship().sldThrottle.Value(), 0);
     V.Arrive("$GPVTG,,,,,3,N");
     EXPECT_EQ(V.Ship().sldThrottle.Value(), -100);
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 3.0F);
+    EXPECT_EQ(V.Nav().Nav_SOG, 3.0F);
     EXPECT_TRUE(V.Told.empty());
 }
 
@@ -204,22 +194,22 @@ TEST(Control_Input, In_Sensor_Mode_It_Warns_Once_And_Leaves_The_Data_Unread) {
     EXPECT_EQ(V.Told[0].Text, Warning);
     EXPECT_EQ(V.Told[0].Title, Title);
     EXPECT_EQ(V.Input().Received.size(), 2u);
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 0.0F);
+    EXPECT_EQ(V.Nav().Nav_SOG, 0.0F);
 
     // What waits comes first, in its order, each as an event of its own.
-    V.Click(Main_Window(V.Sim).Item("mnuMode", 1));
+    V.Choose_Menu("mnuMode", 1);
     ASSERT_NE(Open_One<frmShip>(V.Sim), nullptr);
     int Events = 0;
     V.Sim.Windows.On_Settled.push_back([&] { ++Events; });
     V.Arrive("$GPVTG,,,,,20,N");
     EXPECT_EQ(Events, 3);
     EXPECT_TRUE(V.Input().Received.empty());
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 20.0F);
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_Rudder, 5.0F);
+    EXPECT_EQ(V.Nav().Nav_SOG, 20.0F);
+    EXPECT_EQ(V.Nav().Nav_Rudder, 5.0F);
 
-    V.Click(Main_Window(V.Sim).Item("mnuMode", 2));
+    V.Choose_Menu("mnuMode", 2);
     V.Arrive("$GPVTG,,,,,30,N");
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 20.0F);
+    EXPECT_EQ(V.Nav().Nav_SOG, 20.0F);
     EXPECT_EQ(V.Told.size(), 1u) << "once in a run";
 }
 
@@ -229,8 +219,8 @@ TEST(Control_Input, With_The_Ship_Window_Closed_Only_The_Speed_Is_Set) {
     ASSERT_EQ(Open_One<frmShip>(V.Sim), nullptr);
     V.Arrive("$GPVTG,,,,,10,N");
     V.Arrive("$HEROT,5,A");
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_SOG, 10.0F);
-    EXPECT_EQ(V.Sim.State.Of<Navdata_State>().Nav_Rudder, 0.0F);
+    EXPECT_EQ(V.Nav().Nav_SOG, 10.0F);
+    EXPECT_EQ(V.Nav().Nav_Rudder, 0.0F);
     EXPECT_TRUE(V.Told.empty());
 }
 

@@ -1,16 +1,4 @@
-#include "links/setup_file/setup_file.hpp"
-#include "ownship/autopilot/autopilot_state.hpp"
-#include "ownship/navdata_state.hpp"
-#include "platform/run_time_error.hpp"
-#include "sensors/echosounder/echo_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "sensors/wind/wind_state.hpp"
-#include "sentences/utc_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
-#include "test_setup_file_support.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/links/test_setup_file_support.hpp"
 
 #include <cmath>
 #include <limits>
@@ -19,8 +7,6 @@
 namespace brinewright {
 namespace {
 
-using namespace setup_test;
-
 Simulator_State Read(const std::string& Bytes) {
     Simulator_State State;
     Read_Setup(Bytes, State, All_Windows());
@@ -28,11 +14,11 @@ Simulator_State Read(const std::string& Bytes) {
 }
 
 // The variables that the file keeps come out of reading and the others stay at their defaults.
-void Expect_Kept_And_Nothing_Else(const Texts& Read_Back, const Texts& Filled) {
+void Expect_Kept_And_Nothing_Else(const Leaf_Texts& Read_Back, const Leaf_Texts& Filled) {
     std::set<std::string> Kept;
     for (const auto& Fields : Layout_Of_File()) Kept.insert(Fields.begin(), Fields.end());
     Kept.erase("ARPA_Random_Count"); // written, and set back to 0 by reading
-    const Texts Zero = All_Texts(Simulator_State{});
+    const Leaf_Texts Zero = All_Texts(Simulator_State{});
     for (const auto& [Path, Text] : Read_Back)
         EXPECT_EQ(Text, Kept.contains(Path) ? Filled.at(Path) : Zero.at(Path)) << Path;
 }
@@ -40,7 +26,7 @@ void Expect_Kept_And_Nothing_Else(const Texts& Read_Back, const Texts& Filled) {
 TEST(Setup_File, Every_Field_Stands_In_Its_Place) {
     for (int Bit = 0; Bit <= 11; ++Bit) {
         const Simulator_State State = Filled_State(Bit);
-        const Texts Values = All_Texts(State);
+        const Leaf_Texts Values = All_Texts(State);
         ASSERT_EQ(Write_Setup(State, All_Windows()), File_Of(Values)) << "bit " << Bit;
         Expect_Kept_And_Nothing_Else(All_Texts(Read(File_Of(Values))), Values);
     }
@@ -55,10 +41,10 @@ TEST(Setup_File, Default_State_Is_The_Golden_File) {
 TEST(Setup_File, Defaults_Touch_Nothing_Else) {
     Simulator_State Zero;
     Load_Default_Data(Zero, All_Windows());
-    const Texts Defaults = All_Texts(Zero);
-    const Texts Nothing = All_Texts(Simulator_State{});
+    const Leaf_Texts Defaults = All_Texts(Zero);
+    const Leaf_Texts Nothing = All_Texts(Simulator_State{});
     Simulator_State State = Filled_State(3);
-    const Texts Before = All_Texts(State);
+    const Leaf_Texts Before = All_Texts(State);
     Load_Default_Data(State, All_Windows());
     for (const auto& [Path, Text] : All_Texts(State)) {
         const bool Set_To_Zero =
@@ -71,7 +57,7 @@ TEST(Setup_File, Defaults_Touch_Nothing_Else) {
 }
 
 TEST(Setup_File, Line_Ends_And_A_Missing_Last_One_Do_Not_Matter) {
-    const Texts Values = All_Texts(Filled_State(1));
+    const Leaf_Texts Values = All_Texts(Filled_State(1));
     for (const std::string Line_End : {"\r\n", "\n", "\r", " \t\r\n"}) {
         const std::string Bytes = File_Of(Values, Line_End);
         Expect_Kept_And_Nothing_Else(All_Texts(Read(Bytes)), Values);
@@ -82,7 +68,7 @@ TEST(Setup_File, Line_Ends_And_A_Missing_Last_One_Do_Not_Matter) {
 }
 
 TEST(Setup_File, Sections_In_Any_Order_With_Unknown_Ones_Between) {
-    const Texts Values = All_Texts(Filled_State(2));
+    const Leaf_Texts Values = All_Texts(Filled_State(2));
     std::vector<std::string> Sections;
     for (const auto& Fields : Layout_Of_File()) {
         if (Fields[0][0] == '"') Sections.emplace_back();
@@ -98,7 +84,7 @@ TEST(Setup_File, Sections_In_Any_Order_With_Unknown_Ones_Between) {
 }
 
 TEST(Setup_File, A_File_Without_The_Late_Sections_Leaves_Second_Instances_Alone) {
-    const Texts Values = All_Texts(Filled_State(0));
+    const Leaf_Texts Values = All_Texts(Filled_State(0));
     std::string Old;
     for (const auto& Fields : Layout_Of_File()) {
         if (Fields[0] == "\"REM Sensor settings v6\"") break;
@@ -114,7 +100,7 @@ TEST(Setup_File, A_File_Without_The_Late_Sections_Leaves_Second_Instances_Alone)
     EXPECT_EQ(State.Of<Link_State>().Sensor_Table[9].Name, "");
     EXPECT_EQ(State.Of<Link_State>().UDP_Port_Number[8], 0);
 
-    const Texts Only_Mode = All_Texts(Read("\"REM Mode\"\r\n\"Sensor\"\r\n"));
+    const Leaf_Texts Only_Mode = All_Texts(Read("\"REM Mode\"\r\n\"Sensor\"\r\n"));
     for (const auto& [Path, Text] : All_Texts(Simulator_State{}))
         EXPECT_EQ(Only_Mode.at(Path), Path == "Mode" ? "\"Sensor\"" : Text) << Path;
 }
@@ -204,7 +190,7 @@ TEST(Setup_File, Texts_With_Commas_And_Quotation_Marks) {
     // What the format cannot hold is replaced.
     EXPECT_EQ(Route_After_Saving("a\",b"), "a',b");
     EXPECT_EQ(Route_After_Saving("\",\",\r\nx\n"), "',',  x ");
-    // Texts typed into the file by hand.
+    // Leaf_Texts typed into the file by hand.
     EXPECT_EQ(Read("\"REM Mode\"\nShip\n").Of<Shell_State>().Mode, "Ship");
     EXPECT_EQ(Read("\"REM Mode\"\n  \"Ship\"  \n").Of<Shell_State>().Mode, "Ship");
 }

@@ -1,17 +1,9 @@
-#include "links/setup_file/setup_file.hpp"
-#include "platform/run_time_error.hpp"
-#include "sentences/utc_state.hpp"
-#include "shell/state/shell_state.hpp"
-#include "test_setup_file_support.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/links/test_setup_file_support.hpp"
 
 #include <chrono>
 
 namespace brinewright {
 namespace {
-
-using namespace setup_test;
 
 // Empty when reading succeeds, else the text of the failure.
 std::string Failure_Of(const std::string& Bytes, Simulator_State& State) {
@@ -104,7 +96,7 @@ TEST(Setup_File_Faults, What_Was_Read_Before_The_Failure_Stays) {
 }
 
 TEST(Setup_File_Faults, Bytes_That_Are_No_Setup_Change_Nothing) {
-    const Texts Before = All_Texts(Filled_State(4));
+    const Leaf_Texts Before = All_Texts(Filled_State(4));
     std::string Every_Byte;
     for (int Byte = 0; Byte < 256; ++Byte) Every_Byte += static_cast<char>(Byte);
     for (const std::string& Bytes :
@@ -136,9 +128,9 @@ TEST(Setup_File_Faults, Cut_At_Every_Byte) {
 }
 
 TEST(Setup_File_Faults, Cut_Behind_Every_Line_Keeps_The_Lines_Before) {
-    const Texts Values = All_Texts(Filled_State(6));
+    const Leaf_Texts Values = All_Texts(Filled_State(6));
     Simulator_State State;
-    Texts Expected = All_Texts(State);
+    Leaf_Texts Expected = All_Texts(State);
     std::string Bytes;
     for (const auto& Fields : Layout_Of_File()) {
         Bytes += File_Line(Fields, Values);

@@ -3,39 +3,19 @@
 // What the tests of the setup file share: every variable of the state by its path, and the file as the layout
 // in golden/setup/layout.txt describes it, put together without the reader or the writer.
 
-#include "all_state.hpp"
 #include "links/setup_file/setup_file.hpp"
-#include "shell/main/window_table.hpp"
-#include "shell/state/shell_state.hpp"
-#include "shell/state/simulator_state.hpp"
+#include "tests/support/state_leaves.hpp"
+#include "tests/support/virtual_simulator.hpp"
 
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
-#include <string>
-#include <type_traits>
-#include <vector>
 
-namespace brinewright::setup_test {
+namespace brinewright {
 
 inline std::string File_Bytes(const std::string& Name) {
     std::ifstream File(std::string(BRINEWRIGHT_SOURCE_DIR "/tests/golden/setup/") + Name, std::ios::binary);
     return {std::istreambuf_iterator<char>(File), {}};
-}
-
-// Calls Leaf(path, reference) for every number, boolean and text below Value.
-template <class T, class Leaf>
-void Each_Leaf(const std::string& Path, T& Value, Leaf& At_Leaf) {
-    if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, std::string>) {
-        At_Leaf(Path, Value);
-    } else if constexpr (requires { Value.Elements; }) {
-        for (int I = T::First_Index; I <= T::Last_Index; ++I)
-            Each_Leaf(Path + "[" + std::to_string(I) + "]", Value[I], At_Leaf);
-    } else {
-        Visit_Record(Value,
-                     [&](const char* Name, auto& Member) { Each_Leaf(Path + "." + Name, Member, At_Leaf); });
-    }
 }
 
 template <class Leaf>
@@ -53,10 +33,10 @@ inline std::string Text_Of(double Value) {
     return Value == static_cast<double>(static_cast<long>(Value)) ? Whole : Whole + ".5";
 }
 
-using Texts = std::map<std::string, std::string>; // path to the field's text
+using Leaf_Texts = std::map<std::string, std::string>; // path to the field's text
 
-inline Texts All_Texts(Simulator_State State) {
-    Texts Found;
+inline Leaf_Texts All_Texts(Simulator_State State) {
+    Leaf_Texts Found;
     Each_Leaf(State, [&](const std::string& Path, auto& Value) { Found[Path] = Text_Of(Value); });
     return Found;
 }
@@ -98,7 +78,7 @@ inline std::vector<std::vector<std::string>> Layout_Of_File() {
 }
 
 // One line of the file, with Line_End behind it.
-inline std::string File_Line(const std::vector<std::string>& Fields, const Texts& Values,
+inline std::string File_Line(const std::vector<std::string>& Fields, const Leaf_Texts& Values,
                              const std::string& Line_End = "\r\n") {
     std::string Line;
     for (const std::string& Path : Fields)
@@ -106,10 +86,10 @@ inline std::string File_Line(const std::vector<std::string>& Fields, const Texts
     return Line + Line_End;
 }
 
-inline std::string File_Of(const Texts& Values, const std::string& Line_End = "\r\n") {
+inline std::string File_Of(const Leaf_Texts& Values, const std::string& Line_End = "\r\n") {
     std::string Bytes;
     for (const auto& Fields : Layout_Of_File()) Bytes += File_Line(Fields, Values, Line_End);
     return Bytes;
 }
 
-} // namespace brinewright::setup_test
+} // namespace brinewright

@@ -1,8 +1,4 @@
 #include "dialogs/iec61162/frm_iec61162.hpp"
-#include "sentences/utc_state.hpp"
-#include "shell/state/fault_state.hpp"
-#include "shell/state/iec450_state.hpp"
-#include "shell/state/link_state.hpp"
 #include "shell/transmit/tag_block.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
@@ -18,57 +14,51 @@ struct Tag_Block : testing::Test, Virtual_Simulator {
         EXPECT_TRUE(Sentence.ends_with("$M"));
         return Sentence.substr(0, Sentence.size() - 2);
     }
-    // The block around Inside with its checksum, summed here on its own.
-    static std::string Block(const std::string& Inside) {
-        unsigned Sum = 0;
-        for (const char C : Inside) Sum ^= static_cast<unsigned char>(C);
-        const char* Digits = "0123456789ABCDEF";
-        return "\\" + Inside + "*" + Digits[Sum / 16] + Digits[Sum % 16] + "\\";
-    }
-    Simulator_State& S = Sim.State;
+    // The block around Inside with its checksum.
+    static std::string Block(const std::string& Inside) { return "\\" + Framed(Inside).substr(1) + "\\"; }
 };
 
 TEST_F(Tag_Block, Tags_In_Their_Order) {
-    S.Of<IEC450_State>().s_Tag = "Brinewright";
-    S.Of<IEC450_State>().d_Tag = "Listener 1";
-    S.Of<IEC450_State>().d2_Tag = "Listener 2";
-    S.Of<IEC450_State>().t_Tag = "Text";
-    S.Of<IEC450_State>().Use_s_Tag = S.Of<IEC450_State>().Use_n_Tag = true;
-    S.Of<Link_State>().Transmit.UdPbC_Sequence[18] = 11;
+    IEC450().s_Tag = "Brinewright";
+    IEC450().d_Tag = "Listener 1";
+    IEC450().d2_Tag = "Listener 2";
+    IEC450().t_Tag = "Text";
+    IEC450().Use_s_Tag = IEC450().Use_n_Tag = true;
+    Link().Transmit.UdPbC_Sequence[18] = 11;
     EXPECT_EQ(Header(), "\\s:Brinewright,n:12*77\\");
 
-    S.Of<IEC450_State>().Use_d_Tag = S.Of<IEC450_State>().Use_d2_Tag = S.Of<IEC450_State>().Use_g_Tag =
-        S.Of<IEC450_State>().Use_c_Tag = S.Of<IEC450_State>().Use_t_Tag = true;
+    IEC450().Use_d_Tag = IEC450().Use_d2_Tag = IEC450().Use_g_Tag = IEC450().Use_c_Tag = IEC450().Use_t_Tag =
+        true;
     EXPECT_EQ(Header(18, 2, 3),
               Block("s:Brinewright,d:Listener 1,d:Listener 2,n:13,g:2-3-0,c:1767261600,t:Text"));
-    S.Of<UTC_State>().UTC_Offset_Hours = -90; // signed minutes
+    UTC().UTC_Offset_Hours = -90; // signed minutes
     EXPECT_EQ(Header(), Block("s:Brinewright,d:Listener 1,d:Listener 2,n:14,c:1767256200,t:Text"));
 
-    S.Of<IEC450_State>().UdPbC_Header_Enabled = true;
-    S.Of<IEC450_State>().Use_s_Tag = S.Of<IEC450_State>().Use_d_Tag = S.Of<IEC450_State>().Use_d2_Tag =
-        S.Of<IEC450_State>().Use_n_Tag = S.Of<IEC450_State>().Use_c_Tag = false;
+    IEC450().UdPbC_Header_Enabled = true;
+    IEC450().Use_s_Tag = IEC450().Use_d_Tag = IEC450().Use_d2_Tag = IEC450().Use_n_Tag = IEC450().Use_c_Tag =
+        false;
     EXPECT_EQ(Header(), std::string("UdPbC\0", 6) + Block("t:Text"));
-    S.Of<IEC450_State>().t_Tag = "";
+    IEC450().t_Tag = "";
     EXPECT_EQ(Header(), std::string("UdPbC\0", 6) + Block("t:"));
 
     // Without any tag the opening backslash goes, and the checksum of nothing stands there.
-    S.Of<IEC450_State>().Use_t_Tag = false;
+    IEC450().Use_t_Tag = false;
     EXPECT_EQ(Header(), std::string("UdPbC\0*XX\\", 10));
-    S.Of<IEC450_State>().UdPbC_Header_Enabled = false;
+    IEC450().UdPbC_Header_Enabled = false;
     EXPECT_EQ(Header(), "*XX\\");
 }
 
 TEST_F(Tag_Block, Counters_Run_By_Port_And_Start_Over) {
-    S.Of<IEC450_State>().Use_n_Tag = S.Of<IEC450_State>().Use_g_Tag = true;
+    IEC450().Use_n_Tag = IEC450().Use_g_Tag = true;
     for (int N = 1; N <= 999; ++N) ASSERT_EQ(Header(1), Block("n:" + std::to_string(N)));
     EXPECT_EQ(Header(1), Block("n:1"));
     EXPECT_EQ(Header(28), Block("n:1")); // every port has its own
-    EXPECT_EQ(S.Of<Link_State>().Transmit.UdPbC_Group[1],
+    EXPECT_EQ(Link().Transmit.UdPbC_Group[1],
               0); // sentences that stand alone leave the groups alone
 
     for (int Group = 1; Group <= 99; ++Group)
         for (int Line = 1; Line <= 3; ++Line) Header(28, Line, 3);
-    EXPECT_EQ(S.Of<Link_State>().Transmit.UdPbC_Sequence[28], 298);
+    EXPECT_EQ(Link().Transmit.UdPbC_Sequence[28], 298);
     EXPECT_EQ(Header(28, 1, 3), Block("n:299,g:1-3-1"));
     EXPECT_EQ(Header(28, 2, 3), Block("n:300,g:2-3-1"));
     EXPECT_EQ(Header(28, 3, 3), Block("n:301,g:3-3-1"));
@@ -82,20 +72,19 @@ TEST_F(Tag_Block, Counters_Run_By_Port_And_Start_Over) {
 }
 
 TEST_F(Tag_Block, Stands_In_Front_Of_Every_Sentence_And_Faults_Act_On_The_Whole) {
-    S.Of<IEC450_State>().IEC450_Enabled = S.Of<IEC450_State>().UdPbC_Header_Enabled =
-        S.Of<IEC450_State>().Use_t_Tag = true;
-    S.Of<IEC450_State>().t_Tag = "A";
+    IEC450().IEC450_Enabled = IEC450().UdPbC_Header_Enabled = IEC450().Use_t_Tag = true;
+    IEC450().t_Tag = "A";
     Use({18, 28});
     Open_Form(1);
     for (const int Port : {18, 28, 29, -5, 0}) {
-        S.Of<Link_State>().Sensor_Table[1].Port = static_cast<std::int16_t>(Port);
+        Link().Sensor_Table[1].Port = static_cast<std::int16_t>(Port);
         Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", *Open_One<frmPosition>(Sim, 1)); });
     }
     const std::string Framed = std::string("UdPbC\0", 6) + Block("t:A") + "$GPHDT*5A\r\n";
     EXPECT_EQ(Sent_On("UDP 255.255.255.255:60001"), Texts{Framed});
     EXPECT_EQ(Sent_On("UDP 255.255.255.255:60011"), Texts{Framed});
-    Sim.State.Of<Fault_State>().Fault_Faulty_Checksum = true;
-    S.Of<Link_State>().Sensor_Table[1].Port = 18;
+    Fault().Fault_Faulty_Checksum = true;
+    Link().Sensor_Table[1].Port = 18;
     Sim.Windows.Event([&] { Send_Sentence(Sim, "$GPHDT*5A", *Open_One<frmPosition>(Sim, 1)); });
     EXPECT_EQ(World.Sent.back().second, std::string("UdPbC\0", 6) + Block("t:A") + "$GPHDT*5F\r\n");
     EXPECT_EQ(World.Sent.size(), 3u);

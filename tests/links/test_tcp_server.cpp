@@ -1,5 +1,4 @@
 #include "links/tcp_status/frm_tcpip.hpp"
-#include "shell/state/link_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -9,11 +8,7 @@ namespace {
 struct TCP : testing::Test, Virtual_Simulator {
     void SetUp() override { Use({17}); }
     frmTCPIP& F() { return *Open_One<frmTCPIP>(Sim); }
-    Texts History() {
-        Texts Entries;
-        for (const auto& Item : F().cmbConnections.Items()) Entries.push_back(Item.Text);
-        return Entries;
-    }
+    Texts History() { return Entries(F().cmbConnections); }
     int State(std::size_t Element) { return Sim.Links.WinsockArray.at(Element)->State; }
     // The peer of element Number goes away.
     void Leave(std::size_t Number) { World.Clients[Number]->On_Close(); }
@@ -21,20 +16,16 @@ struct TCP : testing::Test, Virtual_Simulator {
 
 TEST_F(TCP, The_Window_At_First) {
     EXPECT_EQ(World.Log, Texts{"listen 8040"});
-    EXPECT_EQ(F().Caption, "TCP/IP Status");
     EXPECT_EQ(*F().lblStatus.Caption, "Listening for connection");
     EXPECT_EQ(*F().lblIP.Caption, "127.0.0.1");
     EXPECT_EQ(*F().lblPort.Caption, "8040");
-    EXPECT_FALSE(*F().cmbConnections.Visible);
-    EXPECT_EQ(F().Width, 7830);
-    EXPECT_EQ(F().Height, 1590);
     EXPECT_NE(Sim.Windows.Active_Form, &F()); // shown without focus
     F().Left = 1234;
     F().Top = -40000; // outside of what the state can hold
     Close(F());
-    EXPECT_EQ(Sim.State.Of<Link_State>().frmTCPIP_Left, 1234);
-    EXPECT_LE(Sim.State.Of<Link_State>().frmTCPIP_Top, -32767);
-    Sim.State.Of<Link_State>().frmTCPIP_Top = 77;
+    EXPECT_EQ(Link().frmTCPIP_Left, 1234);
+    EXPECT_LE(Link().frmTCPIP_Top, -32767);
+    Link().frmTCPIP_Top = 77;
     Init();
     EXPECT_EQ(F().Left, 1234);
     EXPECT_EQ(F().Top, 77);
@@ -43,8 +34,8 @@ TEST_F(TCP, The_Window_At_First) {
 
 TEST_F(TCP, Clients_Come_And_Go) {
     World.Connect("10.0.0.7");
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 1);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 1);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 1);
+    EXPECT_EQ(Link().TCP_Client_Count, 1);
     EXPECT_EQ(State(0), 7);
     EXPECT_EQ(State(1), 2);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
@@ -63,8 +54,8 @@ TEST_F(TCP, Clients_Come_And_Go) {
 
     Run_s(1);
     Leave(0);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 1);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 2);
+    EXPECT_EQ(Link().TCP_Client_Count, 1);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 2);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
     EXPECT_EQ(F().cmbConnections.Text(),
               " 1-Connected to IP : 10.0.0.7 - 01.01.2026 10:00:00 - 01.01.2026 10:01:06 disconnected");
@@ -78,7 +69,7 @@ TEST_F(TCP, Clients_Come_And_Go) {
     EXPECT_EQ(F().cmbConnections.List_Index(), 2);
     Leave(1);
     Leave(2);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 0);
+    EXPECT_EQ(Link().TCP_Client_Count, 0);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 0 clients");
     EXPECT_EQ(History().size(), 3u);
     Send("$C", 17); // nobody there, and no failure
@@ -93,7 +84,7 @@ TEST_F(TCP, A_Client_That_Does_Not_Read_Disturbs_Nobody) {
     World.Clients[0]->Reads = false;
     for (int I = 0; I < 5; ++I) Send("$A", 17);
     EXPECT_EQ(Sent_On("TCP 1").size(), 5u);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 2);
+    EXPECT_EQ(Link().TCP_Client_Count, 2);
     EXPECT_TRUE(Told.empty());
 }
 
@@ -102,8 +93,8 @@ TEST_F(TCP, Timers_Of_Clients_That_Have_Gone_Stop) {
         World.Connect();
         if (I % 3) Leave(static_cast<std::size_t>(I));
     }
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 300);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 100);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 300);
+    EXPECT_EQ(Link().TCP_Client_Count, 100);
     Send("$A", 17);
     EXPECT_EQ(World.Sent.size(), 100u);
     Run_s(2.1);
@@ -119,15 +110,15 @@ TEST_F(TCP, Timers_Of_Clients_That_Have_Gone_Stop) {
 
 TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
     World.Connect("10.0.0.7");
-    Sim.State.Of<Link_State>().TCP_Port = 4001;
+    Link().TCP_Port = 4001;
     Set_Time_Of_Day(40000);
     World.Log.clear();
     Init();
     EXPECT_EQ(World.Log, (Texts{"listen close", "listen 4001"}));
     EXPECT_EQ(*F().lblPort.Caption, "4001");
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count,
+    EXPECT_EQ(Link().TCP_Client_Count,
               1); // closing the element that listens is no client going away
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Max_Index, 1);
+    EXPECT_EQ(Link().TCP_Client_Max_Index, 1);
     EXPECT_EQ(*F().lblStatus.Caption, "Connected to 1 clients");
     EXPECT_EQ(History().back(), " 1-Connected to IP : 10.0.0.7 - 01.01.2026 11:06:40");
     EXPECT_EQ(F().cmbConnections.List_Index(), 0);
@@ -136,10 +127,10 @@ TEST_F(TCP, Listening_Again_Keeps_The_Clients) {
     EXPECT_EQ(Sent_On("TCP 0").size() + Sent_On("TCP 1").size(), 2u);
 
     // Without the link in use all of it ends.
-    Sim.State.Of<Link_State>().Port_Table[17].Enabled = false;
+    Link().Port_Table[17].Enabled = false;
     Init();
     EXPECT_FALSE(World.Listener->Listening);
-    EXPECT_EQ(Sim.State.Of<Link_State>().TCP_Client_Count, 0);
+    EXPECT_EQ(Link().TCP_Client_Count, 0);
     Send("$B", 17);
     EXPECT_EQ(World.Sent.size(), 2u);
 }
@@ -178,11 +169,11 @@ TEST(TCP_Failure, A_Port_That_Is_Taken_Is_Told_And_The_Rest_Goes_On) {
     V.Send("$A", 17);
     EXPECT_EQ(V.Sent_On("TCP 0").size(), 1u);
     V.World.Failures["listen"] = "Permission denied";
-    V.Sim.State.Of<Link_State>().TCP_Port = 80;
+    V.Link().TCP_Port = 80;
     V.Init();
     V.Send("$A", 17); // the client stays
     EXPECT_EQ(V.Sent_On("TCP 0").size(), 2u);
-    EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Client_Count, 1);
+    EXPECT_EQ(V.Link().TCP_Client_Count, 1);
 }
 
 } // namespace

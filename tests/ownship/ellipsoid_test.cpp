@@ -1,18 +1,14 @@
 #include "ownship/geodesy/ellipsoid.hpp"
 #include "ownship/geodesy/geodetic_constants.hpp"
-#include "tests/ownship/golden_rows.hpp"
+#include "tests/ownship/geodesy_bench.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-#include <set>
 
 namespace brinewright {
 namespace {
-
-constexpr double Rad = Degrees_To_Radians;
-constexpr double Untouched = -77;
 
 struct Inverse_Result {
     double Distance_m = Untouched;
@@ -42,15 +38,6 @@ Position Direct(double Lat_deg, double Lon_deg, double Distance_m, double Azimut
     Ellipsoid_Direct(Lat_deg * Rad, Lon_deg * Rad, Distance_m, Azimuth_deg * Rad, P.Lat_rad, P.Lon_rad,
                      WGS84_Semi_Major_m, WGS84_Eccentricity_Squared);
     return P;
-}
-
-TEST(Ellipsoid, Every_Golden_Table_Is_Read) {
-    std::set<std::string> Names;
-    for (const auto& Entry : std::filesystem::directory_iterator(Geodesy_Folder()))
-        Names.insert(Entry.path().filename().string());
-    Names.erase("__pycache__");
-    EXPECT_EQ(Names, (std::set<std::string>{"ellipsoid_direct.txt", "ellipsoid_inverse.txt", "generate.py",
-                                            "rhumb.txt"}));
 }
 
 // The series ends with f squared, so that what is left of each angle and each relative distance is f cubed,

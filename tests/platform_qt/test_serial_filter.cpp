@@ -22,7 +22,7 @@ std::string Shown(const std::vector<Line_Item>& Items) {
     return Text;
 }
 
-struct Case {
+struct Filter_Case {
     const char* What;
     std::string Bytes;
     bool Parity_Checked;
@@ -30,7 +30,7 @@ struct Case {
     std::string Expected;
 };
 
-const Case Cases[] = {
+const Filter_Case Filter_Cases[] = {
     {"plain", "$GPGGA\r\n", false, {}, "$GPGGA\r\n"},
     {"a byte 377", "a\377\377b", false, {}, "a\377b"},
     {"a break between data", std::string("ab\377\0\0cd", 7), false, {}, "ab<1001>cd"},
@@ -50,7 +50,7 @@ const Case Cases[] = {
 } // namespace
 
 TEST(Serial_Filter, Marks_and_counters_become_data_and_events_however_the_bytes_are_cut) {
-    for (const Case& Each : Cases) {
+    for (const Filter_Case& Each : Filter_Cases) {
         for (std::size_t Piece = 1; Piece <= std::max<std::size_t>(Each.Bytes.size(), 1); ++Piece) {
             Serial_Line_Filter Filter;
             Filter.Parity_Checked = Each.Parity_Checked;

@@ -4,7 +4,9 @@
 
 #include <charconv>
 #include <filesystem>
+#include <fstream>
 #include <map>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -51,4 +53,21 @@ struct Golden_Row {
 // Composes what a row tells.
 using Golden_Reader = std::string (*)(Golden_Row&);
 
-std::vector<Golden_Row> Load_Golden_Rows(const std::filesystem::path& File);
+inline std::vector<Golden_Row> Load_Golden_Rows(const std::filesystem::path& File) {
+    std::vector<Golden_Row> Rows;
+    std::ifstream Stream(File);
+    for (std::string Line; std::getline(Stream, Line);) {
+        Golden_Row Row;
+        std::size_t Start = Line.find('\t');
+        Row.Name = File.stem().string() + ": " + Line.substr(0, Start);
+        for (std::size_t Tab = Line.find('\t', ++Start); Tab != std::string::npos;
+             Tab = Line.find('\t', Start)) {
+            const std::size_t Equals = Line.find('=', Start);
+            Row.Inputs[Line.substr(Start, Equals - Start)] = Line.substr(Equals + 1, Tab - Equals - 1);
+            Start = Tab + 1;
+        }
+        Row.Expected = Line.substr(Start);
+        Rows.push_back(std::move(Row));
+    }
+    return Rows;
+}

@@ -1,6 +1,6 @@
-#include "shell/monitors/traffic/frm_traffic.hpp"
+// The Traffic window, and the recordings that it writes.
 
-#include "shell/state/link_state.hpp"
+#include "shell/monitors/traffic/frm_traffic.hpp"
 #include "shell/transmit/record_format.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
@@ -14,7 +14,7 @@ constexpr const char* VTG = "$GPVTG,33*00";  // and this one is not
 struct Traffic : testing::Test, Virtual_Simulator {
     Traffic() : Virtual_Simulator(45296.5) { // 12:34:56.5
         Use({17, 18});
-        Click(Main_Window(Sim).Item("mnuTraffic"));
+        Choose_Menu("mnuTraffic");
         Told.clear();
     }
     frmTraffic& F() { return *Open_One<frmTraffic>(Sim); }
@@ -22,14 +22,6 @@ struct Traffic : testing::Test, Virtual_Simulator {
     Texts Sentences() {
         Texts All;
         for (int Row = 0; Row < F().hfgTraffic.Rows(); ++Row) All.push_back(Cell(Row, 5));
-        return All;
-    }
-    void Set(Control& Target, const Control_Value& Value) {
-        Sim.Windows.Event([&] { Sim.Windows.User_Set(Target, Value); });
-    }
-    Texts Entries(const Combo_Box& List) const {
-        Texts All;
-        for (const auto& Item : List.Items()) All.push_back(Item.Text);
         return All;
     }
 };
@@ -81,7 +73,7 @@ TEST_F(Traffic, Filters_By_Port_Type_And_Text) {
 
     // A link that comes into use, and one whose number has changed.
     Virtual_Simulator::Set_Up_Link(Sim.State, 19);
-    Sim.State.Of<Link_State>().UDP_Port_Number[0] = 61000;
+    Link().UDP_Port_Number[0] = 61000;
     Init();
     Send(GGA, 19);
     Sim.Told.Links_Chosen.Tell();
@@ -111,9 +103,9 @@ TEST_F(Traffic, Pauses_Clears_And_Ends_With_Its_Window) {
     EXPECT_FALSE(*Main_Window(Sim).Item("mnuTraffic").Checked);
     Send(GGA, 17);
     EXPECT_EQ(Left.back().second, std::string(GGA) + "\r\n"); // the other listener still hears
-    Click(Main_Window(Sim).Item("mnuTraffic"));
+    Choose_Menu("mnuTraffic");
     EXPECT_EQ(F().hfgTraffic.Rows(), 0);
-    Click(Main_Window(Sim).Item("mnuTraffic")); // no second ear
+    Choose_Menu("mnuTraffic"); // no second ear
     Send(GGA, 17);
     EXPECT_EQ(F().hfgTraffic.Rows(), 1);
 }
@@ -232,6 +224,67 @@ TEST_F(Traffic, The_Choice_Moves_With_Its_Sentence_Until_That_Is_Gone) {
     Send(GGA, 17);
     EXPECT_EQ(F().hfgTraffic.Selected_Row(), -1);
     EXPECT_EQ(F().hfgFields.Rows(), Fields); // still to be read
+}
+
+constexpr std::int64_t Start_us = 1'767'225'600'000'000; // 2026-01-01 00:00:00
+
+std::string Line(std::int64_t Local_us, int Port, const std::string& Text) {
+    std::string Out;
+    Record_Writer Writer;
+    Writer.Append(Out, Local_us, Port, Text);
+    return Out;
+}
+
+TEST(Record_Format, Lines_As_Described) {
+    EXPECT_EQ(Line(Start_us + 150'000, 17, "$GPGGA,1*5A\r\n"),
+              "2026-01-01T00:00:00.150000 17 $GPGGA,1*5A\\r\\n\n");
+    EXPECT_EQ(Line(Start_us + 86'399'000'007, 1, std::string("UdPbC\0\\ \xB0\x7F\t", 11)),
+              "2026-01-01T23:59:59.000007 1 UdPbC\\x00\\\\ \\xB0\\x7F\\x09\n");
+    EXPECT_EQ(Line(-1, 18, ""), "1969-12-31T23:59:59.999999 18 \n");
+}
+
+TEST(Record_Format, Whatever_Is_Written_Reads_Back) {
+    std::string Every_Byte;
+    for (int Code = 0; Code < 256; ++Code) Every_Byte += static_cast<char>(Code);
+    std::string Out;
+    Record_Writer Writer; // one writer over seconds and days
+    struct Entry {
+        std::int64_t Local_us;
+        int Port;
+        std::string Text;
+    };
+    const std::vector<Entry> Entries{{Start_us, 28, Every_Byte},     {Start_us + 999'999, 1, "\\x41\\"},
+                                     {Start_us + 1'000'000, 16, ""}, {Start_us - 1, 0, " two  blanks "},
+                                     {-1'500'000, 17, "\\\\n"},      {0, 18, Every_Byte + Every_Byte}};
+    for (const Entry& E : Entries) Writer.Append(Out, E.Local_us, E.Port, E.Text);
+    std::size_t Place = 0;
+    for (const Entry& E : Entries) {
+        const std::size_t End = Out.find('\n', Place);
+        const auto Read = Parse_Record(std::string_view(Out).substr(Place, End - Place));
+        Place = End + 1;
+        ASSERT_TRUE(Read);
+        EXPECT_EQ(Read->Local_us, E.Local_us);
+        EXPECT_EQ(Read->Port, E.Port);
+        EXPECT_EQ(Read->Text, E.Text);
+    }
+    EXPECT_EQ(Place, Out.size());
+}
+
+TEST(Record_Format, Other_Lines_Are_Refused) {
+    const std::string Good = "2026-01-01T00:00:00.150000 17 A\\x41";
+    ASSERT_EQ(Parse_Record(Good)->Text, "AA");
+    // Cut anywhere up to the text, and within the escape, it is no record.
+    for (std::size_t Length = 0; Length < Good.size(); ++Length) {
+        const bool Whole = Length == 30 || Length == 31; // the text empty or "A"
+        EXPECT_EQ(Parse_Record(Good.substr(0, Length)).has_value(), Whole) << Length;
+    }
+    for (const char* Bad : {"2026-02-29T00:00:00.000000 1 A", "2026-01-01T24:00:00.000000 1 A",
+                            "2026-01-01T00:60:00.000000 1 A", "2026-01-01T00:00:60.000000 1 A",
+                            "2026-13-01T00:00:00.000000 1 A", "2026-01-01 00:00:00.000000 1 A",
+                            "2026-01-01T00:00:00.00000x 1 A", "2026-01-01T00:00:00.000000 x A",
+                            "2026-01-01T00:00:00.000000  1 A", "2026-01-01T00:00:00.000000 1 \\q",
+                            "2026-01-01T00:00:00.000000 1 \\xG0", "2026-01-01T00:00:00.000000 99999999999 A"})
+        EXPECT_FALSE(Parse_Record(Bad)) << Bad;
 }
 
 } // namespace

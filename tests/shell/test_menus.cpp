@@ -1,6 +1,4 @@
 #include "ownship/ship/frm_ship.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -11,13 +9,11 @@ constexpr const char* Saved_Box = "Setup saved as /data/Brinewright.ini";
 // Started in Sensor mode on a setup without windows.
 struct Menus : testing::Test, Virtual_Simulator {
     void SetUp() override {
-        Load_Default_Data(Setup, All_Windows());
-        Setup.Of<Shell_State>().Mode = "Sensor";
         Setup.Of<Link_State>().Comport_Count = 1;
         Start(Setup);
     }
     frmMain& Main() { return Main_Window(Sim); }
-    Simulator_State Setup;
+    Simulator_State Setup = Default_Setup();
 };
 
 TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
@@ -27,13 +23,13 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     const std::weak_ptr<Form> Old = Sim.Windows.Forms[2];
     ASSERT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
     EXPECT_FALSE(*Open_One<frmPosition>(Sim, 1)->lblShipControl.Visible);
-    Click(Main().Item("mnuMode", 2)); // checked already: nothing at all
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    Choose_Menu("mnuMode", 2); // checked already: nothing at all
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_EQ(Old.lock().get(), Open_One<frmPosition>(Sim, 1));
 
     Open_One<frmPosition>(Sim, 1)->Set_Place(11, 12, 13, 14);
-    Click(Main().Item("mnuMode", 1));
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
+    Choose_Menu("mnuMode", 1);
+    EXPECT_EQ(Shell().Mode, "Ship");
     EXPECT_TRUE(*Main().Item("mnuMode", 1).Checked);
     EXPECT_FALSE(*Main().Item("mnuMode", 2).Checked);
     EXPECT_TRUE(Old.expired());
@@ -44,47 +40,34 @@ TEST_F(Menus, A_Change_Of_Mode_Loads_The_Open_Windows_Anew) {
     }
     EXPECT_EQ(Open_One<frmPosition>(Sim, 1)->Left, 11);
     EXPECT_EQ(Sim.Windows.Active_Form, static_cast<Form*>(Open_One<frmShip>(Sim)));
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0); // they stand again
+    EXPECT_EQ(Shell().Open_Form_Count, 0); // they stand again
     EXPECT_TRUE(Open_One<frmMonitor>(Sim));
 
     // The list of kept windows is left as it is, also when it is full.
-    Sim.State.Of<Shell_State>().Open_Form_Count = 20;
-    Sim.State.Of<Shell_State>().Open_Form_List[20].Name = "the last";
-    Click(Main().Item("mnuMode", 2));
+    Shell().Open_Form_Count = 20;
+    Shell().Open_Form_List[20].Name = "the last";
+    Choose_Menu("mnuMode", 2);
     EXPECT_EQ(Take_Boxes(), Texts{});
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 20);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_List[20].Name, "the last");
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Sensor");
+    EXPECT_EQ(Shell().Open_Form_Count, 20);
+    EXPECT_EQ(Shell().Open_Form_List[20].Name, "the last");
+    EXPECT_EQ(Shell().Mode, "Sensor");
     for (const int I : {1, 2}) {
         ASSERT_TRUE(Open_One<frmPosition>(Sim, I));
         EXPECT_FALSE(*Open_One<frmPosition>(Sim, I)->lblShipControl.Visible);
     }
 }
 
-TEST_F(Menus, A_Second_Choice_Of_A_Window_Gives_It_The_Focus) {
-    Open_Form(1);
-    Open_Form(2);
-    Click(Main().Item("mnuOpenForm", 1));
-    EXPECT_EQ(Sim.Windows.Active_Form, Open_One<frmPosition>(Sim, 1));
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Index, 1);
-    EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
-    Open_Form(0); // a setup can name any window
-    Open_Form(12);
-    EXPECT_EQ(Sim.Windows.Forms.size(), 3u);
-    EXPECT_TRUE(Told.empty());
-}
-
 TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
     Open_Form(1);
     Open_Form(2);
     for (int Save = 1; Save <= 10; ++Save) {
-        Click(Main().Item("mnuFileSave"));
+        Choose_Menu("mnuFileSave");
         EXPECT_EQ(Take_Boxes(), Texts{Saved_Box});
         EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_Count, 2 * Save);
-        EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 2 * Save);
+        EXPECT_EQ(Shell().Open_Form_Count, 2 * Save);
     }
     const std::string Before = Disk.Content.at(Setup_Name);
-    Click(Main().Item("mnuFileSave"));
+    Choose_Menu("mnuFileSave");
     EXPECT_EQ(Take_Boxes(), Texts{"Subscript out of range"});
     EXPECT_EQ(Disk.Content.at(Setup_Name), Before);
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
@@ -93,7 +76,7 @@ TEST_F(Menus, Save_Adds_The_Windows_Every_Time_Until_The_List_Is_Full) {
 TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
     Open_Form(2);
     for (int Save = 1; Save <= 2; ++Save) {
-        Click(Main().Item("mnuFileSaveAs"));
+        Choose_Menu("mnuFileSaveAs");
         ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
         const File_Dialog& Dialog = Sim.Windows.File_Dialogs[0];
         EXPECT_TRUE(Dialog.Save);
@@ -105,17 +88,17 @@ TEST_F(Menus, Save_As_Asks_And_Starts_The_List_Anew) {
         EXPECT_EQ(Take_Boxes(), Texts{"Setup saved as /tmp/mine.ini"});
         EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_Count, 1);
         EXPECT_EQ(Saved("/tmp/mine.ini").Of<Shell_State>().Open_Form_List[1].Index, 2);
-        EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+        EXPECT_EQ(Shell().Open_Form_Count, 0);
     }
-    Click(Main().Item("mnuFileSaveAs"));
+    Choose_Menu("mnuFileSaveAs");
     Answer_File("");
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_TRUE(Told.empty());
 
     Disk.Refuse_Writing = true;
-    Click(Main().Item("mnuFileSaveAs"));
+    Choose_Menu("mnuFileSaveAs");
     Answer_File("/tmp/mine.ini");
-    Click(Main().Item("mnuFileSave"));
+    Choose_Menu("mnuFileSave");
     EXPECT_EQ(Take_Boxes(), (Texts{"Disk full", "Disk full"}));
 }
 
@@ -123,7 +106,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Use({3, 10, 11, 17, 18});
     Open_Form(1);
     World.Log.clear();
-    Click(Main().Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     ASSERT_EQ(Sim.Windows.File_Dialogs.size(), 1u);
     EXPECT_FALSE(Sim.Windows.File_Dialogs[0].Save);
     EXPECT_EQ(Sim.Windows.File_Dialogs[0].Title, "Open Setup File");
@@ -134,7 +117,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
 
     // A file that is not there changes nothing.
-    Click(Main().Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Answer_File("/tmp/none.ini");
     EXPECT_EQ(Take_Boxes(), Texts{"File /tmp/none.ini do not exist."});
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 1));
@@ -145,24 +128,22 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Other.Of<Shell_State>().Mode = "Ship";
     Other.Of<Link_State>().Comport_Count = 0;
     Other.Of<Link_State>().Sensor_Table[1].Name = "As in the file";
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {
-        "frmPosition", 2, 210, 220, 5230, 7240};
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmShip", 0, 1,
-                                                                                         2,         3, 4};
+    Add_Window(Other, {"frmPosition", 2, 210, 220, 5230, 7240});
+    Add_Window(Other, {"frmShip", 0, 1, 2, 3, 4});
     Disk.Content["/tmp/other.ini"] = Write_Setup(Other, All_Windows());
     const auto Before_us = Now_us();
-    Click(Main().Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Answer_File("/tmp/other.ini");
     EXPECT_EQ(Now_us(), Before_us); // no waits here
     EXPECT_EQ(World.Log, (Texts{"COM 3 close", "COM 10 close"}));
     EXPECT_FALSE(Open_One<frmPosition>(Sim, 1));
     ASSERT_TRUE(Open_One<frmPosition>(Sim, 2));
     EXPECT_EQ(Open_One<frmPosition>(Sim, 2)->Top, 210);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
+    EXPECT_EQ(Shell().Mode, "Ship");
     EXPECT_TRUE(*Main().Item("mnuMode", 1).Checked);
     EXPECT_FALSE(*Main().Item("mnuMode", 2).Checked);
-    EXPECT_EQ(Sim.State.Of<Link_State>().Sensor_Table[1].Name, "As in the file");
+    EXPECT_EQ(Link().Sensor_Table[1].Name, "As in the file");
 
     // With ports they are brought to the new state; port 11 is not used any more and is let go.
     Other.Of<Link_State>().Comport_Count = 2;
@@ -176,7 +157,7 @@ TEST_F(Menus, Open_Replaces_The_Session) {
     Disk.Content["/tmp/other.ini"] = "\"REM UTCOffset\"\r\n99999\r\n";
     Sim.Windows.Event([&] { Open_Setup(Sim, "/tmp/other.ini"); });
     EXPECT_EQ(Take_Boxes(), Texts{"Overflow  Default data loaded"});
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Mode, "Ship");
+    EXPECT_EQ(Shell().Mode, "Ship");
     Stop();
     EXPECT_EQ(Saved().Of<Link_State>().TCP_Port, 8040);
 }

@@ -1,29 +1,19 @@
-#include "gnss/gnss_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "sensors/wind/wind_state.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/sensor_form.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
 
-constexpr int Windows = 10;
-
 // Ship mode as a setup file gives it, with these sensor windows and, first of all, the ship window.
 struct Modes : testing::Test, Virtual_Simulator {
-    void SetUp() override { Load_Default_Data(Setup, All_Windows()); }
     void Begin(const std::string& Mode, std::initializer_list<std::int16_t> Indices) {
         Setup.Of<Shell_State>().Mode = Mode;
         Setup.Of<Link_State>().Comport_Count = 1;
         for (const std::int16_t Index : Indices)
-            Setup.Of<Shell_State>().Open_Form_List[++Setup.Of<Shell_State>().Open_Form_Count] = {
-                Index == 0 ? "frmShip" : "frmX", Index, 100.0F + Index, 200.0F + Index, 4000, 5000};
+            Add_Window(Setup,
+                       {Index == 0 ? "frmShip" : "frmX", Index, 100.0F + Index, 200.0F + Index, 4000, 5000});
         Start(Setup);
     }
     void Send_On_TCP(std::initializer_list<int> Indices) {
@@ -33,12 +23,12 @@ struct Modes : testing::Test, Virtual_Simulator {
     Sensor_Form& Window(int Index) {
         return static_cast<Sensor_Form&>(*Open_Form_Of_Index(Sim, static_cast<std::int16_t>(Index)));
     }
-    std::vector<std::string> Open_Names() const {
-        std::vector<std::string> Names;
+    Texts Open_Names() const {
+        Texts Names;
         for (const auto& F : Sim.Windows.Forms) Names.push_back(F->Path());
         return Names;
     }
-    Simulator_State Setup;
+    Simulator_State Setup = Default_Setup();
 };
 
 TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
@@ -46,7 +36,7 @@ TEST_F(Modes, The_Ship_Window_Opens_Before_The_Sensors_And_Without_A_Wait) {
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmShip", "frmGyro[1]", "frmLog[1]"}));
     EXPECT_EQ(Open_One<frmShip>(Sim)->Left, 200); // its place in the list counts, wherever in it it stands
     EXPECT_EQ(Window(3).Left, 203);
-    EXPECT_EQ(Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    EXPECT_EQ(Shell().Open_Form_Count, 0);
     EXPECT_NEAR(static_cast<double>(Now_us()), 2 * 350'000, 2000);
     EXPECT_TRUE(*Main_Window(Sim).Item("mnuShip").Checked);
     EXPECT_TRUE(*Main_Window(Sim).Item("mnuShip").Enabled);
@@ -74,58 +64,45 @@ TEST_F(Modes, In_Sensor_Mode_There_Is_No_Ship_Window) {
     EXPECT_FALSE(Sim.Windows.Usable(Main_Window(Sim).Item("mnuShip")));
 }
 
-TEST_F(Modes, Every_Sensor_Window_Has_Its_Item_Its_Caption_And_Its_Tag) {
+TEST_F(Modes, Every_Sensor_Window_Has_Its_Item) {
     Begin("Sensor", {});
-    const char* const Captions[Windows] = {"GNSS  1    (Global Nav Sat System 1)",
-                                           "GNSS  2    (Global Nav Sat System 2)",
-                                           "Gyro  1",
-                                           "Gyro  2",
-                                           "Log  1",
-                                           "Log  2",
-                                           "Echosounder  1",
-                                           "Echosounder  2",
-                                           "Wind gauge  1",
-                                           "Wind gauge  2"};
-    for (int Index = 1; Index <= Windows; ++Index) {
-        Click(Main_Window(Sim).Item("mnuOpenForm", Index));
-        EXPECT_EQ(Window(Index).Caption, Captions[Index - 1]);
-        EXPECT_EQ(Window(Index).Tag, std::to_string(Index));
+    for (int Index = 1; Index <= 10; ++Index) {
+        Choose_Menu("mnuOpenForm", Index);
         EXPECT_EQ(Window(Index).Instance, Index % 2 == 0 ? 2 : 1);
     }
-    EXPECT_EQ(Window(5).Width, 2800);
     EXPECT_THROW(Main_Window(Sim).Item("mnuOpenForm", 11), std::logic_error);
 
     // Choosing again gives the focus; for an echo sounder to the log of the same number.
-    for (int Index = 1; Index <= Windows; ++Index) {
-        Click(Main_Window(Sim).Item("mnuOpenForm", Index));
+    for (int Index = 1; Index <= 10; ++Index) {
+        Choose_Menu("mnuOpenForm", Index);
         EXPECT_EQ(Sim.Windows.Active_Form, &Window(Index == 7 || Index == 8 ? Index - 2 : Index));
     }
     Close(Window(6));
     EXPECT_EQ(Sim.Windows.Active_Form, &Window(10)); // it stays where it was
     Close(Window(10));
     EXPECT_EQ(Sim.Windows.Active_Form, &Window(9)); // the one that was active before
-    Click(Main_Window(Sim).Item("mnuOpenForm", 2));
-    Click(Main_Window(Sim).Item("mnuOpenForm", 8)); // without that log nothing gets it
+    Choose_Menu("mnuOpenForm", 2);
+    Choose_Menu("mnuOpenForm", 8); // without that log nothing gets it
     EXPECT_EQ(Sim.Windows.Active_Form, &Window(2));
     EXPECT_EQ(Sim.Windows.Forms.size(), 9u);
 }
 
 TEST_F(Modes, Changing_Back_And_Forth_Keeps_All_Windows_And_Places) {
     Begin("Ship", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
-    for (int Index = 1; Index <= Windows; ++Index) Window(Index).Left = static_cast<float>(10 * Index);
+    for (int Index = 1; Index <= 10; ++Index) Window(Index).Left = static_cast<float>(10 * Index);
     for (int Times = 0; Times < 3; ++Times) {
         const std::weak_ptr<Form> Old = Window(9).weak_from_this();
-        Click(Main_Window(Sim).Item("mnuMode", 2));
+        Choose_Menu("mnuMode", 2);
         EXPECT_TRUE(Old.expired());
         EXPECT_FALSE(Open_One<frmShip>(Sim));
         EXPECT_FALSE(*Main_Window(Sim).Item("mnuShip").Checked);
         EXPECT_EQ(Sim.Windows.Forms.size(), 11u);
-        Click(Main_Window(Sim).Item("mnuMode", 1));
+        Choose_Menu("mnuMode", 1);
         ASSERT_TRUE(Open_One<frmShip>(Sim));
         EXPECT_EQ(Sim.Windows.Forms.size(), 12u);
     }
     EXPECT_EQ(Take_Boxes(), Texts{});
-    for (int Index = 1; Index <= Windows; ++Index) EXPECT_EQ(Window(Index).Left, 10 * Index);
+    for (int Index = 1; Index <= 10; ++Index) EXPECT_EQ(Window(Index).Left, 10 * Index);
     Stop();
     EXPECT_EQ(Take_Boxes(), Texts{});
     EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_Count, 11);
@@ -136,19 +113,18 @@ TEST_F(Modes, Opening_A_Setup_Exchanges_The_Ship_Window_Too) {
     Simulator_State Other = Setup;
     Other.Of<Shell_State>().Open_Form_Count = 0;
     Other.Of<Shell_State>().Mode = "Sensor";
-    Other.Of<Shell_State>().Open_Form_List[++Other.Of<Shell_State>().Open_Form_Count] = {"frmWind", 9, 1,
-                                                                                         2,         3, 4};
+    Add_Window(Other, {"frmWind", 9, 1, 2, 3, 4});
     Disk.Content["/other.ini"] = Write_Setup(Other, All_Windows());
-    Click(Main_Window(Sim).Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Answer_File("/other.ini");
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmWind[1]"}));
     EXPECT_FALSE(*Main_Window(Sim).Item("mnuShip").Enabled);
 
-    Click(Main_Window(Sim).Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Answer_File(Setup_Name);
     EXPECT_EQ(Open_Names(), (Texts{"frmMain", "frmShip", "frmGyro[1]"}));
 
-    Click(Main_Window(Sim).Item("mnuFileSave"));
+    Choose_Menu("mnuFileSave");
     EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_List[1].Name, "frmShip");
     EXPECT_EQ(Saved().Of<Shell_State>().Open_Form_List[2].Name, "frmGyro");
 }
@@ -186,7 +162,7 @@ TEST_F(Modes, A_Pause_Ends_With_The_Window_That_Could_End_It) {
     Click(Open_One<frmShip>(Sim)->cmdPause);
     Run_s(3);
     EXPECT_TRUE(Left.empty());
-    Click(Main_Window(Sim).Item("mnuMode", 2));
+    Choose_Menu("mnuMode", 2);
     Run_s(3);
     EXPECT_FALSE(Left.empty());
 }
@@ -213,8 +189,8 @@ TEST_F(Modes, One_Ship_Drives_All_Sensors) {
     EXPECT_EQ(Last_Value(*this, "VHW", 5), 12);
     EXPECT_EQ(Last_Value(*this, "MWV", 3), 12); // no wind: what is felt is the ship's own speed
     // About a nautical mile to the north, and hardly to the east: the mean course is 005.
-    EXPECT_NEAR(Sim.State.Of<Navdata_State>().Nav_Lat, 10 + 0.985 / 60, 0.01 / 60);
-    EXPECT_EQ(Sim.State.Of<GNSS_State>().GNSS_Lat[1], Sim.State.Of<Navdata_State>().Nav_Lat);
+    EXPECT_NEAR(Nav().Nav_Lat, 10 + 0.985 / 60, 0.01 / 60);
+    EXPECT_EQ(GNSS().GNSS_Lat[1], Nav().Nav_Lat);
     EXPECT_EQ(Take_Boxes(), Texts{});
 }
 

@@ -1,5 +1,3 @@
-#include "shell/state/iec450_state.hpp"
-#include "shell/state/link_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -14,9 +12,9 @@ std::string Sentences(std::initializer_list<int> Numbers) {
 TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
     Virtual_Simulator V;
     V.Use({2, 16, 17, 18, 28});
-    V.Sim.State.Of<Link_State>().Port_Table[5].Enabled = true; // ticked, yet not there: it has its pane
-    V.Sim.State.Of<Link_State>().Port_Table[6].Present = true;
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Link().Port_Table[5].Enabled = true; // ticked, yet not there: it has its pane
+    V.Link().Port_Table[6].Present = true;
+    V.Choose_Menu("mnuMonitor");
     ASSERT_TRUE(Open_One<frmMonitor>(V.Sim));
     EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuMonitor").Checked);
     frmMonitor& F = *Open_One<frmMonitor>(V.Sim);
@@ -29,8 +27,6 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
         EXPECT_EQ(*F.txtCom[Port].Visible, Shown) << Port;
         EXPECT_EQ(*F.cmdFreeze[Port].Visible, Shown) << Port;
         EXPECT_EQ(*F.cmdClear[Port].Visible, Shown) << Port;
-        EXPECT_EQ(*F.cmdFreeze[Port].Caption, "Freeze");
-        EXPECT_EQ(*F.cmdClear[Port].Caption, "Clear");
         if (Shown) {
             EXPECT_EQ(*F.lblComport[Port].Caption, Names.at(Port));
         }
@@ -38,12 +34,12 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
 
     // A second choice gives it the focus; closing clears the check.
     V.Open_Form(1);
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Choose_Menu("mnuMonitor");
     EXPECT_EQ(V.Sim.Windows.Active_Form, &F);
     V.Close(F);
     EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuMonitor").Checked);
     V.Send("$M1", 2);
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Choose_Menu("mnuMonitor");
     EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[2].Text(), "");
     V.Send("$M2", 2);
     EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[2].Text(), Sentences({2}));
@@ -52,7 +48,7 @@ TEST(Monitor, A_Group_Of_Controls_For_Each_Enabled_Link) {
 TEST(Monitor, A_Pane_Starts_Over_With_Every_Fourth_Sentence) {
     Virtual_Simulator V;
     V.Use({2, 18});
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
+    V.Choose_Menu("mnuMonitor");
     frmMonitor& F = *Open_One<frmMonitor>(V.Sim);
     const auto Expect_After = [&](int Number, const std::string& Pane) {
         V.Send("$M" + std::to_string(Number), 18);
@@ -83,9 +79,9 @@ TEST(Monitor, A_Pane_Starts_Over_With_Every_Fourth_Sentence) {
 TEST(Monitor, The_NUL_Of_The_Header_Becomes_A_Blank) {
     Virtual_Simulator V;
     V.Use({18});
-    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuMonitor"));
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Link().Extended_Monitor_Port = 18;
+    V.Choose_Menu("mnuMonitor");
+    V.Choose_Menu("mnuExtendedMonitor");
     const std::string Framed("UdPbC\0\\s:A*11\\$M", 16);
     const auto Shown = [&](const std::string& Text) {
         V.Click(Open_One<frmMonitor>(V.Sim)->cmdClear[18]);
@@ -96,22 +92,22 @@ TEST(Monitor, The_NUL_Of_The_Header_Becomes_A_Blank) {
                   Open_One<frmMonitor>(V.Sim)->txtCom[18].Text());
         return Open_One<frmMonitor>(V.Sim)->txtCom[18].Text();
     };
-    V.Sim.State.Of<IEC450_State>().UdPbC_Header_Enabled = true;
+    V.IEC450().UdPbC_Header_Enabled = true;
     EXPECT_EQ(Shown(Framed), Framed + "\r\n");
-    V.Sim.State.Of<IEC450_State>().IEC450_Enabled = true;
+    V.IEC450().IEC450_Enabled = true;
     EXPECT_EQ(Shown(Framed), "UdPbC \\s:A*11\\$M\r\n");
     EXPECT_EQ(Shown("UdP"), "UdP\r\n");       // five characters have no sixth
     EXPECT_EQ(Shown("$GPGGA"), "$GPGG \r\n"); // whatever it is
-    V.Sim.State.Of<IEC450_State>().UdPbC_Header_Enabled = false;
+    V.IEC450().UdPbC_Header_Enabled = false;
     EXPECT_EQ(Shown(Framed), Framed + "\r\n");
 }
 
 TEST(Monitor, A_Pane_That_No_Count_Empties_Stays_Bounded) {
     Virtual_Simulator V;
     V.Use({18});
-    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
-    V.Sim.State.Of<Link_State>().Extended_Monitor_Lines = 0;
+    V.Link().Extended_Monitor_Port = 18;
+    V.Choose_Menu("mnuExtendedMonitor");
+    V.Link().Extended_Monitor_Lines = 0;
     const std::string Long(5000, 'x');
     for (int I = 0; I < 100; ++I) V.Send(Long, 18);
     EXPECT_LE(Open_One<frmExtendedMonitor>(V.Sim)->txtOutput.Text().size(), 65536u);
@@ -121,59 +117,50 @@ TEST(Monitor, A_Pane_That_No_Count_Empties_Stays_Bounded) {
 TEST(Extended_Monitor, Offers_The_Links_In_Use) {
     Virtual_Simulator V;
     V.Use({2, 17, 18, 28});
-    V.Sim.State.Of<Link_State>().Port_Table[5].Enabled = true;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Link().Port_Table[5].Enabled = true;
+    V.Choose_Menu("mnuExtendedMonitor");
     frmExtendedMonitor* F = Open_One<frmExtendedMonitor>(V.Sim);
     EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuExtendedMonitor").Checked);
-    EXPECT_EQ(F->Caption, "Extended Comport Monitor");
-    EXPECT_EQ(*F->lblSystem.Caption, "Comport");
-    EXPECT_EQ(*F->lblOutput.Caption, "TX - Output");
-    EXPECT_EQ(*F->lblInput.Caption, "RX - Input");
-    EXPECT_EQ(*F->cmdFreeze.Caption, "Freeze");
-    EXPECT_EQ(*F->cmdClear.Caption, "Clear");
     EXPECT_EQ(F->cmbComPort.Text(), "Select comport");
-    std::vector<std::pair<std::string, int>> Links;
-    for (const auto& Item : F->cmbComPort.Items()) Links.emplace_back(Item.Text, Item.Data);
-    EXPECT_EQ(Links, (std::vector<std::pair<std::string, int>>{
-                         {"COM 2", 2}, {"TCP/IP", 17}, {"UDP 60001 Port", 18}, {"UDP 60011 Port", 28}}));
+    EXPECT_EQ(Entries(F->cmbComPort), (Texts{"COM 2", "TCP/IP", "UDP 60001 Port", "UDP 60011 Port"}));
 
     F->txtOutput.Set_Text("old");
     F->txtInput.Set_Text("old");
     F->cmbComPort.Set_List_Index(1);
-    EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Port, 17);
+    EXPECT_EQ(V.Link().Extended_Monitor_Port, 17);
     EXPECT_EQ(F->txtOutput.Text(), "");
     EXPECT_EQ(F->txtInput.Text(), "TCP/IP Input not implemented");
     F->cmbComPort.Set_List_Index(3);
-    EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Port, 28);
+    EXPECT_EQ(V.Link().Extended_Monitor_Port, 28);
     EXPECT_EQ(F->txtInput.Text(), "");
 
     V.Close(*F);
     EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuExtendedMonitor").Checked);
     V.Send("$M1", 28);
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     F = Open_One<frmExtendedMonitor>(V.Sim);
     EXPECT_EQ(F->cmbComPort.Text(), "UDP 60011 Port");
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Choose_Menu("mnuExtendedMonitor");
     EXPECT_EQ(V.Sim.Windows.Active_Form, F);
     V.Close(*F);
-    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 5;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Link().Extended_Monitor_Port = 5;
+    V.Choose_Menu("mnuExtendedMonitor");
     EXPECT_EQ(Open_One<frmExtendedMonitor>(V.Sim)->cmbComPort.Text(), "Select comport");
-    EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Port, 5);
+    EXPECT_EQ(V.Link().Extended_Monitor_Port, 5);
 }
 
 TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
     Virtual_Simulator V;
     V.Use({2, 18});
-    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Link().Extended_Monitor_Port = 18;
+    V.Choose_Menu("mnuExtendedMonitor");
     frmExtendedMonitor& F = *Open_One<frmExtendedMonitor>(V.Sim);
     // A pane of 200 holds none, and every 200 more one; halves go to the even number. Beside the two panes
     // the window holds 1500.
     for (const auto& [Pane, Lines] :
          {std::pair(0, -1), {200, 0}, {500, 2}, {700, 2}, {900, 4}, {1040, 4}, {2000, 9}}) {
         F.Resize(9000, static_cast<float>(1500 + 2 * Pane));
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().Extended_Monitor_Lines, Lines) << Pane;
+        EXPECT_EQ(V.Link().Extended_Monitor_Lines, Lines) << Pane;
     }
 
     F.Resize(9000, 1500 + 2 * 800); // 3 lines
@@ -205,10 +192,10 @@ TEST(Extended_Monitor, Keeps_As_Many_Messages_As_Its_Height_Allows) {
 TEST(Extended_Monitor, Received_Texts_Count_As_One_Line_Each) {
     Virtual_Simulator V;
     V.Use({18});
-    V.Sim.State.Of<Link_State>().Extended_Monitor_Port = 18;
-    V.Click(Main_Window(V.Sim).Item("mnuExtendedMonitor"));
+    V.Link().Extended_Monitor_Port = 18;
+    V.Choose_Menu("mnuExtendedMonitor");
     frmExtendedMonitor& F = *Open_One<frmExtendedMonitor>(V.Sim);
-    V.Sim.State.Of<Link_State>().Extended_Monitor_Lines = 3;
+    V.Link().Extended_Monitor_Lines = 3;
     const auto Expect_After = [&](const std::string& Text, const std::string& Pane) {
         V.Sim.Told.Received.Tell(18, Text);
         EXPECT_EQ(F.txtInput.Text(), Pane);

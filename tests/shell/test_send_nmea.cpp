@@ -1,7 +1,4 @@
 #include "links/tcp_status/frm_tcpip.hpp"
-#include "shell/state/fault_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -19,26 +16,26 @@ TEST(Send_NMEA, Pause_Comes_Before_Everything_And_A_Standing_Box_Drops_As_Well) 
     Open_Window(V.Sim, "frmMonitor");
     V.Send("$A*5A", 1);
     const auto Expect_Nothing_Happens = [&] {
-        const float Last = V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time;
+        const float Last = V.Link().Transmit.Last_Send_Time;
         const auto Passed = V.Now_us();
         const std::string Pane = Open_One<frmMonitor>(V.Sim)->txtCom[1].Text();
         EXPECT_EQ(V.Send("$GPGGA*5A", 1), "$GPGGA*5A");
         EXPECT_EQ(V.Send("$GPGGA*5A", 18), "$GPGGA*5A");
         EXPECT_EQ(V.World.Sent.size(), 1u);
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Split_Remainder, "tail");
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time, Last);
+        EXPECT_EQ(V.Link().Transmit.Split_Remainder, "tail");
+        EXPECT_EQ(V.Link().Transmit.Last_Send_Time, Last);
         EXPECT_EQ(V.Now_us(), Passed);
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Monitor_Line_Count[0], 1);
+        EXPECT_EQ(V.Link().Transmit.Monitor_Line_Count[0], 1);
         EXPECT_EQ(Open_One<frmMonitor>(V.Sim)->txtCom[1].Text(), Pane);
     };
-    V.Sim.State.Of<Link_State>().Transmit.Split_Remainder = "tail";
-    V.Click(Main_Window(V.Sim).Item("mnuOptionsFaultyChecksum"));
-    V.Click(Main_Window(V.Sim).Item("mnuOptionSplittedMsg"));
-    V.Sim.State.Of<Shell_State>().Pause_Active = true;
+    V.Link().Transmit.Split_Remainder = "tail";
+    V.Choose_Menu("mnuOptionsFaultyChecksum");
+    V.Choose_Menu("mnuOptionSplittedMsg");
+    V.Shell().Pause_Active = true;
     Expect_Nothing_Happens();
     EXPECT_EQ(V.Sim.Counts.Dropped_By_Box, 0u);
 
-    V.Sim.State.Of<Shell_State>().Pause_Active = false;
+    V.Shell().Pause_Active = false;
     V.Hold_Boxes = true;
     V.Sim.Windows.Boxes.Show("stands");
     Expect_Nothing_Happens();
@@ -82,7 +79,7 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     Same_Draws.Seed(7);
     const std::string Sentence = "$GPHDT,123.4,T*3A";
 
-    V.Click(Main_Window(V.Sim).Item("mnuOptionCuttedMsg"));
+    V.Choose_Menu("mnuOptionCuttedMsg");
     for (int I = 0; I < 40; ++I)
         EXPECT_EQ(V.Send(Sentence, 18),
                   Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size())) + "\r\n");
@@ -90,27 +87,27 @@ TEST(Send_NMEA, Cut_Then_Split_With_One_Remainder_For_All_Ports) {
     Same_Draws.Draw();
 
     // The checksum is spoilt first, then the cut, then the split of what the cut left; port 0 takes part.
-    V.Click(Main_Window(V.Sim).Item("mnuOptionSplittedMsg"));
-    V.Click(Main_Window(V.Sim).Item("mnuOptionsFaultyChecksum"));
+    V.Choose_Menu("mnuOptionSplittedMsg");
+    V.Choose_Menu("mnuOptionsFaultyChecksum");
     std::string Remainder;
     for (const int Port : {1, 18, 0, 17, 1, 0, 0, 18, 29, 17}) {
         std::string Text = Sentence.substr(0, Drawn_Place(Same_Draws, Sentence.size()));
         const std::size_t Place = Drawn_Place(Same_Draws, Text.size());
         EXPECT_EQ(V.Send(Sentence, Port), Remainder + Text.substr(0, Place) + "\r\n");
         Remainder = Text.substr(Place);
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Split_Remainder, Remainder);
+        EXPECT_EQ(V.Link().Transmit.Split_Remainder, Remainder);
     }
 
     // Without the cut nothing is lost: merged pieces are the sentences run together, checksums spoilt.
-    V.Click(Main_Window(V.Sim).Item("mnuOptionCuttedMsg"));
-    V.Click(Main_Window(V.Sim).Item("mnuOptionsCrLfDisabled"));
+    V.Choose_Menu("mnuOptionCuttedMsg");
+    V.Choose_Menu("mnuOptionsCrLfDisabled");
     std::string Whole = Remainder;
     std::string Pieces;
     for (int I = 0; I < 20; ++I) {
         Whole += "$GPHDT,123.4,T*3F";
         Pieces += V.Send(Sentence, I % 2 ? 1 : 18);
     }
-    EXPECT_EQ(Pieces + V.Sim.State.Of<Link_State>().Transmit.Split_Remainder, Whole);
+    EXPECT_EQ(Pieces + V.Link().Transmit.Split_Remainder, Whole);
 }
 
 TEST(Send_NMEA, Pacing_Is_A_Fresh_Wait_From_The_Moment_Of_Noticing) {
@@ -141,8 +138,7 @@ TEST(Send_NMEA, Pacing_Is_A_Fresh_Wait_From_The_Moment_Of_Noticing) {
                 EXPECT_TRUE(Waited_us > 2000 && Waited_us < 2100) << Waited_us << " at " << C.Time_Of_Day;
             else
                 EXPECT_EQ(Waited_us, 0) << C.Time_Of_Day << " after " << S.Pause_us;
-            EXPECT_EQ(V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time,
-                      Time_Of_Day_s(V.World.Machine_Clock.Local_us()));
+            EXPECT_EQ(V.Link().Transmit.Last_Send_Time, Time_Of_Day_s(V.World.Machine_Clock.Local_us()));
         }
     }
 }
@@ -154,7 +150,7 @@ TEST(Send_NMEA, Every_Port_Number_Finds_Its_Link_Or_None) {
     Open_Window(V.Sim, "frmMonitor");
     Open_Window(V.Sim, "frmExtendedMonitor");
     for (const int Port : {0, 29, 32767, -5, -32768}) {
-        V.Sim.State.Of<Link_State>().Extended_Monitor_Port = static_cast<std::int16_t>(Port);
+        V.Link().Extended_Monitor_Port = static_cast<std::int16_t>(Port);
         V.Send("$A*5A", Port);
     }
     EXPECT_TRUE(V.World.Sent.empty());
@@ -233,8 +229,7 @@ TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {
                  {3605, "01:00:05.0"}};
     for (const auto& C : Cases) {
         V.Set_Time_Of_Day(C.Time_s);
-        V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time =
-            0; // no wait, so that the time stays what it is
+        V.Link().Transmit.Last_Send_Time = 0; // no wait, so that the time stays what it is
         V.Send("$A", 3);
         EXPECT_EQ(*Panel.Caption, std::string("COM 3 : TX ") + C.Text);
     }
@@ -248,7 +243,7 @@ TEST(Send_NMEA, Status_Texts_Come_From_The_Second_Sentence_On) {
     V.Send("$A", 17);
     EXPECT_EQ(Label(), "");
     V.Set_Time_Of_Day(45296.2);
-    V.Sim.State.Of<Link_State>().Transmit.Last_Send_Time = 0;
+    V.Link().Transmit.Last_Send_Time = 0;
     V.Send("$A", 17);
     EXPECT_EQ(Label(), "TCP/IP : TX 12:34:56.2");
 

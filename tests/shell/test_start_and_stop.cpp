@@ -1,27 +1,7 @@
-#include "gnss/gnss_state.hpp"
-#include "radar/radar_state.hpp"
-#include "sensors/echosounder/echo_state.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "sensors/wind/wind_state.hpp"
-#include "shell/state/iec450_state.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
 namespace {
-
-Simulator_State Default_Setup(const std::string& Mode = "Sensor") {
-    Simulator_State S;
-    Load_Default_Data(S, All_Windows());
-    S.Of<Shell_State>().Mode = Mode;
-    return S;
-}
-
-void Add_Window(Simulator_State& S, const Open_Form_Entry& Entry) {
-    S.Of<Shell_State>().Open_Form_List[++S.Of<Shell_State>().Open_Form_Count] = Entry;
-}
 
 // GNSS 1 and 2 on UDP links, each with a GGA every second.
 Simulator_State Two_Windows() {
@@ -54,7 +34,7 @@ TEST(Start, Saved_Windows_Open_One_After_The_Other_In_Their_Places) {
     Virtual_Simulator V;
     V.Start(Setup);
     EXPECT_NEAR(static_cast<double>(V.Now_us()), 700'000, 100);
-    EXPECT_EQ(V.Sim.State.Of<Shell_State>().Open_Form_Count, 0);
+    EXPECT_EQ(V.Shell().Open_Form_Count, 0);
     EXPECT_TRUE(V.Take_Boxes().empty());
     for (const int I : {1, 2}) {
         const frmPosition& W = *Open_One<frmPosition>(V.Sim, I);
@@ -90,15 +70,15 @@ TEST(Start, Without_A_Setup_File) {
                      "The Brinewright will automatic detect available comports. It might take e few seconds. "
                      "Please be pasient!"}));
     EXPECT_TRUE(V.Sim.Windows.Find_Form("frmSetup"));
-    EXPECT_EQ(V.Sim.State.Of<Shell_State>().Mode, "Ship");
+    EXPECT_EQ(V.Shell().Mode, "Ship");
     EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuMode", 1).Checked);
     EXPECT_FALSE(*Main_Window(V.Sim).Item("mnuMode", 2).Checked);
-    EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Port, 8040);
+    EXPECT_EQ(V.Link().TCP_Port, 8040);
     EXPECT_TRUE(V.World.Log.empty());
     EXPECT_EQ(*Main_Window(V.Sim).sbStatusBar[1].Caption, "No comports enabled");
     for (int Port = 1; Port <= 16; ++Port)
         EXPECT_EQ(*Main_Window(V.Sim).sbStatusBar[Port].Visible, Port == 1);
-    EXPECT_EQ(V.Sim.State.Of<Shell_State>().Data_Folder, "/data/");
+    EXPECT_EQ(V.Shell().Data_Folder, "/data/");
     EXPECT_EQ(Main_Window(V.Sim).timer_Sky.Interval_ms(), 10000);
 }
 
@@ -120,15 +100,14 @@ TEST(Start, What_The_Setup_Says_And_What_Is_Repaired) {
     EXPECT_TRUE(*Main_Window(V.Sim).Item("mnuMode", 2).Checked);
     const char* Names[] = {"GNSS1", "GNSS2",      "Gyro1", "Gyro2", "Log", "Echosounder",
                            "ARPA",  "Wind Gauge", "Ninth", "",      ""};
-    for (int Slot = 1; Slot <= 11; ++Slot)
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().Sensor_Table[Slot].Name, Names[Slot - 1]);
+    for (int Slot = 1; Slot <= 11; ++Slot) EXPECT_EQ(V.Link().Sensor_Table[Slot].Name, Names[Slot - 1]);
 
     // A file of one section: all else is zero, but for the talkers.
     Virtual_Simulator Bare;
     Bare.Disk.Content[Setup_Name] = "\"REM Mode\"\r\n\"Sensor\"\r\n";
     Bare.Start();
     EXPECT_TRUE(Bare.Told.empty());
-    EXPECT_EQ(Bare.Sim.State.Of<Link_State>().TCP_Port, 0);
+    EXPECT_EQ(Bare.Link().TCP_Port, 0);
     for (auto* Sim : {&V.Sim, &Bare.Sim}) {
         for (const int I : {1, 2}) {
             EXPECT_EQ(Sim->State.Of<GNSS_State>().GNSS_Talker[I], "GP");
@@ -157,10 +136,10 @@ TEST(Start, Every_Copy_Has_Its_Own_File_And_Caption) {
         V.Disk.Content[C.File] = Write_Setup(Setup, All_Windows());
         V.Start();
         EXPECT_TRUE(V.Told.empty());
-        EXPECT_EQ(V.Sim.State.Of<Link_State>().TCP_Port, 4711);
-        EXPECT_EQ(V.Sim.State.Of<Shell_State>().Instance_Number, C.Instance);
+        EXPECT_EQ(V.Link().TCP_Port, 4711);
+        EXPECT_EQ(V.Shell().Instance_Number, C.Instance);
         EXPECT_EQ(V.Sim.Main->Caption, C.Caption);
-        V.Sim.State.Of<Link_State>().TCP_Port = 4712;
+        V.Link().TCP_Port = 4712;
         V.Stop();
         EXPECT_EQ(V.Saved(C.File).Of<Link_State>().TCP_Port, 4712);
         EXPECT_EQ(V.Disk.Content.size(), 1u);
@@ -194,7 +173,7 @@ TEST(Stop, Windows_Add_Themselves_And_The_Setup_Is_Written) {
     V.Start(Two_Windows());
     Open_One<frmPosition>(V.Sim, 2)->Set_Place(1, 2, 3, 4);
     Open_Window(V.Sim, "frmMonitor");
-    V.Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
+    V.Link().UDP_Remote_Host = "10.1.2.3";
     V.Stop();
     EXPECT_TRUE(V.Sim.Ended);
     EXPECT_TRUE(V.World.Quitting);
@@ -216,7 +195,7 @@ TEST(Stop, Windows_Add_Themselves_And_The_Setup_Is_Written) {
     Virtual_Simulator Kept(0, {"", true, "", 0});
     Kept.Start(Two_Windows());
     const std::string Before = Kept.Disk.Content.at(Setup_Name);
-    Kept.Sim.State.Of<Link_State>().UDP_Remote_Host = "10.1.2.3";
+    Kept.Link().UDP_Remote_Host = "10.1.2.3";
     Kept.Stop();
     EXPECT_TRUE(Kept.Sim.Ended);
     EXPECT_EQ(Kept.Disk.Content.at(Setup_Name), Before);
@@ -243,7 +222,7 @@ TEST(Stop, Whatever_Fails_Is_Told_And_The_Program_Ends) {
     // A full list of windows: told for each window that finds no place, and the rest is saved.
     Virtual_Simulator V;
     V.Start(Two_Windows());
-    V.Sim.State.Of<Shell_State>().Open_Form_Count = 19;
+    V.Shell().Open_Form_Count = 19;
     V.Stop();
     EXPECT_EQ(V.Take_Boxes(), Texts{"Subscript out of range"});
     EXPECT_TRUE(V.Sim.Ended);
@@ -280,12 +259,12 @@ TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
         V.Disk.Content[Setup_Name] = Broken;
         V.Start();
         EXPECT_EQ(V.Take_Boxes(), Texts{"Type mismatch  Default data loaded"});
-        EXPECT_EQ(V.Sim.State.Of<Shell_State>().Mode, "Ship"); // the defaults lie over what had been read
+        EXPECT_EQ(V.Shell().Mode, "Ship"); // the defaults lie over what had been read
         // Another setup that cannot be read does not make the first one forgotten.
         V.Disk.Content["/other.ini"] = Broken;
         V.Sim.Windows.Event([&] { Open_Setup(V.Sim, "/other.ini"); });
         V.Take_Boxes();
-        V.Sim.State.Of<Link_State>().TCP_Port = 4711;
+        V.Link().TCP_Port = 4711;
         V.Stop();
         EXPECT_EQ(V.Disk.Content.at(Setup_Name), Broken);
         EXPECT_EQ(V.Saved(Beside).Of<Link_State>().TCP_Port, 4711);
@@ -299,7 +278,7 @@ TEST(Stop, A_Setup_That_Could_Not_Be_Read_Is_Left_Alone) {
         V.Start();
         V.Click(As ? Main_Window(V.Sim).Item("mnuFileSaveAs") : Main_Window(V.Sim).Item("mnuFileSave"));
         if (As) V.Answer_File(Setup_Name);
-        V.Sim.State.Of<Link_State>().TCP_Port = 4711;
+        V.Link().TCP_Port = 4711;
         V.Stop();
         EXPECT_EQ(V.Saved().Of<Link_State>().TCP_Port, 4711);
         EXPECT_FALSE(V.Disk.Content.contains(Beside));

@@ -2,9 +2,9 @@
 // changes in it and in the state and in what it sends, how its sentences start, pause and start again, and
 // what it makes of a state of garbage.
 
-#include "all_state.hpp"
 #include "tests/support/all_windows.hpp"
 #include "tests/support/golden_text.hpp"
+#include "tests/support/state_leaves.hpp"
 
 #include <charconv>
 #include <map>
@@ -32,19 +32,6 @@ std::string Shown(Number Value) {
     return {Text, std::to_chars(Text, Text + sizeof Text, Value).ptr};
 }
 std::string Shown(std::monostate) { return "-"; }
-
-template <class T, class Leaf>
-void Each_Leaf(const std::string& Path, T& Value, const Leaf& At_Leaf) {
-    if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, std::string>) {
-        At_Leaf(Path, Value);
-    } else if constexpr (requires { Value.Elements; }) {
-        for (int I = T::First_Index; I <= T::Last_Index; ++I)
-            Each_Leaf(Path + "[" + std::to_string(I) + "]", Value[I], At_Leaf);
-    } else {
-        Visit_Record(Value,
-                     [&](const char* Name, auto& Part) { Each_Leaf(Path + "." + Name, Part, At_Leaf); });
-    }
-}
 
 // The variables that user and sensors have to do with; the others are many, or of other tests.
 template <class Leaf>
@@ -369,31 +356,6 @@ TEST_P(Windows, Make_The_Best_Of_Garbage) {
         for (const std::string& Box : V.Take_Boxes()) Out += "    box " + Shown(Box) + "\n";
     }
     Check("garbage");
-}
-
-// What a row says of the setup file is where its choice goes and comes from, for each instance alone.
-TEST_P(Windows, Keep_Their_Sentences_In_The_Setup_File) {
-    for (const Sentence_Row& Row : Class.Sentences)
-        for (int I = 1; I <= Class.Count; ++I) {
-            if (!Row.Kept[I - 1].Section) continue;
-            Simulator_State S;
-            Load_Default_Data(S, All_Windows());
-            const std::int16_t Default = Row.Setting(S, I).Interval;
-            Row.Setting(S, I).Enabled = true;
-            Row.Setting(S, I).Interval = 11;
-            Simulator_State Read;
-            Load_Default_Data(Read, All_Windows());
-            Read_Setup(Write_Setup(S, All_Windows()), Read, All_Windows());
-            for (const Sentence_Row& Other : Class.Sentences)
-                for (int J = 1; J <= Class.Count; ++J) {
-                    const bool Its_Own = Other.Type == Row.Type && J == I;
-                    EXPECT_EQ(Other.Setting(Read, J).Enabled, Its_Own) << Row.Type << I << Other.Type << J;
-                    EXPECT_EQ(Other.Setting(Read, J).Interval == 11, Its_Own)
-                        << Row.Type << I << Other.Type << J;
-                }
-            Out += std::string(Row.Type) + " " + Shown(I) + " starts with " + Shown(Default) + "\n";
-        }
-    if (!Out.empty()) Check("kept");
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include "ownship/ship/frm_ship.hpp"
 #include "ownship/ship/joystick.hpp"
 #include "sentences/number_pattern.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 #include <functional>
@@ -24,8 +23,7 @@ struct Played_Joystick final : Joystick {
 struct Ship_Bench : Virtual_Simulator {
     explicit Ship_Bench(const std::function<void(Simulator_State&)>& Change = {}, Joystick* Stick = nullptr) {
         if (Stick) World.Its_Joystick.reset(Stick);
-        Simulator_State Setup;
-        Load_Default_Data(Setup, All_Windows());
+        Simulator_State Setup = Default_Setup("Ship");
         Setup.Of<Shell_State>().Start_With_Last_Navdata = true;
         if (Change) Change(Setup);
         Start(Setup);
@@ -36,9 +34,6 @@ struct Ship_Bench : Virtual_Simulator {
     }
     frmShip& Ship() { return *Open_One<frmShip>(Sim); }
     Simulator_State& State() { return Sim.State; }
-    void Set(Control& Target, const Control_Value& New) {
-        Sim.Windows.Event([&] { Sim.Windows.User_Set(Target, New); });
-    }
     void Place(Slider& Moved, int New) { Set(Moved, std::int64_t{New}); }
     void Key(int Code, Key_Modifiers Held = {}) {
         Sim.Windows.Event([&] { Sim.Windows.User_Key(Ship(), Code, Held); });

@@ -1,13 +1,6 @@
 // The ship window: opening, throttle, rate of turn, heading, noise, labels, freeze and pause.
 
-#include "gnss/gnss_state.hpp"
-#include "ownship/navdata_state.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "shell/state/shell_state.hpp"
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <cmath>
 #include <limits>
@@ -22,8 +15,8 @@ TEST(Frm_Ship, Opening_Brings_Speed_And_Rate_Of_Turn_Within_Their_Limits) {
             S.Of<Navdata_State>().Nav_SOG = 45 * Sign;
             S.Of<Navdata_State>().Nav_Rudder = 31 * Sign;
         });
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, Sign > 0 ? 40 : -5);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 30 * Sign);
+        EXPECT_EQ(B.Nav().Nav_SOG, Sign > 0 ? 40 : -5);
+        EXPECT_EQ(B.Nav().Nav_Rudder, 30 * Sign);
     }
 }
 
@@ -37,7 +30,7 @@ TEST(Frm_Ship, Starts_At_The_Start_Position_Unless_Told_Otherwise) {
             S.Of<Navdata_State>().Nav_SOG = -2.5F;
             S.Of<Shell_State>().LatLon_Format = 1;
         });
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Lat, Last ? 50 : -10);
+        EXPECT_EQ(B.Nav().Nav_Lat, Last ? 50 : -10);
         EXPECT_EQ(Shown(B.Ship().lblLat[0]), Last ? "50\xB0"
                                                     "00'00.000\"N"
                                                   : "10\xB0"
@@ -61,21 +54,21 @@ TEST(Frm_Ship, Has_One_Size_And_Keeps_Its_Place) {
     EXPECT_TRUE(Gone.expired());
     EXPECT_FALSE(*Main_Window(B.Sim).Item("mnuShip").Checked);
     EXPECT_EQ(Open_One<frmShip>(B.Sim), nullptr);
-    ASSERT_EQ(B.State().Of<Shell_State>().Open_Form_Count, 1);
-    EXPECT_EQ(B.State().Of<Shell_State>().Open_Form_List[1].Name, "frmShip");
-    EXPECT_EQ(B.State().Of<Shell_State>().Open_Form_List[1].Index, 0);
-    B.State().Of<Navdata_State>().Nav_SOG = 10;
-    const double Lat = B.State().Of<Navdata_State>().Nav_Lat;
+    ASSERT_EQ(B.Shell().Open_Form_Count, 1);
+    EXPECT_EQ(B.Shell().Open_Form_List[1].Name, "frmShip");
+    EXPECT_EQ(B.Shell().Open_Form_List[1].Index, 0);
+    B.Nav().Nav_SOG = 10;
+    const double Lat = B.Nav().Nav_Lat;
     B.Run_s(10);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Lat, Lat) << "only an open window moves the ship";
-    B.Click(Main_Window(B.Sim).Item("mnuShip"));
+    EXPECT_EQ(B.Nav().Nav_Lat, Lat) << "only an open window moves the ship";
+    B.Choose_Menu("mnuShip");
     EXPECT_EQ(B.Ship().Left, 100);
     EXPECT_EQ(B.Ship().Top, 200);
     const frmShip* Same = Open_One<frmShip>(B.Sim);
-    B.Click(Main_Window(B.Sim).Item("mnuShip"));
+    B.Choose_Menu("mnuShip");
     EXPECT_EQ(Open_One<frmShip>(B.Sim), Same);
     B.Run_s(10);
-    EXPECT_GT(B.State().Of<Navdata_State>().Nav_Lat, Lat);
+    EXPECT_GT(B.Nav().Nav_Lat, Lat);
 }
 
 TEST(Frm_Ship, All_Stop_Stops_What_The_Sliders_Are_Too_Coarse_For) {
@@ -84,15 +77,15 @@ TEST(Frm_Ship, All_Stop_Stops_What_The_Sliders_Are_Too_Coarse_For) {
     for (const int Place : {0, -30}) {
         B.Place(W.sldThrottle, Place);
         B.Place(W.sldRudder, Place);
-        B.State().Of<Navdata_State>().Nav_SOG = 0.1F;
-        B.State().Of<Navdata_State>().Nav_Rudder = 0.01F;
+        B.Nav().Nav_SOG = 0.1F;
+        B.Nav().Nav_Rudder = 0.01F;
         B.Click(W.cmdZeroRudder);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 0);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 0.1F);
-        B.State().Of<Navdata_State>().Nav_Rudder = 0.01F;
+        EXPECT_EQ(B.Nav().Nav_Rudder, 0);
+        EXPECT_EQ(B.Nav().Nav_SOG, 0.1F);
+        B.Nav().Nav_Rudder = 0.01F;
         B.Click(W.cmdZero);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 0);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 0);
+        EXPECT_EQ(B.Nav().Nav_SOG, 0);
+        EXPECT_EQ(B.Nav().Nav_Rudder, 0);
         EXPECT_EQ(W.sldThrottle.Value(), 0);
         EXPECT_EQ(W.sldRudder.Value(), 0);
         EXPECT_EQ(Shown(W.lblSOG), "0.0 knot");
@@ -116,7 +109,7 @@ TEST(Frm_Ship, Labels_After_A_Step) {
     EXPECT_EQ(Shown(W.lblGyro[1]), "354.81 deg");
     EXPECT_EQ(Shown(W.lblCOG), "005.06 deg");
     EXPECT_EQ(W.cmbHDG.Text(), "005.1");
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, 5.06) << "the label rounds, the ship does not";
+    EXPECT_EQ(B.Nav().Nav_HDG, 5.06) << "the label rounds, the ship does not";
     EXPECT_EQ(Shown(W.lblLog[0]), "13.0 knot");
     EXPECT_EQ(Shown(W.lblLog[1]), "12.0 knot");
     EXPECT_EQ(Shown(W.lblSet), "185.1 deg");
@@ -125,7 +118,7 @@ TEST(Frm_Ship, Labels_After_A_Step) {
     W.GUI_Off = true;
     B.Run_s(60);
     EXPECT_EQ(Shown(W.lblLat[0]), "62\xB0 35.5033' N");
-    EXPECT_GT(B.State().Of<GNSS_State>().GNSS_Lat[1], 62.594);
+    EXPECT_GT(B.GNSS().GNSS_Lat[1], 62.594);
 }
 
 TEST(Frm_Ship, Noise_Is_Of_The_Sensors_And_Of_The_Way_Sailed_Only) {
@@ -135,18 +128,18 @@ TEST(Frm_Ship, Noise_Is_Of_The_Sensors_And_Of_The_Way_Sailed_Only) {
     B.Place(W.sldRudder, -100);
     B.Set(W.cmbROTNoise, std::string("0.5 \xB0"));
     B.Set(W.cmbSOGNoise, std::string("1.0 kt"));
-    EXPECT_EQ(B.State().Of<Navdata_State>().Ship_ROT_Noise_Index, 5);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Ship_SOG_Noise_Index, 10);
+    EXPECT_EQ(B.Nav().Ship_ROT_Noise_Index, 5);
+    EXPECT_EQ(B.Nav().Ship_SOG_Noise_Index, 10);
     std::mt19937_64 Draws(0); // the generator of the standard, whose 10000th draw is fixed by it
     const auto Draw = [&] { return std::ldexp(static_cast<double>(Draws() >> 11), -53); };
     for (int Second = 0; Second < 100; ++Second) {
         B.Run_s(1);
         const double ROT = -10 - 0.5 + Draw(), SOG_kn = 12 - 1 + 2 * Draw(); // the rate is drawn first
-        EXPECT_NEAR(B.State().Of<Gyro_State>().Gyro_ROT[2], ROT, 1e-6);
-        EXPECT_NEAR(B.State().Of<GNSS_State>().GNSS_SOG[1], SOG_kn, 1e-6);
-        EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[1], 12);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 12);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, -10);
+        EXPECT_NEAR(B.Gyro().Gyro_ROT[2], ROT, 1e-6);
+        EXPECT_NEAR(B.GNSS().GNSS_SOG[1], SOG_kn, 1e-6);
+        EXPECT_EQ(B.Log().Log_Speed[1], 12);
+        EXPECT_EQ(B.Nav().Nav_SOG, 12);
+        EXPECT_EQ(B.Nav().Nav_Rudder, -10);
         EXPECT_NEAR(Val_Dot(Shown(W.lblRudder)), -ROT, 0.0051);
         EXPECT_EQ(*W.lblRudder.Fore_Colour, Ink::Red);
         EXPECT_NEAR(Val_Dot(Shown(W.lblSOG)), SOG_kn, 0.0051);
@@ -197,21 +190,6 @@ TEST(Frm_Ship, Freeze_Stops_The_Ship_And_Pause_The_Output) {
     EXPECT_FALSE(*W.lblPause.Visible);
     B.Send("$C", 18);
     EXPECT_EQ(B.Left.size(), Sent + 1);
-}
-
-TEST(Frm_Ship, A_Freeze_Of_The_Last_Session_Is_Kept) {
-    Ship_Bench B([](Simulator_State& S) {
-        S.Of<Shell_State>().Freeze_Active = true;
-        S.Of<Navdata_State>().Nav_SOG = 20;
-    });
-    EXPECT_EQ(Shown(B.Ship().cmdFreeze), "continue");
-    EXPECT_TRUE(*B.Ship().lblFreeze.Visible);
-    const double Lat = B.State().Of<Navdata_State>().Nav_Lat;
-    B.Run_s(10);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Lat, Lat);
-    B.Click(B.Ship().cmdFreeze);
-    B.Run_s(1);
-    EXPECT_GT(B.State().Of<Navdata_State>().Nav_Lat, Lat);
 }
 
 } // namespace

@@ -1,12 +1,7 @@
 // The current between ground and water, against the algebra of vectors.
 
-#include "ownship/navdata_state.hpp"
 #include "ownship/ship/set_drift.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <cmath>
 #include <numbers>

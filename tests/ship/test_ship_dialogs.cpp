@@ -1,13 +1,6 @@
 // "Set SOG/COG" and "Ship & Environment Setup".
 
-#include "gnss/gnss_state.hpp"
-#include "ownship/navdata_state.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "sentences/utc_state.hpp"
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <string>
 
@@ -20,7 +13,7 @@ frmSetSOG& Open_Set_SOG(Ship_Bench& B) {
 }
 
 frmShipSetup& Open_Setup(Ship_Bench& B) {
-    B.Click(Main_Window(B.Sim).Item("mnuSetupShip"));
+    B.Choose_Menu("mnuSetupShip");
     return *Open_One<frmShipSetup>(B.Sim);
 }
 
@@ -42,24 +35,24 @@ TEST(Set_SOG, OK_Sets_Speed_Heading_And_Slider) {
         Type(B, F.txtCOG, "123.45");
         B.Click(F.cmdOK);
         EXPECT_EQ(Open_One<frmSetSOG>(B.Sim), nullptr);
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, R.SOG_kn) << R.Typed;
-        EXPECT_EQ(B.State().Of<Navdata_State>().Nav_HDG, 123.45);
+        EXPECT_EQ(B.Nav().Nav_SOG, R.SOG_kn) << R.Typed;
+        EXPECT_EQ(B.Nav().Nav_HDG, 123.45);
         EXPECT_EQ(B.Ship().sldThrottle.Value(), R.Slider);
         EXPECT_EQ(Shown(B.Ship().lblSOG), R.Label);
     }
-    B.State().Of<Navdata_State>().Nav_COG = 77.777;
+    B.Nav().Nav_COG = 77.777;
     frmSetSOG& F = Open_Set_SOG(B);
     EXPECT_EQ(F.txtSOG.Text(), "0.10");
     EXPECT_EQ(F.txtCOG.Text(), "077.78");
     Type(B, F.txtSOG, "30");
     B.Click(F.cmdCancel);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 0.1F);
+    EXPECT_EQ(B.Nav().Nav_SOG, 0.1F);
 }
 
 TEST(Set_SOG, Without_A_Limit_And_Without_The_Window) {
     Ship_Bench B;
     frmSetSOG& F = Open_Set_SOG(B);
-    B.State().Of<Navdata_State>().Max_Speed_Ahead = B.State().Of<Navdata_State>().Max_Speed_Astern = 0;
+    B.Nav().Max_Speed_Ahead = B.Nav().Max_Speed_Astern = 0;
     for (const char* Typed : {"5", "-5", "0"}) {
         Type(B, F.txtSOG, Typed);
         EXPECT_EQ(Val_Dot(F.txtSOG.Text()), 0) << Typed;
@@ -67,23 +60,23 @@ TEST(Set_SOG, Without_A_Limit_And_Without_The_Window) {
     B.Set(F.txtSOG, std::string("0"));
     F.txtSOG.Set_Text("5"); // as a key that confirms without leaving the box
     B.Sim.Windows.Event([&] { F.cmdOK.Click(); });
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 5);
+    EXPECT_EQ(B.Nav().Nav_SOG, 5);
     EXPECT_EQ(B.Ship().sldThrottle.Value(), 0);
 
     frmSetSOG& Again = Open_Set_SOG(B);
     B.Click(B.Ship().cmdSetSOG);
     EXPECT_EQ(Open_One<frmSetSOG>(B.Sim), &Again);
     B.Close(B.Ship());
-    B.State().Of<Navdata_State>().Max_Speed_Ahead = 40;
+    B.Nav().Max_Speed_Ahead = 40;
     Type(B, Again.txtSOG, "8");
     B.Click(Again.cmdOK);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 8);
+    EXPECT_EQ(B.Nav().Nav_SOG, 8);
 }
 
 TEST(Ship_Setup, Apply_Takes_All_And_Moves_The_Ship_Only_For_A_New_Start) {
     Ship_Bench B;
     frmShipSetup& F = Open_Setup(B);
-    const double Lat = B.State().Of<Navdata_State>().Nav_Lat;
+    const double Lat = B.Nav().Nav_Lat;
     B.Set(F.cmbMaxSpeedAhead, std::string("25"));
     B.Set(F.cmbMaxSpeedAstern, std::string("12"));
     B.Set(F.cmbMaxRudder, std::string("060"));
@@ -154,7 +147,7 @@ TEST(Ship_Setup, Limits_Move_The_Scale_And_Hold_The_Rate) {
                       R.Ticks[static_cast<std::size_t>(Tick > 3 ? Tick - 3 : Tick)])
                 << R.Chosen << Tick;
     }
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_Rudder, 5) << "brought into the new range";
+    EXPECT_EQ(B.Nav().Nav_Rudder, 5) << "brought into the new range";
     B.Close(W);
     B.Click(F.cmdOK);
     EXPECT_EQ(B.Take_Boxes(), Texts{});

@@ -1,14 +1,7 @@
 // What the ship does in a second and in a day.
 
-#include "gnss/gnss_state.hpp"
-#include "ownship/navdata_state.hpp"
 #include "ownship/ship/ship_motion.hpp"
-#include "sensors/gyro/gyro_state.hpp"
-#include "sensors/log/log_state.hpp"
-#include "shell/state/shell_state.hpp"
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <charconv>
 #include <cmath>
@@ -115,7 +108,7 @@ TEST(Ship_Motion, A_Slow_Turn_Turns_The_Ship) {
     Ship_Bench B;
     B.Place(B.Ship().sldRudder, 1);
     B.Run_s(600);
-    EXPECT_NEAR(B.State().Of<Navdata_State>().Nav_HDG, 1, 1e-6);
+    EXPECT_NEAR(B.Nav().Nav_HDG, 1, 1e-6);
     EXPECT_EQ(B.Ship().cmbHDG.Text(), "001.0");
 }
 
@@ -187,19 +180,21 @@ TEST(Ship_Motion, A_Frozen_Ship_Feeds_Its_Sensors_Once) {
         S.Of<Navdata_State>().Nav_Lat = 95;
         S.Of<Navdata_State>().Nav_Lon = -540;
     });
-    EXPECT_EQ(B.State().Of<GNSS_State>().GNSS_COG[1], 270);
-    EXPECT_EQ(B.State().Of<GNSS_State>().GNSS_Lat[1], 90);
-    EXPECT_EQ(std::abs(B.State().Of<GNSS_State>().GNSS_Lon[1]), 180);
-    EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[2], 20);
+    EXPECT_EQ(B.GNSS().GNSS_COG[1], 270);
+    EXPECT_EQ(B.GNSS().GNSS_Lat[1], 90);
+    EXPECT_EQ(std::abs(B.GNSS().GNSS_Lon[1]), 180);
+    EXPECT_EQ(B.Log().Log_Speed[2], 20);
     // While it is frozen no value of a sensor changes, whatever is done to the window.
+    EXPECT_EQ(Shown(B.Ship().cmdFreeze), "continue");
+    EXPECT_TRUE(*B.Ship().lblFreeze.Visible);
     B.Place(B.Ship().sldThrottle, -10);
     B.Close(B.Ship());
-    B.Click(Main_Window(B.Sim).Item("mnuShip"));
+    B.Choose_Menu("mnuShip");
     B.Run_s(3);
-    EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[2], 20);
+    EXPECT_EQ(B.Log().Log_Speed[2], 20);
     B.Click(B.Ship().cmdFreeze);
     B.Run_s(1.5);
-    EXPECT_EQ(B.State().Of<Log_State>().Log_Speed[2], 4);
+    EXPECT_EQ(B.Log().Log_Speed[2], 4);
 }
 
 TEST(Ship_Motion, Numbers_Beyond_All_Ships_Stay_Finite) {

@@ -1,10 +1,6 @@
 // Steering by keyboard and game controller.
 
-#include "ownship/navdata_state.hpp"
-#include "shell/state/shell_state.hpp"
-#include "ship_bench.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/ship/ship_bench.hpp"
 
 #include <limits>
 
@@ -82,7 +78,7 @@ TEST(Ship_Keyboard, Ends_And_Steps) {
     W.sldRudder.Large_Change = 20;
     EXPECT_EQ(After(W.sldThrottle, 0, key::Up, None), -3) << "the throttle steps as the rate of turn";
     EXPECT_EQ(After(W.sldThrottle, 0, key::Page_Down, None), 20);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, -1);
+    EXPECT_EQ(B.Nav().Nav_SOG, -1);
 }
 
 TEST(Ship_Keyboard, The_Mode_Lasts_Until_Another_Control_Is_Chosen) {
@@ -111,7 +107,7 @@ TEST(Ship_Keyboard, The_Mode_Lasts_Until_Another_Control_Is_Chosen) {
     B.Sim.Windows.Event([&] { B.Sim.Windows.Activate(W); });
     Expect_Mode(true);
     B.Key(key::Up);
-    EXPECT_EQ(B.State().Of<Navdata_State>().Nav_SOG, 0.4F);
+    EXPECT_EQ(B.Nav().Nav_SOG, 0.4F);
     B.Click(W.cmdFreeze);
     Expect_Mode(false);
     B.Key(key::Up);
@@ -133,7 +129,7 @@ struct Stick_Bench {
 TEST(Ship_Joystick, Takes_The_Place_Of_Freeze_And_Pause) {
     Stick_Bench T([](Simulator_State& S) { S.Of<Shell_State>().Freeze_Active = true; });
     const frmShip& W = T.B.Ship();
-    EXPECT_FALSE(T.B.State().Of<Shell_State>().Freeze_Active);
+    EXPECT_FALSE(T.B.Shell().Freeze_Active);
     EXPECT_TRUE(*W.frameJoystick.Visible);
     EXPECT_FALSE(*W.lblJoystick.Visible || *W.cmdFreeze.Visible || *W.cmdPause.Visible);
     EXPECT_FALSE(*W.lblFreeze.Visible || *W.lblPause.Visible);
@@ -188,7 +184,7 @@ TEST(Ship_Joystick, Steps_Ten_Times_A_Second_While_It_Is_Held) {
     T.Hold(65535, 65535);
     T.B.Run_s(10);
     EXPECT_EQ(W.sldRudder.Value(), 300);
-    EXPECT_EQ(T.B.State().Of<Navdata_State>().Nav_SOG, -5) << "pulled back: astern";
+    EXPECT_EQ(T.B.Nav().Nav_SOG, -5) << "pulled back: astern";
 }
 
 TEST(Ship_Joystick, Buttons) {

@@ -3,24 +3,16 @@
 #include "dialogs/geo_format/frm_geo_format.hpp"
 #include "dialogs/iec61162/frm_iec61162.hpp"
 #include "gnss/configuration/frm_gnss.hpp"
-#include "gnss/gnss_state.hpp"
 #include "links/port_setup/frm_setup.hpp"
 #include "links/port_setup/port_detection.hpp"
-#include "ownship/navdata_state.hpp"
 #include "ownship/set_sog/frm_set_sog.hpp"
 #include "ownship/setup/frm_ship_setup.hpp"
 #include "ownship/ship/frm_ship.hpp"
-#include "sensors/echosounder/echo_state.hpp"
 #include "sensors/echosounder/frm_echosounder.hpp"
 #include "sensors/gyro/frm_gyro.hpp"
-#include "sensors/gyro/gyro_state.hpp"
 #include "sensors/log/frm_log.hpp"
-#include "sensors/log/log_state.hpp"
 #include "sensors/wind/frm_wind.hpp"
-#include "sensors/wind/wind_state.hpp"
 #include "shell/monitors/traffic/frm_traffic.hpp"
-#include "shell/state/link_state.hpp"
-#include "shell/state/shell_state.hpp"
 #include "tests/support/virtual_simulator.hpp"
 
 namespace brinewright {
@@ -30,9 +22,7 @@ struct Every_Window : Virtual_Simulator {
     // Both GNSS windows on TCP with all their sentences, so that all their frames are shown. The other
     // sensors send something each when their windows open; the ship of Ship mode makes way.
     static Simulator_State Full_Setup(const char* Mode = "Sensor") {
-        Simulator_State S;
-        Load_Default_Data(S, All_Windows());
-        S.Of<Shell_State>().Mode = Mode;
+        Simulator_State S = Default_Setup(Mode);
         S.Of<Link_State>().Comport_Count = 1;
         Set_Up_Link(S, port_number::TCP);
         for (int I = form_index::GNSS_1; I <= 10; ++I)
@@ -48,8 +38,7 @@ struct Every_Window : Virtual_Simulator {
             S.Of<Wind_State>().Wind_Speed[I] = 14.5F;
             S.Of<GNSS_State>().GGA_Enabled[I] = S.Of<GNSS_State>().GSA_Enabled[I] =
                 S.Of<GNSS_State>().GSV_Enabled[I] = S.Of<GNSS_State>().GST_Enabled[I] = true;
-            S.Of<Shell_State>().Open_Form_List[++S.Of<Shell_State>().Open_Form_Count] = {
-                "frmPosition", static_cast<std::int16_t>(I), 0, 0, 9330, 20150};
+            Add_Window(S, {"frmPosition", static_cast<std::int16_t>(I), 0, 0, 9330, 20150});
         }
         return S;
     }
@@ -62,15 +51,15 @@ struct Every_Window : Virtual_Simulator {
              {"mnuMonitor", "mnuExtendedMonitor", "mnuTraffic", "mnuOptionIEC450", "mnuSetupLatLonFormat"})
             if (!*M.Item(Name).Checked) Click(M.Item(Name));
         for (const int I : {1, 2}) Click(Open_One<frmPosition>(Sim, I)->cmdGNSS);
-        for (int I = form_index::Gyro_1; I <= 10; ++I) Click(M.Item("mnuOpenForm", I));
+        for (int I = form_index::Gyro_1; I <= 10; ++I) Choose_Menu("mnuOpenForm", I);
         if (Sim.State.Of<Shell_State>().Mode == "Ship") {
-            if (!Open_One<frmShip>(Sim)) Click(M.Item("mnuShip"));
+            if (!Open_One<frmShip>(Sim)) Choose_Menu("mnuShip");
             Click(Open_One<frmShip>(Sim)->cmdSetSOG);
-            Click(M.Item("mnuSetupShip"));
+            Choose_Menu("mnuSetupShip");
         }
         Run_s(2); // something to show
         Sim.State.Of<Link_State>().Ports_Initialised = false;
-        Click(M.Item("mnuSetupPort"));
+        Choose_Menu("mnuSetupPort");
         Click(Open_One<frmSetup>(Sim)->cmdComInfo);
         Run_s(0.0775);
     }

@@ -16,6 +16,7 @@
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
 #include "shell/transmit/send_nmea.hpp"
+#include "tests/support/areas.hpp"
 #include "tests/support/played_platform.hpp"
 
 #include <gtest/gtest.h>
@@ -57,9 +58,37 @@ struct Faulty_Settings : Memory_Settings {
 inline constexpr std::int64_t Day_us = 1'767'225'600 * us_Per_Second; // 2026-01-01 00:00:00
 inline constexpr const char* Setup_Name = "/data/Brinewright.ini";
 
+inline Simulator_State Default_Setup(const std::string& Mode = "Sensor") {
+    Simulator_State S;
+    Load_Default_Data(S, All_Windows());
+    S.Of<Shell_State>().Mode = Mode;
+    return S;
+}
+
+// A window that a start on this state opens.
+inline void Add_Window(Simulator_State& S, const Open_Form_Entry& Entry) {
+    S.Of<Shell_State>().Open_Form_List[++S.Of<Shell_State>().Open_Form_Count] = Entry;
+}
+
+// Body with "$" in front and its checksum behind, summed here on its own.
+inline std::string Framed(const std::string& Body) {
+    unsigned Sum = 0;
+    for (const char C : Body) Sum ^= static_cast<unsigned char>(C);
+    constexpr const char* Digits = "0123456789ABCDEF";
+    return "$" + Body + "*" + Digits[Sum / 16] + Digits[Sum % 16];
+}
+
+using Texts = std::vector<std::string>;
+
+inline Texts Entries(const Combo_Box& List) {
+    Texts All;
+    for (const auto& Item : List.Items()) All.push_back(Item.Text);
+    return All;
+}
+
 // A whole simulator in virtual time, from a time of day of 2026-01-01 on. Message boxes are kept in Told and
 // answered at once, unless Hold_Boxes is set.
-struct Virtual_Simulator {
+struct Virtual_Simulator : Areas<Virtual_Simulator> {
     explicit Virtual_Simulator(double Time_Of_Day = 36000, Start_Options Options = {})
         : World(Disk, Settings, Day_us + std::llround(Time_Of_Day * 1e6)),
           Made(Make_Simulator(World, With_Folder(Options))), Sim(*Made) {
@@ -112,15 +141,26 @@ struct Virtual_Simulator {
         Sim.Windows.Event([&] { Send_NMEA(Sim, Text, static_cast<std::int16_t>(Port)); });
         return Text;
     }
-    std::vector<std::string> Sent_On(const std::string& Link) const {
-        std::vector<std::string> Texts;
+    Texts Sent_On(const std::string& Link) const {
+        Texts All;
         for (const auto& [Name, Text] : World.Sent)
-            if (Name == Link) Texts.push_back(Text);
-        return Texts;
+            if (Name == Link) All.push_back(Text);
+        return All;
     }
 
     void Click(Control& Target) {
         Sim.Windows.Event([&] { Sim.Windows.User_Click(Target); });
+    }
+    void Choose_Menu(const char* Name, int Element = Control::No_Index) {
+        Click(Main_Window(Sim).Item(Name, Element));
+    }
+    void Set(Control& Target, const Control_Value& New) {
+        Sim.Windows.Event([&] { Sim.Windows.User_Set(Target, New); });
+    }
+    // Types or chooses and leaves the control, as a user does.
+    void Type(Control& Target, const std::string& Text) {
+        Set(Target, Text);
+        Sim.Windows.Event([&] { Sim.Windows.Set_Focus(nullptr); });
     }
     void Open_Form(std::int16_t Index) {
         Sim.Windows.Event([&] { Open_Window_Of_Index(Sim, Index); });
@@ -133,11 +173,11 @@ struct Virtual_Simulator {
         Sim.Windows.Event([&] { Sim.Windows.Answer_File(Sim.Windows.File_Dialogs[0].Id, Path); });
     }
     // The texts of the boxes since the last call.
-    std::vector<std::string> Take_Boxes() {
-        std::vector<std::string> Texts;
-        for (const Message_Box& Box : Told) Texts.push_back(Box.Text);
+    Texts Take_Boxes() {
+        Texts All;
+        for (const Message_Box& Box : Told) All.push_back(Box.Text);
         Told.clear();
-        return Texts;
+        return All;
     }
 
     std::int64_t Now_us() { return World.Machine_Clock.Wide_us(); }
@@ -162,7 +202,5 @@ struct Virtual_Simulator {
     std::unique_ptr<Simulator> Made;
     Simulator& Sim;
 };
-
-using Texts = std::vector<std::string>;
 
 } // namespace brinewright

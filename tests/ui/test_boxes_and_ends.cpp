@@ -1,6 +1,5 @@
 // Message boxes, file dialogs, and how windows and the program are closed by hand.
 
-#include "shell/state/shell_state.hpp"
 #include "tests/ui/shown_desktop.hpp"
 
 #include <QFileDialog>
@@ -70,7 +69,7 @@ TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
     Disk.Content["/data/other.ini"] = Write_Setup(Other, All_Windows());
 
     // Cancelled by hand.
-    Click(Main_Window(Sim).Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Settle();
     auto* Asking = Top_Level<QFileDialog>();
     ASSERT_TRUE(Asking);
@@ -82,7 +81,7 @@ TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
     EXPECT_TRUE(Open_One<frmPosition>(Sim, 2));
 
     // Answered by automation: the dialog goes, and what is done to it afterwards means nothing.
-    Click(Main_Window(Sim).Item("mnuFileOpen"));
+    Choose_Menu("mnuFileOpen");
     Settle();
     ASSERT_TRUE(Top_Level<QFileDialog>());
     Answer_File("/data/other.ini");
@@ -92,8 +91,8 @@ TEST_F(Boxes_And_Ends, A_File_Dialog_Answers_And_Closes) {
     EXPECT_FALSE(Open_One<frmPosition>(Sim, 2));
 
     // Two questions come one after the other.
-    Click(Main_Window(Sim).Item("mnuFileSaveAs"));
-    Click(Main_Window(Sim).Item("mnuFileOpen"));
+    Choose_Menu("mnuFileSaveAs");
+    Choose_Menu("mnuFileOpen");
     Settle();
     ASSERT_TRUE(Top_Level<QFileDialog>());
     EXPECT_EQ(Top_Level<QFileDialog>()->acceptMode(), QFileDialog::AcceptSave);

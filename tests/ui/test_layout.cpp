@@ -1,8 +1,8 @@
 // Every window is shown whole on a small bench display, at every scaling. Runs at 150 and 200 % as well.
 
-#include "shell/state/shell_state.hpp"
 #include "tests/ui/shown_desktop.hpp"
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
 #include <QStyle>
@@ -58,7 +58,7 @@ TEST_P(In_Mode, Every_Window_Fits_The_Display) {
     Open(Setup);
     View->showMaximized();
     Settle();
-    for (const int I : {1, 2}) Click(Main_Window(Sim).Item("mnuOpenForm", I));
+    for (const int I : {1, 2}) Choose_Menu("mnuOpenForm", I);
     Open_Every_Window();
     EXPECT_LE(View->minimumSizeHint().width(), 1366);
     EXPECT_LE(View->minimumSizeHint().height(), 768 - 30);

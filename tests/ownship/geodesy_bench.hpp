@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ownship/geodesy/geodetic_constants.hpp"
+
 #include <charconv>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +9,9 @@
 #include <vector>
 
 namespace brinewright {
+
+inline constexpr double Rad = Degrees_To_Radians;
+inline constexpr double Untouched = -77; // what nothing was written to
 
 using Golden_Row = std::vector<double>;
 
