@@ -130,6 +130,7 @@ struct Wishes {
     bool As_Json = false;
     bool Value_Is_Text = false;
     bool Right_Click = false;
+    std::string Box_Button;
     std::uint64_t Count = 0;
     std::vector<std::string> Watched;
     std::vector<std::string> Given = std::vector<std::string>(2); // by place of the argument
@@ -150,6 +151,8 @@ Json Request_Of(const Command& Its, const CLI::App& Parsed, const Wishes& Wish) 
         if (Parsed.count(Its.Arguments[I].Name) > 0)
             Params[Its.Arguments[I].Name] = Parameter(Its.Arguments[I], Wish.Given[I], Wish);
     if (Wish.Right_Click) Params["button"] = "right";
+    if (!Wish.Box_Button.empty())
+        Params["button"] = Parameter({"button", Take::Value}, Wish.Box_Button, Wish);
     return {{"jsonrpc", "2.0"}, {"id", 1}, {"method", Its.Name}, {"params", std::move(Params)}};
 }
 
@@ -251,6 +254,9 @@ void Declare(CLI::App& Program, Wishes& Wish) {
     Program.get_subcommand("set")->add_flag("--text", Wish.Value_Is_Text,
                                             "The value is a text, even 12 or true");
     Program.get_subcommand("click")->add_flag("--right", Wish.Right_Click, "Click with the right button");
+    Program.get_subcommand("answer")
+        ->add_option("--button", Wish.Box_Button,
+                     "Caption of the button to press, or its number from 0 (default: the first)");
     CLI::App* Watching = Program.add_subcommand("watch", "Print each change until interrupted");
     Watching->add_option("path", Wish.Watched)->required();
     Watching->add_option("--count", Wish.Count, "End after so many changes");

@@ -28,7 +28,7 @@ class Virtual_Program_Platform final : public Virtual_Platform {
     using Virtual_Platform::Virtual_Platform;
     void Quit() override {
         Quitting = true;
-        QCoreApplication::quit();
+        QCoreApplication::exit(); // quit() would ask each open dialog first, and they do not close by themselves
     }
 };
 

@@ -90,13 +90,16 @@ Json Address_Json(const Automation_Target& Target, const Address& Of) {
 Json Boxes_Json(const Desktop& Windows) {
     constexpr std::array Icon_Names{"None", "Information", "Warning", "Stop"};
     Json All = Json::array();
-    for (const Message_Box& Box : Windows.Boxes.Standing)
+    for (const Message_Box& Box : Windows.Boxes.Standing) {
+        Json Captions = Json::array();
+        for (const Box_Button Button : Buttons_Of(Box.Buttons)) Captions.push_back(Caption_Of(Button));
         All.push_back({{"id", Box.Id},
                        {"kind", "message"},
                        {"title", To_UTF8(Box.Title)},
                        {"text", To_UTF8(Box.Text)},
                        {"icon", Icon_Names.at(static_cast<std::size_t>(Box.Icon))},
-                       {"buttons", Box.Buttons == Box_Buttons::OK ? Json{"OK"} : Json{"OK", "Cancel"}}});
+                       {"buttons", std::move(Captions)}});
+    }
     for (const File_Dialog& Dialog : Windows.File_Dialogs)
         All.push_back({{"id", Dialog.Id},
                        {"kind", Dialog.Save ? "save file" : "open file"},

@@ -66,7 +66,8 @@ int Key_Code(const Json& Code) {
         std::string_view Name;
         int Code;
     };
-    constexpr std::array Keys{Named_Key{"Escape", key::Escape},
+    constexpr std::array Keys{Named_Key{"Enter", key::Enter},
+                              Named_Key{"Escape", key::Escape},
                               Named_Key{"Left", key::Left},
                               Named_Key{"Up", key::Up},
                               Named_Key{"Right", key::Right},
@@ -77,7 +78,7 @@ int Key_Code(const Json& Code) {
         return Code.get<int>();
     for (const Named_Key& Key : Keys)
         if (Code == Key.Name) return Key.Code;
-    Wrong_Parameter("code must be 1 to 255, Left, Up, Right, Down, Page_Up, Page_Down or Escape");
+    Wrong_Parameter("code must be 1 to 255, Left, Up, Right, Down, Page_Up, Page_Down, Enter or Escape");
 }
 
 Key_Modifiers Held_Keys(const Json& Names) {
@@ -157,7 +158,8 @@ Json Boxes(Automation_Core& Core, const Json&) { return Boxes_Json(Core.Target.W
 Json Answer(Automation_Core& Core, const Json& Bound) {
     const Json& Id = Bound.at("id");
     if (!Id.is_number_unsigned()) Wrong_Parameter("id must be the number of a box");
-    Answer_By_User(Core.Target, Id.get<std::int64_t>(), Text_Parameter(Bound, "path"));
+    Answer_By_User(Core.Target, Id.get<std::int64_t>(), Text_Parameter(Bound, "path"),
+                   Bound.value("button", Json()));
     return true;
 }
 
@@ -207,7 +209,7 @@ constexpr std::array Methods{
     Rpc_Method{"watch", {{{"path", Needed}}}, Watch_Path},
     Rpc_Method{"unwatch", {{{"path"}}}, Unwatch_Path},
     Rpc_Method{"boxes", {}, Boxes},
-    Rpc_Method{"answer", {{{"id", Needed}, {"path"}}}, Answer},
+    Rpc_Method{"answer", {{{"id", Needed}, {"path"}, {"button"}}}, Answer},
     Rpc_Method{"advance", {{{"seconds", Needed}}}, Advance},
     Rpc_Method{"grab", {{{"path", Needed}, {"file", Needed}}}, Grab},
     Rpc_Method{"stats", {}, Stats},

@@ -91,6 +91,12 @@ Maybe Read_Text(const Control& Of) {
     return std::nullopt;
 }
 
+Maybe Read_Refusal(const Control& Of) {
+    if (const auto* Box = As<Text_Box>(Of)) return Text_Json(*Box->Refusal);
+    if (const auto* List = As<Combo_Box>(Of)) return Text_Json(*List->Refusal);
+    return std::nullopt;
+}
+
 Maybe Read_Value(const Control& Of) {
     if (As<Check_Box>(Of) || As<Option_Button>(Of) || As<Scroll_Bar>(Of)) return Value_Json(Of.Current());
     return std::nullopt;
@@ -138,6 +144,7 @@ constexpr std::array Control_Properties{
     Control_Property{"Visible", Read<Seen, &Seen::Shown>, Settable::Never, Listed},
     Control_Property{"Caption", Read<Seen, &Seen::Caption>, Settable::Never, Listed},
     Control_Property{"Text", Read_Text, Settable::By_Text, Listed},
+    Control_Property{"Refusal", Read_Refusal},
     Control_Property{"Value", Read_Value, Settable::Value, Listed},
     Control_Property{"Checked", Read<Menu_Item, &Menu_Item::Checked>, Settable::Never, Listed},
     Control_Property{"ListIndex", Read<Combo_Box, &Combo_Box::List_Index>, Settable::By_Number, Listed},

@@ -72,6 +72,15 @@ void Set_Control(const Automation_Target& Target, const Address& Where, const Js
     As_User(Target, [&] { Target.Windows.User_Set(Part, Wanted); });
 }
 
+// By caption or by number from 0; null is the default one.
+std::optional<Box_Button> Wanted_Button(const Message_Box& Box, const Json& Button) {
+    if (Button.is_null()) return std::nullopt;
+    const auto Buttons = Buttons_Of(Box.Buttons);
+    for (std::size_t I = 0; I < Buttons.size(); ++I)
+        if (Button == I || Button == Caption_Of(Buttons[I])) return Buttons[I];
+    Refuse_Value("The box has no such button");
+}
+
 void Set_Place(const Automation_Target& Target, const Address& Where, const Json& Value) {
     const std::shared_ptr<Form> Window = Where.Window.lock();
     if (!Where.Of_Form || !Where.Of_Form->Set || !Window)
@@ -130,11 +139,17 @@ void Close_By_User(const Automation_Target& Target, Form& Window) {
     As_User(Target, [&] { Target.Windows.User_Close(Window); });
 }
 
-void Answer_By_User(const Automation_Target& Target, std::int64_t Id, const std::string& File_Path) {
+void Answer_By_User(const Automation_Target& Target, std::int64_t Id, const std::string& File_Path,
+                    const Json& Button) {
     Desktop& Windows = Target.Windows;
     const auto Has_Id = [&](const auto& Box) { return Box.Id == Id; };
-    if (std::any_of(Windows.Boxes.Standing.begin(), Windows.Boxes.Standing.end(), Has_Id))
-        return As_User(Target, [&] { Windows.Boxes.Answer(Id); });
+    const auto& Standing = Windows.Boxes.Standing;
+    const auto Box = std::find_if(Standing.begin(), Standing.end(), Has_Id);
+    if (Box != Standing.end()) {
+        const auto Pressed = Wanted_Button(*Box, Button);
+        return As_User(Target, [&] { Windows.Boxes.Answer(Id, Pressed); });
+    }
+    if (!Button.is_null()) Refuse_Value("Only a message box has buttons to choose from");
     if (std::none_of(Windows.File_Dialogs.begin(), Windows.File_Dialogs.end(), Has_Id))
         throw Rpc_Error{rpc_code::Unknown_Box, "No box with this id stands"};
     As_User(Target, [&] { Windows.Answer_File(Id, File_Path); });

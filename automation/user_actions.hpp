@@ -17,7 +17,9 @@ void Focus_By_User(const Automation_Target& Target, const Address& Where);
 void Leave_By_User(const Automation_Target& Target);
 void Key_By_User(const Automation_Target& Target, Form& Window, int Key_Code, Key_Modifiers Held);
 void Close_By_User(const Automation_Target& Target, Form& Window);
-// Box or dialog Id; File_Path only counts for a dialog, where an empty one says that none was chosen.
-void Answer_By_User(const Automation_Target& Target, std::int64_t Id, const std::string& File_Path);
+// Box or dialog Id. File_Path only counts for a dialog, where an empty one says that none was chosen; Button
+// only for a box: its caption or its number from 0, null for the default.
+void Answer_By_User(const Automation_Target& Target, std::int64_t Id, const std::string& File_Path,
+                    const Json& Button);
 
 } // namespace brinewright

@@ -78,9 +78,53 @@ void Check_Box::Set_Value(bool New) {
 void Check_Box::Check(const Control_Value& V) const { As_Bool(V); }
 void Check_Box::User_Set(const Control_Value& V) { Set_Value(As_Bool(V)); }
 
+Typed_Control::Typed_Control(Stand At, Control_Kind K, std::string N, std::string Text, std::string Tip)
+    : Visible_Control(At, K, std::move(N), {}, std::move(Tip)), Content(std::move(Text)) {
+    Refusal_Ends.Tick = [this] {
+        Owner.Windows.Timers.Stop(Refusal_Ends);
+        Refusal = std::string();
+    };
+}
+Typed_Control::~Typed_Control() { Owner.Windows.Timers.Stop(Refusal_Ends); }
+void Typed_Control::Refuse(std::string Why) {
+    ++Owner.Windows.Refusals;
+    Warn(std::move(Why));
+}
+void Typed_Control::Warn(std::string Why) {
+    constexpr std::int64_t Shown_us = 10'000'000; // long enough to be read, and it goes by itself
+    Refusal = std::move(Why);
+    Owner.Windows.Timers.Start(Refusal_Ends, Shown_us);
+}
+bool Typed_Control::Must_Wait() const { return Entered && Owner.Windows.Ticking; }
+void Typed_Control::Note_Typing(bool Is_Half) {
+    Typing = Is_Half && Entered;
+    Owner.Windows.Timers.Stop(Refusal_Ends);
+    Refusal = std::string();
+}
+void Typed_Control::Restore() {
+    if (!std::exchange(Typing, false)) return;
+    Put_Back();
+    Owner.Windows.Timers.Stop(Refusal_Ends);
+    Refusal = std::string();
+}
+void Typed_Control::Gain_Focus() {
+    Entered = true;
+    Before = Content;
+    Run(Got_Focus);
+}
+void Typed_Control::Lose_Focus() {
+    Entered = false;
+    const bool Typed = std::exchange(Typing, false);
+    const std::optional<std::string> Written = std::exchange(Waiting, std::nullopt);
+    if (!Typed && Written && *Written != Content) {
+        Content = *Written;
+        Touch();
+    }
+    Run(Lost_Focus);
+}
+
 Combo_Box::Combo_Box(Stand At, std::string N, std::string Text, std::string Tip)
-    : Visible_Control(At, Control_Kind::Combo_Box, std::move(N), {}, std::move(Tip)),
-      Shown_Text(std::move(Text)) {}
+    : Typed_Control(At, Control_Kind::Combo_Box, std::move(N), std::move(Text), std::move(Tip)) {}
 
 std::int32_t Combo_Box::Item_Data() const {
     return Chosen < 0 ? 0 : Entries[static_cast<std::size_t>(Chosen)].Data;
@@ -92,19 +136,19 @@ void Combo_Box::Add_Item(std::string Text, std::int32_t Data) {
 void Combo_Box::Set_Item(int Which, std::string Text) {
     if (Which < 0 || Which >= static_cast<int>(Entries.size())) Refuse_Value();
     Entries[static_cast<std::size_t>(Which)].Text = std::move(Text);
-    if (Which == Chosen) Shown_Text = Entries[static_cast<std::size_t>(Which)].Text;
+    if (Which == Chosen) Content = Entries[static_cast<std::size_t>(Which)].Text;
     Touch();
 }
 void Combo_Box::Clear() {
     Entries.clear();
     Chosen = -1;
-    Shown_Text.clear();
+    Content.clear();
     Touch();
 }
 void Combo_Box::Set_List_Index(int New) {
     if (New < -1 || New >= static_cast<int>(Entries.size())) Refuse_Value();
     Chosen = New;
-    Shown_Text = New < 0 ? std::string() : Entries[static_cast<std::size_t>(New)].Text;
+    Content = New < 0 ? std::string() : Entries[static_cast<std::size_t>(New)].Text;
     Touch();
     if (New >= 0) Run(Click);
 }
@@ -115,11 +159,31 @@ void Combo_Box::Choose_Data(std::int32_t Data) {
 }
 void Combo_Box::Set_Text(std::string New) {
     if (!Free_Text) Refuse_Value();
-    if (New == Shown_Text) return;
-    Shown_Text = std::move(New);
+    if (Must_Wait())
+        Waiting = std::move(New);
+    else
+        Store_Text(std::move(New));
+}
+void Combo_Box::Store_Text(std::string New) {
+    if (New == Content) return;
+    Content = std::move(New);
     Chosen = -1;
     Touch();
     Run(Change);
+}
+void Combo_Box::Gain_Focus() {
+    Chosen_Before = Chosen;
+    Typed_Control::Gain_Focus();
+}
+void Combo_Box::Confirm() {
+    if (Half_Typed() && Chosen < 0) Run(Change);
+}
+// What was typed has counted already, so that what stood before has to count again.
+void Combo_Box::Put_Back() {
+    if (Chosen_Before >= 0 && Chosen_Before < static_cast<int>(Entries.size()))
+        Set_List_Index(Chosen_Before);
+    else
+        Store_Text(Before);
 }
 // As it stands, or but for the blanks around it; -1 for none.
 int Combo_Box::Find_Entry(const std::string& Wanted) const {
@@ -142,20 +206,27 @@ void Combo_Box::Check(const Control_Value& V) const {
 }
 void Combo_Box::User_Set(const Control_Value& V) {
     Check(V);
-    if (const auto* Number = std::get_if<std::int64_t>(&V)) return Set_List_Index(static_cast<int>(*Number));
-    const auto& Wanted = std::get<std::string>(V);
-    const int Entry = Find_Entry(Wanted);
-    if (Entry >= 0)
-        Set_List_Index(Entry);
-    else
-        Set_Text(Wanted);
+    const auto* Number = std::get_if<std::int64_t>(&V);
+    const int Entry = Number ? static_cast<int>(*Number) : Find_Entry(std::get<std::string>(V));
+    if (Entry < 0) return User_Type(std::get<std::string>(V));
+    Note_Typing(false);
+    Set_List_Index(Entry);
 }
-void Combo_Box::Lose_Focus() { Run(Lost_Focus); }
+void Combo_Box::User_Type(std::string Typed) {
+    Note_Typing();
+    Store_Text(std::move(Typed));
+}
 
 Text_Box::Text_Box(Stand At, std::string N, std::string Text, std::string Tip)
-    : Visible_Control(At, Control_Kind::Text_Box, std::move(N), {}, std::move(Tip)),
-      Content(std::move(Text)) {}
+    : Typed_Control(At, Control_Kind::Text_Box, std::move(N), std::move(Text), std::move(Tip)) {}
 void Text_Box::Set_Text(std::string New) {
+    if (Must_Wait() && !Read_Only)
+        Waiting = std::move(New);
+    else
+        Store_Text(std::move(New));
+}
+void Text_Box::Put_Back() { Store_Text(Waiting.value_or(Before)); }
+void Text_Box::Store_Text(std::string New) {
     if (New == Content) return;
     Content = std::move(New);
     Touch();
@@ -173,10 +244,9 @@ void Text_Box::Check(const Control_Value& V) const {
 }
 void Text_Box::User_Set(const Control_Value& V) {
     Check(V);
-    Set_Text(As_Text(V));
+    Note_Typing();
+    Store_Text(As_Text(V));
 }
-void Text_Box::Gain_Focus() { Run(Got_Focus); }
-void Text_Box::Lose_Focus() { Run(Lost_Focus); }
 
 Scroll_Bar::Scroll_Bar(Stand At, std::string N, int At_Min, int At_Max, int Large, std::string Tip)
     : Visible_Control(At, Control_Kind::Scroll_Bar, std::move(N), {}, std::move(Tip)), Min(*this, At_Min),

@@ -7,6 +7,7 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,7 @@ struct Visible_Control : Control {
 struct Button : Visible_Control {
     Button(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     Handler Click;
+    bool Confirms = false; // takes what is typed in its window: not while that has just been refused
     void User_Click(Mouse_Button) override;
     bool Can_Focus() const override { return true; }
 };
@@ -85,9 +87,43 @@ struct Check_Box : Visible_Control {
     bool Checked = false;
 };
 
+// What is typed in. While it has the focus no tick overwrites it: what the tick writes waits, and stands when
+// the control is left without anything typed.
+struct Typed_Control : Visible_Control {
+    Typed_Control(Stand At, Control_Kind K, std::string N, std::string Text, std::string Tip);
+    ~Typed_Control() override;
+    Handler Got_Focus;
+    Handler Lost_Focus;
+    Property<std::string> Refusal{*this}; // why what was typed does not stand; for a while
+
+    const std::string& Text() const { return Content; }
+    bool Half_Typed() const { return Typing; } // typed in and neither left nor confirmed since
+    const std::string& Text_Before() const { return Before; } // as it was when the control was entered
+    void Refuse(std::string Why);              // counts on the desktop, so that OK does not close over it
+    void Warn(std::string Why);                // tells what was made of it
+    // What stood when the typing began stands again.
+    void Restore();
+    virtual void Confirm() {} // Enter, before the control is left and entered again
+
+    void Gain_Focus() override;
+    void Lose_Focus() override;
+    bool Can_Focus() const override { return true; }
+
+  protected:
+    bool Must_Wait() const; // a tick writes, and the user is in it
+    void Note_Typing(bool Is_Half = true); // a hand is at it: what was refused before is past
+    virtual void Put_Back() = 0;
+    std::string Content, Before;
+    std::optional<std::string> Waiting;
+
+  private:
+    bool Entered = false, Typing = false;
+    Timer_Queue::Entry Refusal_Ends;
+};
+
 // A list to choose from. Choosing runs Click, also when the entry is chosen that stands chosen already. With
 // Free_Text the user may type; typing runs Change.
-struct Combo_Box : Visible_Control {
+struct Combo_Box : Typed_Control {
     struct Item {
         std::string Text;
         std::int32_t Data = 0;
@@ -96,12 +132,10 @@ struct Combo_Box : Visible_Control {
     Combo_Box(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     Handler Click;
     Handler Change;
-    Handler Lost_Focus;
     bool Free_Text = false;
 
     const std::vector<Item>& Items() const { return Entries; }
     int List_Index() const { return Chosen; } // -1 = none
-    const std::string& Text() const { return Shown_Text; }
     std::int32_t Item_Data() const; // of the chosen entry, 0 when none is
 
     void Add_Item(std::string Text, std::int32_t Data = 0);
@@ -115,28 +149,28 @@ struct Combo_Box : Visible_Control {
     void Check(const Control_Value& V) const override;
     void User_Set(
         const Control_Value& V) override; // number of the entry, or its text (blanks around it count not)
-    Control_Value Current() const override { return Shown_Text; }
-    void Lose_Focus() override;
-    bool Can_Focus() const override { return true; }
+    void User_Type(std::string Typed);    // key by key: what is half typed chooses no entry
+    Control_Value Current() const override { return Content; }
+    void Gain_Focus() override;
+    void Confirm() override; // what is typed counts once more, as if it were typed now
 
   private:
     int Find_Entry(const std::string& Wanted) const;
+    void Store_Text(std::string New);
+    void Put_Back() override;
     std::vector<Item> Entries;
     int Chosen = -1;
-    std::string Shown_Text;
+    int Chosen_Before = -1;
 };
 
 // Setting the text from code runs Change, but only on a change.
-struct Text_Box : Visible_Control {
+struct Text_Box : Typed_Control {
     Text_Box(Stand At, std::string N, std::string Text = {}, std::string Tip = {});
     Handler Change;
-    Handler Got_Focus;
-    Handler Lost_Focus;
     std::function<bool(int Key_Code)> Key_Down; // true = the key is used up
     bool Read_Only = false;
     Property<std::uint32_t> Select_All_Count{*this, 0}; // grows each time the whole text is to be selected
 
-    const std::string& Text() const { return Content; }
     void Set_Text(std::string New);
     void Append_Text(std::string_view More); // as Set_Text of both; cheap for monitors
     void Select_All() { Select_All_Count = *Select_All_Count + 1; }
@@ -144,12 +178,10 @@ struct Text_Box : Visible_Control {
     void Check(const Control_Value& V) const override;
     void User_Set(const Control_Value& V) override;
     Control_Value Current() const override { return Content; }
-    void Gain_Focus() override;
-    void Lose_Focus() override;
-    bool Can_Focus() const override { return true; }
 
   private:
-    std::string Content;
+    void Store_Text(std::string New);
+    void Put_Back() override;
 };
 
 // Value always lies between Min and Max, whichever of them is the greater: Min stands at the top or left.

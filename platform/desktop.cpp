@@ -1,12 +1,26 @@
 #include "platform/desktop.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace brinewright {
 
 Desktop::Desktop(Timer_Queue& Queue) : Timers(Queue) {
-    Timers.Dispatch = [this](Timer_Queue::Entry& Due) { Event([&Due] { Due.Tick(); }); };
+    Timers.Dispatch = [this](Timer_Queue::Entry& Due) {
+        Ticking = true;
+        Event([&Due] { Due.Tick(); });
+        Ticking = false;
+    };
 }
+
+struct Desktop::By_User {
+    explicit By_User(Desktop& Its_Windows) : Windows(Its_Windows) {}
+    ~By_User() { Windows.Ticking = Was_Ticking; }
+    By_User(const By_User&) = delete;
+    By_User& operator=(const By_User&) = delete;
+    Desktop& Windows;
+    const bool Was_Ticking = std::exchange(Windows.Ticking, false); // a script plays a user in a tick
+};
 
 void Desktop::Show(std::shared_ptr<Form> Window, bool With_Focus) {
     Form& Shown = *Window;
@@ -17,6 +31,11 @@ void Desktop::Show(std::shared_ptr<Form> Window, bool With_Focus) {
 }
 
 void Desktop::Activate(Form& Window) {
+    if (Focus && &Focus->Owner != &Window) Set_Focus(nullptr);
+    if (Focus && &Focus->Owner != &Window) {
+        ++Revision; // a view that shows another one as active comes back
+        return;
+    }
     if (Window.State == Window_State::Minimised && Window.Kind != Form_Kind::Main)
         Window.Set_State(Window_State::Normal); // what is chosen is to be seen
     Active_Form = &Window;
@@ -94,22 +113,31 @@ void Require_Usable(const Desktop& Windows, const Control& Target) {
 } // namespace
 
 void Desktop::User_Focus(Control& Target) {
+    const By_User Now(*this);
     Require_Usable(*this, Target);
-    if (Target.Can_Focus()) Set_Focus(&Target);
+    if (!Target.Can_Focus()) return Take_Half_Typed(); // menus and labels leave the focus where it is
+    Set_Focus(&Target);
+    if (Focus == &Target && Active_Form != &Target.Owner) Activate(Target.Owner);
 }
 
 void Desktop::User_Click(Control& Target, Mouse_Button Which) {
+    const By_User Now(*this);
+    const std::uint64_t Refused_Before = Refusals;
     User_Focus(Target);
+    const bool Confirms = Target.Kind == Control_Kind::Button && static_cast<const Button&>(Target).Confirms;
+    if (Confirms && Refusals != Refused_Before) return;
     // The box that was left may have changed the world: the control can be gone or disabled by now.
     if (Usable(Target)) Target.User_Click(Which);
 }
 
 void Desktop::User_Type(Control& Target, const std::string& Text) {
+    const By_User Now(*this);
     User_Focus(Target);
     Target.User_Set(Text);
 }
 
 void Desktop::User_Set(Control& Target, const Control_Value& New) {
+    const By_User Now(*this);
     User_Focus(Target);
     Require_Usable(*this, Target); // the box that was left may have changed the world
     Target.User_Set(New);
@@ -118,19 +146,40 @@ void Desktop::User_Set(Control& Target, const Control_Value& New) {
 }
 
 void Desktop::User_Key(Form& Window, int Key_Code, Key_Modifiers Held) {
+    const By_User Now(*this);
     if (!Window.Loaded) throw User_Refusal(Window.Path() + " is closed");
     if (Window.Key_Preview && Window.On_Key_Down && Window.On_Key_Down(Key_Code, Held)) return;
     if (!Focus || &Focus->Owner != &Window) return;
-    if (Focus->Kind == Control_Kind::Text_Box) {
-        const auto& Box = static_cast<Text_Box&>(*Focus);
-        if (Box.Key_Down) Box.Key_Down(Key_Code);
+    const bool Is_Box = Focus->Kind == Control_Kind::Text_Box;
+    if (!Is_Box && Focus->Kind != Control_Kind::Combo_Box) return;
+    auto& Typed = static_cast<Typed_Control&>(*Focus);
+    if (Is_Box) {
+        const auto& Box = static_cast<Text_Box&>(Typed);
+        if (Box.Key_Down && Box.Key_Down(Key_Code)) return;
     }
+    if (Key_Code == key::Escape) Typed.Restore();
+    if (Key_Code == key::Enter) {
+        Typed.Confirm();
+        Enter_Anew();
+    }
+}
+
+void Desktop::Enter_Anew() {
+    Control* const Held = Focus;
+    Set_Focus(nullptr);
+    // Leaving it may have closed its window, or sent the focus elsewhere.
+    if (!Focus && Held && Held->Owner.Loaded) Set_Focus(Held);
+}
+
+void Desktop::Take_Half_Typed() {
+    if (!Focus || (Focus->Kind != Control_Kind::Text_Box && Focus->Kind != Control_Kind::Combo_Box)) return;
+    if (static_cast<const Typed_Control&>(*Focus).Half_Typed()) Enter_Anew();
 }
 
 void Desktop::User_Close(Form& Window) { Unload(Window); }
 
 void Desktop::Set_Focus(Control* Target) {
-    if (Target == Focus) return;
+    if (Target == Focus || (Target && !Usable(*Target))) return;
     Control* Left = Focus;
     const bool Was_Entered = Focus_Entered;
     Focus = Target;
@@ -170,10 +219,17 @@ void Desktop::Tell_Failure(const char* What) noexcept {
     }
 }
 
+// What is hidden or disabled while it has the focus is left.
+void Desktop::Leave_Unusable_Focus() {
+    if (Focus && !Usable(*Focus)) Set_Focus(nullptr);
+}
+
 void Desktop::Settle() noexcept {
     if (Settling) return;
     Settling = true;
     try {
+        Leave_Unusable_Focus();
+        if (std::exchange(Boxes_Seen, Boxes.Revision) != Boxes.Revision) ++Revision;
         Unloaded.clear();
         for (const Handler& Look : On_Settled) Look();
     } catch (const std::exception& Failure) {

@@ -17,7 +17,7 @@ namespace brinewright {
 
 // Codes of the keys that handlers look at.
 namespace key {
-inline constexpr int Escape = 27, Page_Up = 33, Page_Down = 34, Left = 37, Up = 38, Right = 39, Down = 40;
+inline constexpr int Enter = 13, Escape = 27, Page_Up = 33, Page_Down = 34, Left = 37, Up = 38, Right = 39, Down = 40;
 } // namespace key
 
 // A question for a file name. The answer may come much later; timers and output go on meanwhile.
@@ -53,6 +53,7 @@ class Desktop {
     }
 
     void Show(std::shared_ptr<Form> Window, bool With_Focus = true); // adds it to the open ones
+    // The box that has the focus is left before. One that takes the focus back keeps its window active.
     void Activate(Form& Window);
     // Runs On_Unload once; a second call does nothing. What On_Unload throws comes out after the window is
     // gone.
@@ -66,13 +67,18 @@ class Desktop {
     void User_Focus(Control& Target);
     void User_Set(Control& Target, const Control_Value& New); // a text box: types and leaves it
     void User_Type(Control& Target, const std::string& Text); // types and stays
-    // To the form with Key_Preview, then to the focus.
+    // To the form with Key_Preview, then to the focus, where Enter takes what is typed and Escape takes it back.
     void User_Key(Form& Window, int Key_Code, Key_Modifiers Held = {});
     void User_Close(Form& Window);
     bool Usable(const Control& Target, std::string* Why = nullptr) const;
 
-    void Set_Focus(Control* Target); // runs Lost_Focus of the old and Got_Focus of the new, once each
+    // Runs Lost_Focus of the old and Got_Focus of the new, once each. What is hidden or disabled gets none.
+    void Set_Focus(Control* Target);
     Control* Focus = nullptr;
+    // Takes or refuses what is half typed, as leaving the box does, and stays in it.
+    void Take_Half_Typed();
+    std::uint64_t Refusals = 0; // of what was typed, counted since the start
+    bool Ticking = false;       // a timer is at work, and not a user
 
     void Ask_File(File_Dialog Question);
     bool Answer_File(std::int64_t Id, const std::string& Path);
@@ -90,12 +96,16 @@ class Desktop {
     std::vector<Handler> On_Settled; // after each outermost event: views, watches
 
   private:
+    struct By_User; // while it lives, what happens is the user's doing
+    void Leave_Unusable_Focus();
+    void Enter_Anew();
     void Tell_Failure(const char* What) noexcept;
     void Settle() noexcept;
 
     int Depth = 0;
     bool Focus_Entered = false;
     bool Settling = false;
+    std::uint64_t Boxes_Seen = 0;
     std::vector<std::shared_ptr<Form>> Unloaded;
 };
 

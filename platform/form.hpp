@@ -48,6 +48,7 @@ struct Form : std::enable_shared_from_this<Form> {
     std::string Tag;
     std::string Caption;
     float Left = 0, Top = 0, Width = 0, Height = 0;
+    std::string Under; // path of the control below which a dialog opens; empty: at its place
     Window_State State = Window_State::Normal;
     bool Small = false; // it shows its small form, where it has one
     // Nobody has given it a place yet: it takes one where there is room.

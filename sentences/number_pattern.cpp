@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <optional>
 
 namespace brinewright {
 namespace {
@@ -154,7 +155,8 @@ bool Is_Too_Large(std::string_view Number) {
     return Point - First > -Power;
 }
 
-double Read_Number(std::string_view Text, bool Is_Comma_Point) {
+// Nothing when Text starts with no number.
+std::optional<double> Leading_Number(std::string_view Text, bool Is_Comma_Point) {
     Text.remove_prefix(std::min(Text.find_first_not_of(" \t"), Text.size()));
     // Only these can be part of a number; "inf" and "nan", which the library would read, are none.
     std::string Number(
@@ -169,10 +171,11 @@ double Read_Number(std::string_view Text, bool Is_Comma_Point) {
     if (Error == std::errc::result_out_of_range) {
         const bool Is_Negative = *Start == '-';
         if (Is_Negative) ++Start;
-        if (!Is_Too_Large({Start, static_cast<std::size_t>(Stop - Start)})) return 0;
+        if (!Is_Too_Large({Start, static_cast<std::size_t>(Stop - Start)})) return 0.0;
         return Is_Negative ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
     }
-    return Error == std::errc() ? Value : 0;
+    if (Error != std::errc()) return std::nullopt;
+    return Value;
 }
 
 } // namespace
@@ -207,8 +210,10 @@ void Append_Dot(std::string& Out, std::int64_t Value, const Number_Pattern& Patt
     Append_Text(Out, Pattern);
 }
 
-double Val_Dot(std::string_view Text) { return Read_Number(Text, true); }
+double Val_Dot(std::string_view Text) { return Leading_Number(Text, true).value_or(0); }
 
-double Val(std::string_view Text) { return Read_Number(Text, false); }
+double Val(std::string_view Text) { return Leading_Number(Text, false).value_or(0); }
+
+bool Starts_With_Number(std::string_view Text) { return Leading_Number(Text, true).has_value(); }
 
 } // namespace brinewright

@@ -98,4 +98,7 @@ double Val_Dot(std::string_view Text);
 // The same, but a "," ends the number.
 double Val(std::string_view Text);
 
+// Whether Val_Dot has a number to read, be it 0.
+bool Starts_With_Number(std::string_view Text);
+
 } // namespace brinewright

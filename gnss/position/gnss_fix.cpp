@@ -3,6 +3,7 @@
 #include "sentences/number_text.hpp"
 #include "shell/kit/kept_choice.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/state/simulator.hpp"
 
 #include <charconv>
@@ -77,9 +78,8 @@ void Open_Number_Lists(P& W) {
     constexpr int Choices = 64;
     for (const Number_List& Row : Number_Lists) {
         Combo_Box& List = W.*Row.List;
-        List.Free_Text = true;
         for (int I = 0; I < Choices; ++I) List.Add_Item(Row.Entry(I));
-        List.Click = List.Change = [&W, &List, &Row] { Row.Write(W, Number_Shown(List.Text())); };
+        Wire_Number_List(List, Bad_Text_Is_Zero, [&W, &Row](float Value) { Row.Write(W, Value); });
         List.Set_List_Index(Row.Default_List_Index);
     }
 }
@@ -110,6 +110,7 @@ std::int32_t Station_Shown(const P& W) {
 // A station that is out of range is reported and all the same stored, which is required.
 void txtStnID_LostFocus(Simulator& Sim, P& W) {
     constexpr int Highest_Station = 1023;
+    if (!Typed_Number(W.txtStnID, Bad_Text_Is_Zero)) return W.txtStnID.Set_Text(W.txtStnID.Text_Before());
     const std::int32_t Station = Station_Shown(W);
     if (Station > Highest_Station)
         Sim.Windows.Boxes.Show("Station ID not within accepted interval, has to be 0000-1023.");
@@ -124,7 +125,9 @@ void Open_Station_And_Heights(Simulator& Sim, P& W) {
     W.GGA_Record.Station_ID = Station_Shown(W);
     const auto Wire = [&W](Text_Box& Box, float& Of_GGA, float& Of_GNS) {
         Box.Lost_Focus = [&Box, &Of_GGA, &Of_GNS] {
-            Of_GGA = Of_GNS = Number_Shown(Box.Text());
+            // Left alone, it still hands the height to GNS.
+            const auto Typed = Typed_Number(Box, Bad_Text_Is_Zero);
+            Of_GGA = Of_GNS = Typed ? Record_Number(*Typed) : Of_GGA;
             Box.Set_Text(Format_Dot(Of_GGA, "0.0 m"));
         };
     };
@@ -197,8 +200,8 @@ constexpr Offset_Row Offset_Rows[] = {{&DTM_Record::Lat_Offset, "0.0000'", false
 
 void txtOffset_LostFocus(DTM_Record& R, Text_Box& Box) {
     const Offset_Row& Row = Offset_Rows[Box.Index];
-    const float Typed = Number_Shown(Box.Text());
-    R.*Row.Field = Row.Signed ? Typed : std::abs(Typed);
+    if (const auto Typed = Typed_Number(Box, Bad_Text_Is_Zero))
+        R.*Row.Field = Record_Number(Row.Signed ? *Typed : std::abs(*Typed));
     Box.Set_Text(Format_Dot(R.*Row.Field, Row.Pattern));
 }
 

@@ -1,6 +1,7 @@
 #include "gnss/position/frm_position.hpp"
 #include "gnss/position/position_parts.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -46,7 +47,12 @@ void Open_GST(frmPosition& W) {
         Text_Box& Box = *Each;
         const int I = Box.Index;
         Box.Got_Focus = [&Box] { Box.Select_All(); };
-        Box.Lost_Focus = [&W, &Box, I] { Store(W, I, std::max(0.0, Val_Dot(Box.Text()))); };
+        Box.Lost_Focus = [&W, &Box, I] {
+            if (const auto Typed = Typed_Number(Box, Bad_Text_Is_Zero))
+                Store(W, I, std::max(0.0, *Typed));
+            else
+                Box.Set_Text(Box.Text_Before());
+        };
         Label& Title = W.lblGST[I];
         Title.Tool_Tip = *Box.Tool_Tip + "; a click steps by " + (Lengths_m[I] ? "0.1" : "1");
         Title.Mouse_Down = [&W, I](Mouse_Button Pressed) { lblGST_MouseDown(W, I, Pressed); };

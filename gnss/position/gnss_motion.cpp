@@ -7,6 +7,7 @@
 #include "sentences/number_text.hpp"
 #include "shell/kit/kept_choice.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/kit/value_bars.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
@@ -94,10 +95,9 @@ void Show_Reported(Simulator& Sim, frmPosition& W) {
 // The reported position is not touched: it changes at the next tick only.
 void Leave_Position_Box(Simulator& Sim, frmPosition& W, const Coordinate& C) {
     if (W.chkFixOffset.Value()) {
-        C.Offset_m = Number_Shown(C.Box.Text());
-    } else {
-        C.True_deg = Parse_Position(Sim.State.Of<Shell_State>().LatLon_Format, C.Box.Text(), C.Kind,
-                                    Sim.Windows.Boxes);
+        if (const auto Typed = Typed_Number(C.Box, Bad_Text_Is_Zero)) C.Offset_m = Record_Number(*Typed);
+    } else if (const auto Typed = Typed_Position(Sim, C.Box, C.Kind)) {
+        C.True_deg = *Typed;
         W.cmdStart.Caption = std::string("START");
     }
     Show_Typed(Sim, W, C);
@@ -184,7 +184,7 @@ void Open_Speed(float& Speed, frmPosition& W) {
         Show_Size(W.lblSOG, W.txtSOG, Speed);
     };
     W.txtSOG.Lost_Focus = [&] {
-        Speed = Typed_Size(W.scrSOG, W.txtSOG);
+        if (const auto Typed = Typed_Size(W.scrSOG, W.txtSOG, Bad_Text_Is_Zero)) Speed = *Typed;
         Show_Size(W.lblSOG, W.txtSOG, Speed);
     };
 }
@@ -193,9 +193,11 @@ void Open_Speed(float& Speed, frmPosition& W) {
 // typed. This order is required.
 void txtCOG_LostFocus(float& Course, frmPosition& W) {
     constexpr float Last_deg = 359.9F;
-    const double Typed = Val_Dot(W.txtCOG.Text());
-    const float Valid = Typed > 0 && Typed < 360 ? static_cast<float>(Typed) : 0.0F;
-    Course = Valid > Last_deg ? 0.0F : Valid;
+    if (const auto Typed = Typed_Number(W.txtCOG, Bad_Text_Is_Zero)) {
+        const bool In_Circle = *Typed >= 0 && static_cast<float>(*Typed) <= Last_deg;
+        Course = In_Circle ? static_cast<float>(*Typed) : 0.0F;
+        if (!In_Circle) W.txtCOG.Warn("A course is 0.0 to 359.9 degrees: others count as 0");
+    }
     Show_Course(W, Course);
     W.scrCOG.Set_Value(static_cast<int>(std::nearbyint(Course * Bar_Steps)));
 }

@@ -3,6 +3,7 @@
 #include "ownship/navdata_state.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
 
@@ -10,9 +11,7 @@ namespace brinewright {
 
 namespace {
 
-// In twentieths of a point; the place is below cmdSetSOG, from the corner of the ship window.
-constexpr float Form_Height = 2430, Form_Width = 3195;
-constexpr float Place_Left = 10600, Place_Top = 7140; // below the button, from the ship window
+constexpr float Form_Height = 2430, Form_Width = 3195; // twentieths of a point
 
 constexpr const char* SOG_Pattern = "0.00";
 constexpr const char* COG_Pattern = "000.00";
@@ -24,7 +23,9 @@ void Refuse_SOG(Simulator& Sim, const char* Way, float Most_kn) {
 
 void txtSOG_LostFocus(Simulator& Sim, frmSetSOG& F) {
     const Navdata_State& N = Sim.State.Of<Navdata_State>();
-    float SOG_kn = Number_Shown(F.txtSOG.Text());
+    const auto Typed = Typed_Number(F.txtSOG);
+    if (!Typed) return F.txtSOG.Set_Text(F.txtSOG.Text_Before());
+    float SOG_kn = Record_Number(*Typed);
     if (SOG_kn > 0 && SOG_kn > N.Max_Speed_Ahead) {
         Refuse_SOG(Sim, "Ahead", N.Max_Speed_Ahead);
         SOG_kn = N.Max_Speed_Ahead;
@@ -36,8 +37,11 @@ void txtSOG_LostFocus(Simulator& Sim, frmSetSOG& F) {
 }
 
 void txtCOG_LostFocus(frmSetSOG& F) {
-    const double Typed_deg = Val_Dot(F.txtCOG.Text());
-    F.txtCOG.Set_Text(Format_Dot(Typed_deg < 0 || Typed_deg >= 360 ? 0 : Typed_deg, COG_Pattern));
+    const auto Typed_deg = Typed_Number(F.txtCOG);
+    if (!Typed_deg) return F.txtCOG.Set_Text(F.txtCOG.Text_Before());
+    const bool In_Circle = *Typed_deg >= 0 && *Typed_deg < 360;
+    if (!In_Circle) F.txtCOG.Warn("A heading is 0 to under 360 degrees: others count as 0");
+    F.txtCOG.Set_Text(Format_Dot(In_Circle ? *Typed_deg : 0.0, COG_Pattern));
 }
 
 // The speed first and the slider last: where the slider moves, its whole percent replaces what was typed.
@@ -52,12 +56,13 @@ void cmdOK_Click(Simulator& Sim, frmSetSOG& F) {
 
 void frmSetSOG_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmSetSOG&>(Opened);
-    const Form* const Ship = Open_Form(Sim, "frmShip");
     const Navdata_State& N = Sim.State.Of<Navdata_State>();
-    F.Set_Place((Ship ? Ship->Left : 0) + Place_Left, (Ship ? Ship->Top : 0) + Place_Top, Form_Width,
-                Form_Height);
+    F.Resize(Form_Width, Form_Height);
+    F.Under = "frmShip.cmdSetSOG";
     F.txtSOG.Set_Text(Format_Dot(N.Nav_SOG, SOG_Pattern));
     F.txtCOG.Set_Text(Format_Dot(N.Nav_COG, COG_Pattern));
+    for (Text_Box* Box : {&F.txtSOG, &F.txtCOG}) Box->Got_Focus = [Box] { Box->Select_All(); };
+    F.cmdOK.Confirms = true;
     F.txtSOG.Lost_Focus = [&] { txtSOG_LostFocus(Sim, F); };
     F.txtCOG.Lost_Focus = [&] { txtCOG_LostFocus(F); };
     F.cmdOK.Click = [&] { cmdOK_Click(Sim, F); };

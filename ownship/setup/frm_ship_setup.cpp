@@ -7,6 +7,7 @@
 #include "sentences/number_pattern.hpp"
 #include "sentences/utc_state.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/windows.hpp"
@@ -117,8 +118,11 @@ double Typed_Start(Simulator& Sim, const frmShipSetup& F, const Start_Box& B) {
 }
 
 void Leave_Start_Box(Simulator& Sim, frmShipSetup& F, const Start_Box& B) {
-    const double New_deg = Typed_Start(Sim, F, B);
-    (F.*B.Box).Set_Text(Position_Text(Sim.State.Of<Shell_State>().LatLon_Format, New_deg, B.Kind));
+    Text_Box& Box = F.*B.Box;
+    const auto Typed_deg = Typed_Position(Sim, Box, B.Kind);
+    if (!Typed_deg) return Box.Set_Text(Box.Text_Before());
+    const double New_deg = *Typed_deg;
+    Box.Set_Text(Position_Text(Sim.State.Of<Shell_State>().LatLon_Format, New_deg, B.Kind));
     if (std::abs(New_deg - Sim.State->*B.Start) > Same_Start_deg) F.Start_Changed = true;
 }
 
@@ -169,7 +173,10 @@ void Wire_Boxes(Simulator& Sim, frmShipSetup& F) {
     For_Each_Offset(Sim.State, F, [](Text_Box& Box, const auto& Value, const char* Pattern) {
         Box.Set_Text(Format_Dot(Value, Pattern));
         Box.Got_Focus = [&Box] { Box.Select_All(); };
-        Box.Lost_Focus = [&Box, Pattern] { Box.Set_Text(Format_Dot(Val_Dot(Box.Text()), Pattern)); };
+        Box.Lost_Focus = [&Box, Pattern] {
+            const auto Typed = Typed_Number(Box, Bad_Text_Is_Zero);
+            Box.Set_Text(Typed ? Format_Dot(*Typed, Pattern) : Box.Text_Before());
+        };
     });
 }
 
@@ -179,6 +186,7 @@ void frmShipSetup_Load(Simulator& Sim, Form& Opened) {
     Fill_Lists(F);
     Show_State(Sim.State, F);
     Wire_Boxes(Sim, F);
+    F.cmdOK.Confirms = F.cmdApply.Confirms = true;
     F.cmdOK.Click = [&] {
         cmdApply_Click(Sim, F);
         Sim.Windows.Unload(F);

@@ -2,11 +2,13 @@
 
 #include "ownship/navdata_state.hpp"
 #include "ownship/ship/frm_ship.hpp"
+#include "sentences/instrument_range.hpp"
 #include "sentences/number_pattern.hpp"
 #include "sentences/number_text.hpp"
 #include "shell/kit/shown_number.hpp"
 #include "shell/kit/value_bars.hpp"
 #include "shell/state/link_state.hpp"
+#include "shell/state/say.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
 #include "shell/state/version.hpp"
@@ -24,7 +26,7 @@ namespace {
 
 constexpr const char* Port_File = "Quillon_UDP_port.txt";
 constexpr std::size_t Port_File_Limit_Bytes = 1024;
-constexpr float Greatest_Number = 1e15F; // its square still is a 32-bit float, so nothing overflows later on
+constexpr float Greatest_Speed_kn = 1000; // what a speed field can carry with a ship in mind
 
 std::string Box_Title() { return std::string("BRINEWRIGHT ") + Version_Text + " - Quillon special option"; }
 
@@ -53,7 +55,7 @@ template <std::size_t Most>
 float Number_Field(const Fields<Most>& Cut, std::size_t I) {
     if (I >= Cut.Count) return 0;
     if (Cut.Text[I].empty()) return Empty_Marker;
-    return std::clamp(Record_Number(Val(Cut.Text[I])), -Greatest_Number, Greatest_Number);
+    return Record_Number(Val(Cut.Text[I]));
 }
 
 // Only digits, with blanks and line ends around them.
@@ -68,8 +70,20 @@ std::int32_t Read_Port_Number(std::string_view Text) {
     return Port;
 }
 
+// A number that no instrument gives leaves the ship as it is.
+bool Is_Ignored(Simulator& Sim, const char* What, float Number) {
+    if (!Beyond_Any_Instrument(Number)) return false;
+    // Once: datagrams come ten times a second.
+    if (!std::exchange(Sim.Links.Control_Input_Ignored, true))
+        Say(Sim, std::string("Control input: a ") + What + " that no instrument gives is ignored");
+    return true;
+}
+
 void Act_On_VTG(Simulator& Sim, std::string_view Sentence) {
-    const float Speed_kn = Extract_VTG(Sentence).SOG_Knots;
+    const float Told_kn = Extract_VTG(Sentence).SOG_Knots;
+    if (Is_Ignored(Sim, "speed", Told_kn)) return;
+    const float Speed_kn =
+        Told_kn == Empty_Marker ? Told_kn : std::clamp(Told_kn, -Greatest_Speed_kn, Greatest_Speed_kn);
     Navdata_State& N = Sim.State.Of<Navdata_State>();
     auto* const Ship = Open_One<frmShip>(Sim);
     if (Ship) {
@@ -85,8 +99,10 @@ void Act_On_VTG(Simulator& Sim, std::string_view Sentence) {
 void Act_On_ROT(Simulator& Sim, std::string_view Sentence) {
     auto* const Ship = Open_One<frmShip>(Sim);
     if (!Ship) return;
+    const float Rate = Extract_ROT(Sentence).Rate;
+    if (Is_Ignored(Sim, "rate of turn", Rate)) return;
     Slider& Rudder = Ship->sldRudder;
-    Rudder.Set_Value(Bar_Place(Rudder, Extract_ROT(Sentence).Rate * 10, 1));
+    Rudder.Set_Value(Bar_Place(Rudder, Rate * 10, 1));
 }
 
 void Act_On_Datagram(Simulator& Sim, std::string_view Datagram) {

@@ -13,6 +13,7 @@
 #include "sensors/log/log_state.hpp"
 #include "sentences/number_pattern.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/kit/value_bars.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
@@ -115,10 +116,18 @@ void cmdZero_Click(Navdata_State& N, frmShip& W) {
 
 void cmbHDG_Change(Navdata_State& N, frmShip& W) {
     if (W.HDG_Changing) return;
-    const double Typed_deg = Val_Dot(W.cmbHDG.Text());
+    const std::string& Typed = W.cmbHDG.Text();
+    const double Typed_deg = Val_Dot(Typed);
+    // On the way to a number, or no way to one, which is said when the list is left.
+    if (!Starts_With_Number(Typed) || Beyond_Any_Instrument(Typed_deg)) return;
+    if (Typed_deg < 0 || Typed_deg > 360) W.cmbHDG.Warn("A heading is 0 to 360 degrees: others become the end that is nearer");
     if (Typed_deg > 360) Show_Heading(W, "360");
     if (Typed_deg < 0) Show_Heading(W, "000");
     N.Nav_HDG = std::clamp(Typed_deg, 0.0, 360.0);
+}
+
+void cmbHDG_LostFocus(const Navdata_State& N, frmShip& W) {
+    if (!Typed_Number(W.cmbHDG)) Show_Heading(W, Format_Dot(N.Nav_HDG, "000.0"));
 }
 
 // A stored index that the list does not have, as a setup file may hold, is no noise.
@@ -144,6 +153,7 @@ void Wire_Controls(Simulator& Sim, frmShip& W) {
     for (int Heading_deg = 0; Heading_deg <= Last_Heading_deg; Heading_deg += Heading_Step_deg)
         W.cmbHDG.Add_Item(std::to_string(Heading_deg));
     W.cmbHDG.Change = W.cmbHDG.Click = [&] { cmbHDG_Change(N, W); };
+    W.cmbHDG.Lost_Focus = [&] { cmbHDG_LostFocus(N, W); };
     Wire_Noise(W.cmbSOGNoise, " kt", W.SOG_Noise_Amplitude, N.Ship_SOG_Noise_Index);
     Wire_Noise(W.cmbROTNoise, {' ', Degree_Sign}, W.ROT_Noise_Amplitude, N.Ship_ROT_Noise_Index);
     W.cmdSetSOG.Click = [&] { Open_Window(Sim, "frmSetSOG"); };

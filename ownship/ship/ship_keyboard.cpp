@@ -79,6 +79,7 @@ void Wire_Ship_Keyboard(Simulator& Sim, frmShip& W) {
         Sim.Windows.Set_Focus(&W.txtDummy);
     };
     W.txtDummy.Lost_Focus = [&] { Show_Keyboard_Mode(W, false); };
+    // It has the focus only while it steers: what is hidden gets none.
     W.On_Got_Focus = [&] { Sim.Windows.Set_Focus(&W.txtDummy); };
     W.On_Key_Down = [&](int Key_Code, Key_Modifiers Held) {
         if (Key_Code != key::Escape) return Form_KeyDown(W, Key_Code, Held);

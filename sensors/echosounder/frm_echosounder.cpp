@@ -5,6 +5,7 @@
 #include "shell/kit/depth_wind_parts.hpp"
 #include "shell/kit/kept_choice.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/kit/value_bars.hpp"
 #include "shell/state/simulator.hpp"
 
@@ -68,11 +69,13 @@ void Wire_Depth(Echo_State& S, frmEchosounder& W) {
 
 // The transducer offset is not kept: it starts at 0.
 void Wire_Offset(frmEchosounder& W) {
-    W.cmbOffset.Free_Text = true;
     for (int Metres = -Offset_Limit_m; Metres <= Offset_Limit_m; ++Metres)
         W.cmbOffset.Add_Item(Number_Text(Metres));
-    W.cmbOffset.Click = W.cmbOffset.Change = [&W] { W.Transducer_Offset = Number_Shown(W.cmbOffset.Text()); };
-    W.cmbOffset.Lost_Focus = [&W] { W.cmbOffset.Set_Text(Decimal_Text(W.Transducer_Offset)); };
+    Wire_Number_List(W.cmbOffset, {}, [&W](float Offset_m) { W.Transducer_Offset = Offset_m; });
+    W.cmbOffset.Lost_Focus = [&W, Say_What_Is_Wrong = std::move(W.cmbOffset.Lost_Focus)] {
+        Say_What_Is_Wrong();
+        W.cmbOffset.Set_Text(Decimal_Text(W.Transducer_Offset));
+    };
     W.cmbOffset.Set_List_Index(Offset_Limit_m);
 }
 

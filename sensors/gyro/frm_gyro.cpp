@@ -6,6 +6,7 @@
 #include "sentences/number_text.hpp"
 #include "shell/kit/kept_choice.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/kit/value_bars.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
@@ -176,13 +177,10 @@ void Wire_Motion(Simulator& Sim, frmGyro& W) {
 void Wire_Noise(Gyro_State& S, frmGyro& W) {
     for (const auto& List : W.cmbNoise) {
         const int I = List->Index;
-        List->Free_Text = true;
         for (const int Tenths : Noise_Tenths)
             List->Add_Item(Format_Dot(Tenths / 10.0, "0.0") + ' ' + Degree_Sign);
         List->Tool_Tip = *W.lblNoise[I].Tool_Tip + "; others, -360 to 360, can be typed";
-        List->Change = [&W, I] {
-            W.Noise_Max[I] = std::clamp(Number_Shown(W.cmbNoise[I].Text()), -Noise_Limit, Noise_Limit);
-        };
+        Wire_Number_List(*List, {-Noise_Limit, Noise_Limit}, [&W, I](float Most) { W.Noise_Max[I] = Most; });
         Keep(*List, S.Gyro_Noise_Level[W.Instance][I], 0, List->Change);
     }
     Keep(W.optAccumulatedNoise, S.Gyro_Noise_Accumulated[W.Instance]);

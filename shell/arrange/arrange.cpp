@@ -2,6 +2,7 @@
 
 #include "platform/form.hpp"
 #include "shell/state/simulator.hpp"
+#include "shell/state/windows.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -115,12 +116,48 @@ Extent Size_Of(const Form& Window) {
 
 Extent Room_Of(const Simulator& Sim) { return {Sim.Windows.Room_Width, Sim.Windows.Room_Height}; }
 
-void Tile(Simulator& Sim) {
+void Place_Free(const Simulator& Sim, Form& Window) {
+    std::vector<Window_Place> Taken;
+    for (const Form* Other : Standing_Windows(Sim)) {
+        if (Other == &Window || Other->Unplaced) continue;
+        const Extent Size = Size_Of(*Other);
+        Taken.push_back({Other->Left, Other->Top, Size.Width, Size.Height});
+    }
+    const Window_Place Free = Free_Place(Size_Of(Window), Taken, Room_Of(Sim));
+    Window.Left = Free.Left;
+    Window.Top = Free.Top;
+    Window.Unplaced = false;
+}
+
+namespace {
+
+// False when not all stand in their sizes.
+bool Tile_Now(Simulator& Sim) {
     const std::vector<Form*> Windows = Standing_Windows(Sim);
     std::vector<Extent> Sizes;
     for (const Form* Window : Windows) Sizes.push_back(Size_Of(*Window));
     const std::vector<Window_Place> Places = Beside_Each_Other(Sizes, Room_Of(Sim));
-    for (std::size_t I = 0; I < Windows.size(); ++I) Put(*Windows[I], Places[I]);
+    bool All_Fit = true;
+    for (std::size_t I = 0; I < Windows.size(); ++I) {
+        All_Fit = All_Fit && Places[I].Width >= Sizes[I].Width && Places[I].Height >= Sizes[I].Height;
+        Put(*Windows[I], Places[I]);
+    }
+    return All_Fit;
+}
+
+} // namespace
+
+void Tile(Simulator& Sim) {
+    if (Tile_Now(Sim)) return;
+    bool Smaller = false;
+    for (Form* Window : Standing_Windows(Sim)) {
+        const Window_Class* Class = Find_Class(Sim, Window->Name);
+        if (Window->Small || !Class || !Class->Lay_Out_Small) continue;
+        Window->Set_Small(true);
+        Smaller = true;
+    }
+    // Their sizes are known when they have been measured.
+    if (Smaller) Sim.Windows.When_Measured = [&Sim] { Tile_Now(Sim); };
 }
 
 void Cascade(Simulator& Sim) {

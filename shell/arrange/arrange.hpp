@@ -30,6 +30,10 @@ std::vector<Form*> Standing_Windows(const Simulator& Sim);
 Extent Size_Of(const Form& Window);
 Extent Room_Of(const Simulator& Sim);
 
+// A free place for one that has none of its own.
+void Place_Free(const Simulator& Sim, Form& Window);
+
+// Those that have a small form take it where the windows do not fit in their sizes.
 void Tile(Simulator& Sim);
 void Cascade(Simulator& Sim);
 void Close_All(Simulator& Sim); // each as if by hand

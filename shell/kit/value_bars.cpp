@@ -2,6 +2,7 @@
 
 #include "ownship/geodesy/angles.hpp"
 #include "shell/kit/shown_number.hpp"
+#include "shell/kit/typed_number.hpp"
 #include "shell/state/simulator.hpp"
 
 #include <algorithm>
@@ -48,15 +49,17 @@ void Move_Bar(Scroll_Bar& Bar, int Place) {
 }
 
 void Leave_Box(Simulator& Sim, const Form& W, const Box_Of_Bar& B) {
-    const std::string& Typed = B.Box.Text();
-    const double Tenths = std::nearbyint(Val_Dot(Typed) * Bar_Steps);
-    const int Least = std::min<int>(B.Bar.Min, B.Bar.Max), Most = std::max<int>(B.Bar.Min, B.Bar.Max);
-    if (Tenths >= Least && Tenths <= Most) {
-        Move_Bar(B.Bar, static_cast<int>(Tenths));
-    } else if (Typed != B.Shown) {
-        Sim.Windows.Boxes.Show(B.Refusal, W.Caption, Box_Icon::Warning);
-        B.Box.Set_Text(B.Shown);
+    if (B.Box.Text() == B.Shown) {
+        const double Tenths = std::nearbyint(Val_Dot(B.Shown) * Bar_Steps);
+        if (Tenths == Bar_Place(B.Bar, Tenths, 1)) Move_Bar(B.Bar, static_cast<int>(Tenths));
+        return;
     }
+    const std::optional<double> Typed = Typed_Number(B.Box);
+    const double Tenths = std::nearbyint(Typed.value_or(0) * Bar_Steps);
+    if (Typed && Tenths == Bar_Place(B.Bar, Tenths, 1)) return Move_Bar(B.Bar, static_cast<int>(Tenths));
+    if (Typed) B.Box.Refuse(B.Refusal);
+    Sim.Windows.Boxes.Show(B.Refusal, W.Caption, Box_Icon::Warning);
+    B.Box.Set_Text(B.Shown);
 }
 
 void Wire_Typed_Bar(Simulator& Sim, const Form& W, const Typed_Bar& B) {
@@ -69,10 +72,11 @@ void Wire_Typed_Bar(Simulator& Sim, const Form& W, const Typed_Bar& B) {
     B.Box.Lost_Focus = [&Sim, &W, B] { Leave_Box(Sim, W, {B.Bar, B.Box, B.Refusal, B.Shown()}); };
 }
 
-float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box) {
-    const double Typed = std::abs(Val_Dot(Box.Text()));
-    Bar.Set_Value(Bar_Place(Bar, Typed, Bar_Steps));
-    return Record_Number(Typed);
+std::optional<float> Typed_Size(Scroll_Bar& Bar, Text_Box& Box, const Number_Rule& Rule) {
+    const std::optional<double> Typed = Typed_Number(Box, Rule);
+    if (!Typed) return std::nullopt;
+    Bar.Set_Value(Bar_Place(Bar, std::abs(*Typed), Bar_Steps));
+    return Record_Number(std::abs(*Typed));
 }
 
 void Show_Size(Label& Shown, Text_Box& Box, float Value) {
@@ -89,7 +93,12 @@ void Wire_Size_Bar(const Size_Bar& B, float& Value, Handler Taken) {
     B.Bar.Set_Value(Bar_Place(B.Bar, Value, Bar_Steps));
     Show_Size(B.Shown, B.Box, Value);
     B.Bar.Change = [B, Take] { Take(Bar_Value(B.Bar)); };
-    B.Box.Lost_Focus = [B, Take] { Take(Typed_Size(B.Bar, B.Box)); };
+    B.Box.Lost_Focus = [B, &Value, Take] {
+        if (const std::optional<float> Typed = Typed_Size(B.Bar, B.Box))
+            Take(*Typed);
+        else
+            Show_Size(B.Shown, B.Box, Value);
+    };
 }
 
 } // namespace brinewright

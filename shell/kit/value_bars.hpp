@@ -1,8 +1,10 @@
 #pragma once
 
 #include "platform/controls.hpp"
+#include "shell/kit/typed_number.hpp"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace brinewright {
@@ -64,8 +66,9 @@ void Wire_Typed_Bar(Simulator& Sim, const Form& W, const Typed_Bar& B);
 
 // The size of the number typed in a box that may go beyond its bar, which is brought as near as it gets.
 // Since the bar's handler runs in here, the caller takes the typed value last, so that it stays in effect
-// where the bar cannot follow: beyond its end, and between two tenths. This order is required.
-float Typed_Size(Scroll_Bar& Bar, const Text_Box& Box);
+// where the bar cannot follow: beyond its end, and between two tenths. This order is required. Nothing, and
+// the bar stays, when what is typed is not to be taken.
+std::optional<float> Typed_Size(Scroll_Bar& Bar, Text_Box& Box, const Number_Rule& Rule = {});
 
 // A speed or depth beside its bar: the label shows it and the box copies the label.
 void Show_Size(Label& Shown, Text_Box& Box, float Value);

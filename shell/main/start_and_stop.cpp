@@ -88,6 +88,7 @@ void Open_Saved_Windows(Simulator& Sim) {
 }
 
 void MDIForm_Unload(Simulator& Sim) {
+    Sim.Windows.Event([&] { Sim.Windows.Set_Focus(nullptr); }); // what is half typed is kept too
     // Child windows go first, each adding itself to the list of open windows: in the order in which they lie
     // upon each other, so that they lie so again. One that fails to (the list is full) is told in a box, and
     // the end goes on.

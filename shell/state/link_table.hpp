@@ -39,6 +39,7 @@ struct Link_Table {
     Table<std::unique_ptr<UDP_Socket>, 0, 10> WinsockUDP;
     std::unique_ptr<UDP_Socket> WinsockQuillon; // the control input, when it is on
     bool Control_Input_Warned = false;          // it has told that it needs Ship mode
+    bool Control_Input_Ignored = false;         // it has told of a number that no instrument gives
     std::string Rx_Buffer; // received text without its line feed yet; one for all serial ports
 };
 

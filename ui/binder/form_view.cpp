@@ -1,5 +1,6 @@
 #include "ui/binder/form_view.hpp"
 
+#include "ui/binder/callout.hpp"
 #include "ui/binder/grid_model.hpp"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -73,16 +75,33 @@ void Form_View::Follow_Focus(const Desktop& Windows) {
     Following = false;
 }
 
-void Form_View::Show_Common(const Visible_Control& C, QWidget* W) const {
+void Form_View::Show_Common(const Visible_Control& C, QWidget* W) {
     W->setEnabled(*C.Enabled);
     W->setVisible(C.Shown());
     W->setToolTip(To_Screen(*C.Tool_Tip));
+    if (C.Kind == Control_Kind::Text_Box || C.Kind == Control_Kind::Combo_Box)
+        Show_Refusal(static_cast<const Typed_Control&>(C), W);
+}
+
+void Form_View::Show_Refusal(const Typed_Control& C, QWidget* W) {
+    const bool Refused = !C.Refusal->empty() && C.Shown();
+    if (W->property("refused").toBool() != Refused) {
+        W->setProperty("refused", Refused);
+        W->style()->polish(W);
+    }
+    Callout*& Says = Callouts[W];
+    if (Refused && !Says) Says = new Callout(this);
+    if (Says) Says->Say(Refused ? To_Screen(*C.Refusal) : QString(), *W);
 }
 
 void Form_View::Bind(Visible_Control& C, QWidget* W, std::function<void()> Show) {
     W->setObjectName(To_Screen(C.Path()));
     W->installEventFilter(this);
-    Bindings.push_back({&C, W, [this, &C, W, Show = std::move(Show)] {
+    QWidget* Pressed = W;
+    if (const auto* Area = qobject_cast<QAbstractScrollArea*>(W)) Pressed = Area->viewport();
+    if (const auto* List = qobject_cast<QComboBox*>(W); List && List->lineEdit()) Pressed = List->lineEdit();
+    if (Pressed != W) Pressed->installEventFilter(this);
+    Bindings.push_back({&C, W, Pressed, [this, &C, W, Show = std::move(Show)] {
                             const QSignalBlocker Quiet(W);
                             Show();
                             Show_Common(C, W);
@@ -111,6 +130,7 @@ QComboBox* Form_View::Make(Combo_Box& C) {
     auto* W = new QComboBox(this);
     W->setEditable(C.Free_Text);
     W->setInsertPolicy(QComboBox::NoInsert);
+    W->setCompleter(nullptr); // what is typed is what counts, not what it could become
     W->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     Bind(C, W, [&C, W] {
         const auto& Items = C.Items();
@@ -121,9 +141,12 @@ QComboBox* Form_View::Make(Combo_Box& C) {
             W->clear();
             for (const auto& Item : Items) W->addItem(To_Screen(Item.Text));
         }
-        W->setCurrentIndex(C.List_Index());
+        // The cursor stays where it is in what is being typed.
+        const int Cursor = W->lineEdit() ? W->lineEdit()->cursorPosition() : 0;
+        if (W->currentIndex() != C.List_Index()) W->setCurrentIndex(C.List_Index());
         if (W->isEditable()) {
             if (W->currentText() != To_Screen(C.Text())) W->setEditText(To_Screen(C.Text()));
+            if (C.Half_Typed()) W->lineEdit()->setCursorPosition(Cursor);
         } else if (C.List_Index() < 0) {
             W->setPlaceholderText(To_Screen(C.Text()));
         }
@@ -135,7 +158,10 @@ QComboBox* Form_View::Make(Combo_Box& C) {
     if (W->lineEdit()) {
         W->lineEdit()->setProperty("control", W->objectName());
         connect(W->lineEdit(), &QLineEdit::textEdited, this, [this, &C](const QString& Text) {
-            Act([&C, &Text](Desktop&) { C.Set_Text(From_Screen(Text)); });
+            Act([&C, &Text](Desktop& D) {
+                D.User_Focus(C);
+                C.User_Type(From_Screen(Text));
+            });
         });
     }
     return W;
@@ -146,19 +172,13 @@ QLineEdit* Form_View::Make(Text_Box& C) {
     Bind(C, W, [&C, W, Selections = std::uint32_t{0}]() mutable {
         W->setReadOnly(C.Read_Only);
         if (W->text() != To_Screen(C.Text())) W->setText(To_Screen(C.Text()));
-        if (std::exchange(Selections, *C.Select_All_Count) != *C.Select_All_Count) W->selectAll();
+        const bool Select = std::exchange(Selections, *C.Select_All_Count) != *C.Select_All_Count;
+        if (Select && !C.Half_Typed()) W->selectAll(); // not over what was typed meanwhile
         // The required widths are for a narrower face than ours.
         if (*C.Width != 0) W->setFixedWidth(*C.Width * 4 / 3 / Twips_Per_Pixel);
     });
     connect(W, &QLineEdit::textEdited, this, [this, &C](const QString& Text) {
         Act([&C, &Text](Desktop& D) { D.User_Type(C, From_Screen(Text)); });
-    });
-    // Enter takes the text over as leaving the box does, and stays in it.
-    connect(W, &QLineEdit::returnPressed, this, [this, &C] {
-        Act([&C](Desktop& D) {
-            if (D.Focus == &C) D.Set_Focus(nullptr);
-            if (D.Usable(C) && !D.Focus) D.User_Focus(C);
-        });
     });
     return W;
 }
@@ -166,6 +186,7 @@ QLineEdit* Form_View::Make(Text_Box& C) {
 QPlainTextEdit* Form_View::Make_Pane(Text_Box& C) {
     auto* W = new QPlainTextEdit(this);
     W->setReadOnly(true);
+    W->setTabChangesFocus(true);
     W->setFont(Sentence_Font());
     W->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     Bind(C, W, [&C, W] {
@@ -238,6 +259,7 @@ QTableView* Form_View::Make(Grid& C) {
     W->setEditTriggers(QAbstractItemView::NoEditTriggers);
     W->setSelectionBehavior(QAbstractItemView::SelectRows);
     W->setSelectionMode(QAbstractItemView::SingleSelection);
+    W->setTabKeyNavigation(false); // arrows walk the cells, Tab goes on to the next control
     Bind(C, W, [&C, W, Model] {
         // A table that stands at its end stays there while rows come.
         const auto* Bar = W->verticalScrollBar();
@@ -292,10 +314,18 @@ QWidget* Form_View::Widget_Of(const Control& C) const {
     return nullptr;
 }
 
-Control* Form_View::Control_Of(const QObject* W) const {
-    for (const Binding& B : Bindings)
-        if (B.Widget == W) return B.Source;
+Form_View::Binding* Form_View::Binding_Of(const QObject* W) {
+    for (Binding& B : Bindings)
+        if (B.Widget == W || B.Pressed == W) return &B;
     return nullptr;
+}
+
+bool Form_View::Keyboard_Is_At_Focus() const {
+    const auto F = Source.lock();
+    QWidget* const Has_It = QApplication::focusWidget();
+    if (!F || !Has_It || !isAncestorOf(Has_It)) return true;
+    const Control* const Focus = F->Windows.Focus;
+    return Focus && Widget_Of(*Focus) == Has_It;
 }
 
 void Form_View::paintEvent(QPaintEvent* Wanted) {
@@ -320,20 +350,71 @@ bool Form_View::Preview_Key(const QKeyEvent& Pressed) {
     return true;
 }
 
+// The keyboard came to a control.
+void Form_View::Enter(Binding& B, Qt::FocusReason Why) {
+    const auto F = Source.lock();
+    Control& C = *B.Source;
+    Desktop& Windows = F->Windows;
+    if (Windows.Focus == &C || !C.Can_Focus()) return;
+    // Back from another window, the keyboard is where the toolkit left it; the model may have moved since.
+    const bool Back = Why == Qt::ActiveWindowFocusReason || Why == Qt::PopupFocusReason ||
+                      Why == Qt::MenuBarFocusReason;
+    if (Back && Windows.Focus && &Windows.Focus->Owner == F.get()) return Follow_Focus(Windows);
+    const bool Opens = !Windows.Focus && F->Kind == Form_Kind::Dialog;
+    Act([&C](Desktop& D) { D.User_Focus(C); });
+    if (Windows.Focus != &C || Why == Qt::MouseFocusReason) return;
+    // At once: the first key may wait already, and what it types is not to be selected.
+    B.Show();
+    if (auto* Line = qobject_cast<QLineEdit*>(B.Widget); Line && Opens) Line->selectAll();
+}
+
+// A window that was not active when it was clicked tells of its new focus late or never.
+void Form_View::Press(Binding& B, const QMouseEvent& Pressed) {
+    Control& C = *B.Source;
+    const bool Left = Pressed.button() == Qt::LeftButton;
+    if (C.Kind == Control_Kind::Label)
+        Act([&C, Left](Desktop& D) { D.User_Click(C, Left ? Mouse_Button::Left : Mouse_Button::Right); });
+    else if (C.Can_Focus() && C.Owner.Windows.Focus != &C && B.Widget->focusPolicy() & Qt::ClickFocus)
+        Act([&C](Desktop& D) { D.User_Focus(C); });
+}
+
+// True: the key is used up.
+bool Form_View::Type_Key(Binding& B, const QKeyEvent& Pressed) {
+    if (Preview_Key(Pressed)) return true;
+    if (B.Source->Kind != Control_Kind::Text_Box && B.Source->Kind != Control_Kind::Combo_Box) return false;
+    const auto& Typed = static_cast<const Typed_Control&>(*B.Source);
+    const bool Enter = Pressed.key() == Qt::Key_Return || Pressed.key() == Qt::Key_Enter;
+    const bool Restores = Pressed.key() == Qt::Key_Escape && Typed.Half_Typed();
+    const bool Editable = B.Source->Kind == Control_Kind::Text_Box || static_cast<const Combo_Box&>(Typed).Free_Text;
+    if (!Editable || (!Enter && !Restores)) return false;
+    const auto F = Source.lock();
+    const std::uint64_t Refused_Before = F->Windows.Refusals;
+    Act([&](Desktop& D) { D.User_Key(*F, Enter ? key::Enter : key::Escape); });
+    B.Show();
+    // A dialog does not go on to OK over what it has just refused.
+    return Restores || F->Windows.Refusals != Refused_Before;
+}
+
 bool Form_View::eventFilter(QObject* Watched, QEvent* Happened) {
-    Control* C = Source.expired() ? nullptr : Control_Of(Watched);
-    if (!C) return QWidget::eventFilter(Watched, Happened);
-    if (Happened->type() == QEvent::FocusIn) {
-        const auto Reason = static_cast<QFocusEvent*>(Happened)->reason();
+    Binding* B = Source.expired() ? nullptr : Binding_Of(Watched);
+    if (!B) return QWidget::eventFilter(Watched, Happened);
+    const auto Kept = Source.lock(); // a handler may close the window
+    switch (Happened->type()) {
+    case QEvent::FocusIn:
+        if (Watched != B->Widget) break;
         if (Following)
-            Moved_To = C->Can_Focus() ? C : nullptr;
-        else if (Reason != Qt::ActiveWindowFocusReason && Reason != Qt::PopupFocusReason && C->Can_Focus())
-            Act([C](Desktop& D) { D.User_Focus(*C); });
-    } else if (Happened->type() == QEvent::MouseButtonPress && C->Kind == Control_Kind::Label) {
-        const bool Left = static_cast<QMouseEvent*>(Happened)->button() == Qt::LeftButton;
-        Act([C, Left](Desktop& D) { D.User_Click(*C, Left ? Mouse_Button::Left : Mouse_Button::Right); });
-    } else if (Happened->type() == QEvent::KeyPress) {
-        if (Preview_Key(*static_cast<QKeyEvent*>(Happened))) return true;
+            Moved_To = B->Source->Can_Focus() ? B->Source : nullptr;
+        else
+            Enter(*B, static_cast<QFocusEvent*>(Happened)->reason());
+        break;
+    case QEvent::MouseButtonPress: Press(*B, *static_cast<QMouseEvent*>(Happened)); break;
+    case QEvent::MouseButtonRelease:
+        if (B->Source->Can_Focus()) B->Show(); // selects what is to be selected before a key can come
+        break;
+    case QEvent::KeyPress:
+        if (Watched == B->Widget && Type_Key(*B, *static_cast<QKeyEvent*>(Happened))) return true;
+        break;
+    default: break;
     }
     return QWidget::eventFilter(Watched, Happened);
 }

@@ -16,10 +16,13 @@
 #include <QTableView>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
 namespace brinewright {
+
+class Callout;
 
 // Between the program's texts (8-bit Latin-1, may hold a NUL) and the toolkit's. What Latin-1 cannot hold
 // becomes "?".
@@ -53,6 +56,9 @@ class Form_View : public QWidget {
     void When_Shown(std::function<void()> Look) { Looks.push_back(std::move(Look)); }
 
     void Refresh(); // follows the controls that have changed since the last call
+    // Whether the widget that has the keyboard is that of the control that has the focus, or none of this
+    // window's has it. So it is after each key and click.
+    bool Keyboard_Is_At_Focus() const;
     QWidget* Widget_Of(const Control& C) const;
     std::shared_ptr<Form> Shown_Form() const { return Source.lock(); }
     Simulator& Sim; // for painted instruments that show more than controls
@@ -72,20 +78,26 @@ class Form_View : public QWidget {
     struct Binding {
         Visible_Control* Source;
         QWidget* Widget;
+        QWidget* Pressed; // what the mouse meets: the widget itself or what lies in it
         std::function<void()> Show;
         std::uint64_t Seen = ~std::uint64_t{0};
         bool Was_Shown = false; // a frame may hide it without its being touched
     };
 
     void Bind(Visible_Control& C, QWidget* W, std::function<void()> Show);
-    void Show_Common(const Visible_Control& C, QWidget* W) const;
-    Control* Control_Of(const QObject* W) const;
+    void Show_Common(const Visible_Control& C, QWidget* W);
+    void Show_Refusal(const Typed_Control& C, QWidget* W);
+    Binding* Binding_Of(const QObject* W);
     void Follow_Focus(const Desktop& Windows);
+    void Enter(Binding& B, Qt::FocusReason Why);
+    void Press(Binding& B, const QMouseEvent& Pressed);
+    bool Type_Key(Binding& B, const QKeyEvent& Pressed);
     bool Preview_Key(const QKeyEvent& Pressed);
 
     std::weak_ptr<Form> Source;
     std::vector<Binding> Bindings;
     std::vector<std::function<void()>> Looks;
+    std::map<const QWidget*, Callout*> Callouts;
     std::uint64_t Seen = ~std::uint64_t{0};
     bool Following = false;              // the view moves the focus itself: no report
     Control* Moved_To = nullptr;         // where the focus went meanwhile

@@ -6,6 +6,10 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 namespace brinewright {
 
 namespace {
@@ -17,30 +21,58 @@ QString File_Filter(const std::string& Filter) {
                             : Parts[0].section(QStringLiteral(" ("), 0, 0) + " (" + Parts[1] + ")";
 }
 
+constexpr std::pair<Box_Button, QMessageBox::StandardButton> Toolkit_Buttons[] = {
+    {Box_Button::OK, QMessageBox::Ok},
+    {Box_Button::Cancel, QMessageBox::Cancel},
+    {Box_Button::Yes, QMessageBox::Yes},
+    {Box_Button::No, QMessageBox::No}};
+
+QMessageBox::StandardButton Toolkit_Button(Box_Button Ours) {
+    return Toolkit_Buttons[static_cast<std::size_t>(Ours)].second;
+}
+
+std::optional<Box_Button> Pressed_Button(int Result) {
+    for (const auto& [Ours, Its] : Toolkit_Buttons)
+        if (Its == Result) return Ours;
+    return std::nullopt;
+}
+
 } // namespace
 
 Box_View::Box_View(Simulator& Its_Simulator, QWidget& Its_Window)
     : QObject(&Its_Window), Sim(Its_Simulator), Window(Its_Window) {}
 
 void Box_View::Follow() {
+    Take_Answered_Away();
     Follow_Boxes();
     Follow_File_Dialogs();
 }
 
-void Box_View::Follow_Boxes() {
-    const auto& Standing = Sim.Windows.Boxes.Standing;
-    const bool Still_Stands = Box && !Standing.empty() && Standing.front().Id == Box_Id;
-    if (Still_Stands) return;
-    if (Box) {
+void Box_View::Take_Answered_Away() {
+    const auto Stands = [](const auto& Questions, std::int64_t Id) {
+        return std::any_of(Questions.begin(), Questions.end(), [Id](const auto& Q) { return Q.Id == Id; });
+    };
+    if (Box && !Stands(Sim.Windows.Boxes.Standing, Box_Id)) {
+        Box->disconnect(this);
+        Box->hide();
         Box->deleteLater();
         Box = nullptr;
     }
-    if (Standing.empty()) return;
+    if (Asking && !Stands(Sim.Windows.File_Dialogs, Asked_Id)) {
+        Asking->disconnect(this);
+        Asking->close();
+        Asking = nullptr;
+    }
+}
+
+void Box_View::Follow_Boxes() {
+    const auto& Standing = Sim.Windows.Boxes.Standing;
+    if (Box || Standing.empty()) return;
     const Message_Box& Front = Standing.front();
     constexpr QMessageBox::Icon Icons[] = {QMessageBox::NoIcon, QMessageBox::Information,
                                            QMessageBox::Warning, QMessageBox::Critical};
-    const QMessageBox::StandardButtons Cancel =
-        Front.Buttons == Box_Buttons::OK_Cancel ? QMessageBox::Cancel : QMessageBox::NoButton;
+    QMessageBox::StandardButtons Buttons;
+    for (const Box_Button Button : Buttons_Of(Front.Buttons)) Buttons |= Toolkit_Button(Button);
     Box_Id = Front.Id;
     // Over the dialog that the user is in, so that the keyboard goes back there.
     QWidget* const User_Is_In = QApplication::activeWindow();
@@ -48,26 +80,20 @@ void Box_View::Follow_Boxes() {
     QWidget* const Below = In_Dialog ? User_Is_In : &Window;
     Box = new QMessageBox(Icons[static_cast<int>(Front.Icon)],
                           Front.Title.empty() ? QStringLiteral("Brinewright") : To_Screen(Front.Title),
-                          To_Screen(Front.Text), QMessageBox::Ok | Cancel, Below);
+                          To_Screen(Front.Text), Buttons, Below);
     Box->setTextFormat(Qt::PlainText);
-    connect(Box, &QMessageBox::finished, this, [this, Id = Box_Id] {
-        Sim.Windows.Event([&] { Sim.Windows.Boxes.Answer(Id); });
+    connect(Box, &QMessageBox::finished, this, [this, Id = Box_Id](int Result) {
+        Sim.Windows.Event([&] { Sim.Windows.Boxes.Answer(Id, Pressed_Button(Result)); });
         Q_EMIT Acted();
     });
-    Box->setDefaultButton(QMessageBox::Ok);
+    Box->setDefaultButton(Toolkit_Button(Buttons_Of(Front.Buttons).front()));
     Box->open();
     Box->activateWindow();
 }
 
-// One that automation has answered goes away.
 void Box_View::Follow_File_Dialogs() {
     const auto& Questions = Sim.Windows.File_Dialogs;
-    if (!Questions.empty() && Questions.front().Id == Asked_Id) return;
-    if (Asking) {
-        Asking->disconnect(this);
-        Asking->close();
-    }
-    if (Questions.empty()) return;
+    if (Asking || Questions.empty()) return;
     const File_Dialog& Question = Questions.front();
     Asked_Id = Question.Id;
     Asking = new QFileDialog(&Window, To_Screen(Question.Title), QString::fromStdString(Question.Folder),

@@ -19,6 +19,7 @@ class Box_View : public QObject {
     Box_View(Simulator& Its_Simulator, QWidget& Its_Window);
 
     void Follow();
+    void Take_Answered_Away(); // at once, and not with the next look
 
   Q_SIGNALS:
     void Acted(); // the user has answered

@@ -47,7 +47,8 @@ void Child_Window::Add_Small(QWidget* Contents) { Forms->addWidget(Contents); }
 void Child_Window::Show_Small(bool Small) {
     Forms->setCurrentIndex(Small ? 1 : 0);
     Button->setText(Small ? QStringLiteral(u"\u25A3") : QStringLiteral("\u25AB"));
-    Button->setToolTip(Small ? QStringLiteral("The whole window") : QStringLiteral("Small: value, state and sentences"));
+    Button->setToolTip(Small ? QStringLiteral("The whole window")
+                             : QStringLiteral("Small: value, state and sentences"));
     Button->setVisible(Forms->count() > 1);
     Place_Button();
 }

@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace brinewright {
 
@@ -37,6 +38,10 @@ Desktop_View::Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme)
     Column->addWidget(Strip);
     Column->addWidget(Area);
     setCentralWidget(Centre);
+    connect(Area, &Working_Area::Resized, this, [this](const QSize& Room) {
+        Sim.Windows.Room_Width = static_cast<float>(Room.width() * Twips_Per_Pixel);
+        Sim.Windows.Room_Height = static_cast<float>(Room.height() * Twips_Per_Pixel);
+    });
     connect(Menus, &Menu_Bar::Acted, this, &Desktop_View::Follow);
     connect(Boxes, &Box_View::Acted, this, &Desktop_View::Follow);
     Look.setSingleShot(true);
@@ -65,6 +70,7 @@ void Desktop_View::Open() {
 }
 
 void Desktop_View::Look_Soon() {
+    Boxes->Take_Answered_Away();
     if (Sim.Windows.Revision != Seen && !Look.isActive()) Look.start(Look_Pause_ms);
 }
 
@@ -111,9 +117,16 @@ void Desktop_View::Follow_Windows() {
         }
         Window->Follow();
     }
+    if (const Handler Arrange = std::exchange(Sim.Windows.When_Measured, nullptr)) {
+        Sim.Windows.Event(Arrange);
+        for (const auto& [F, Window] : Shown) Window->Follow();
+    }
     const Form* Active = Sim.Windows.Active_Form;
     const auto Found = Shown.find(Active);
-    if (Active != Active_Seen && Found != Shown.end()) Found->second->Activate();
+    // Also when the user chose another one, but a box that he left took the focus back.
+    const bool Another = Found != Shown.end() && Area->activeSubWindow() != Found->second->Frame_Widget();
+    const bool Is_Child = Active && Active->Kind == Form_Kind::Child;
+    if (Found != Shown.end() && (Active != Active_Seen || (Is_Child && Another))) Found->second->Activate();
     Active_Seen = Active;
 }
 

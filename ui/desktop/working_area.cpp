@@ -8,8 +8,14 @@
 namespace brinewright {
 
 Working_Area::Working_Area(const Theme& Its_Theme, QWidget* Parent) : QMdiArea(Parent), Colours(Its_Theme) {
+    setFocusPolicy(Qt::NoFocus); // the keyboard is a control's
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+void Working_Area::resizeEvent(QResizeEvent* Happened) {
+    QMdiArea::resizeEvent(Happened);
+    Q_EMIT Resized(viewport()->size());
 }
 
 void Working_Area::paintEvent(QPaintEvent*) {

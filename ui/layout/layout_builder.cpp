@@ -161,4 +161,13 @@ void Lay_Out(Form_View& View, Form& Shown) {
     View.Refresh();
 }
 
+bool Has_Small_Form(const Form_View& View, const Form& Shown) {
+    const Window_Class* Class = Find_Class(View.Sim, Shown.Name);
+    return Class && Class->Lay_Out_Small;
+}
+
+void Lay_Out_Small(Form_View& View, Form& Shown) {
+    Build_Layout(View, Find_Class(View.Sim, Shown.Name)->Lay_Out_Small(View.Sim, Shown));
+}
+
 } // namespace brinewright

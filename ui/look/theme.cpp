@@ -57,6 +57,8 @@ QHeaderView::section { background: @Panel; color: @Dim; border: 0; border-bottom
 QTableCornerButton::section { background: @Panel; border: 0; }
 QLineEdit:focus, QPlainTextEdit:focus, QComboBox:focus, QTableView:focus { border: 1px solid @Accent; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled { background: @Panel; color: @Dim; }
+QLineEdit[refused="true"], QComboBox[refused="true"] { border: 1px solid @Bad; color: @Bad; }
+QLabel#refusal { background: @Field; color: @Bad; border: 1px solid @Bad; border-radius: 3px; padding: 2px 6px; }
 QComboBox::drop-down { width: 18px; border: 0; }
 QComboBox::down-arrow { width: 0; height: 0; border-left: 4px solid @Field; border-right: 4px solid @Field;
     border-top: 5px solid @Text; margin-right: 4px; }
