@@ -90,6 +90,10 @@ class Desktop {
     std::vector<File_Dialog> File_Dialogs;
     std::vector<std::shared_ptr<Form>> Forms; // open ones, in opening order
     Form* Active_Form = nullptr;
+    // The room for child windows, which a view measures: at first that of a small display.
+    // Runs once when views have measured the windows that opened in the same event.
+    Handler When_Measured;
+    float Room_Width = 20'100, Room_Height = 10'200;
     std::uint64_t Revision = 0;      // grows with every change that views show
     std::vector<Handler> On_Settled; // after each outermost event: views, watches
 

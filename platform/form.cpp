@@ -34,7 +34,18 @@ void Form::Set_Caption(std::string New) {
 void Form::Set_Place(float New_Left, float New_Top, float New_Width, float New_Height) {
     Left = New_Left;
     Top = New_Top;
+    Unplaced = false;
     Resize(New_Width, New_Height);
+}
+
+void Form::Set_State(Window_State New) {
+    State = New;
+    Revision = ++Windows.Revision;
+}
+
+void Form::Set_Small(bool New) {
+    Small = New;
+    Revision = ++Windows.Revision;
 }
 
 void Form::Resize(float New_Width, float New_Height) {

@@ -37,6 +37,8 @@ struct Form : std::enable_shared_from_this<Form> {
     void Set_Caption(std::string New);
     void Set_Place(float New_Left, float New_Top, float New_Width, float New_Height);
     void Resize(float New_Width, float New_Height); // runs On_Resize
+    void Set_State(Window_State New);
+    void Set_Small(bool New);
 
     Desktop& Windows;
     const std::string Name;
@@ -48,6 +50,11 @@ struct Form : std::enable_shared_from_this<Form> {
     float Left = 0, Top = 0, Width = 0, Height = 0;
     std::string Under; // path of the control below which a dialog opens; empty: at its place
     Window_State State = Window_State::Normal;
+    bool Small = false; // it shows its small form, where it has one
+    // Nobody has given it a place yet: it takes one where there is room.
+    bool Unplaced = true;
+    // What its contents take, as a view measured; 0 while none has.
+    float Needs_Width = 0, Needs_Height = 0;
     bool Key_Preview = false; // the form sees the keys before its controls do
     bool Loaded = false;
     std::uint64_t Last_Active = 0; // grows from window to window as they are chosen

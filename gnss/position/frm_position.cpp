@@ -2,6 +2,7 @@
 
 #include "gnss/gnss_state.hpp"
 #include "gnss/position/position_parts.hpp"
+#include "ownship/geodesy/format_position.hpp"
 #include "ownship/navdata_state.hpp"
 #include "shell/kit/kept_choice.hpp"
 #include "shell/state/shell_state.hpp"
@@ -98,6 +99,11 @@ void Form_Load(Simulator& Sim, frmPosition& W) {
     Start_Enabled_Sentences(W.Sentences);
 }
 
+std::string Value_Now(const Simulator_State& S, int Instance) {
+    return Format_DM(S.Of<GNSS_State>().GNSS_Lat[Instance], "LAT", "Form", 2) + "  " +
+           Format_DM(S.Of<GNSS_State>().GNSS_Lon[Instance], "LON", "Form", 2);
+}
+
 } // namespace
 
 frmPosition::frmPosition(Desktop& Its_Windows, int Its_Instance)
@@ -122,6 +128,8 @@ const Window_Class GNSS_Windows{
     .Make = Make_Instance<frmPosition>,
     .Load = Load_Sensor<frmPosition, Form_Load>,
     .Lay_Out = Lay_Out_Position,
+    .Lay_Out_Small = Lay_Out_Small_Position,
+    .Value_Now = Value_Now,
     .Sentences = GNSS_Sentences()};
 
 void Fit_Width(Simulator& Sim, frmPosition& W) {

@@ -264,5 +264,6 @@ struct frmPosition : Sensor_Form {
 };
 
 Layout Lay_Out_Position(Simulator& Sim, Form& Shown);
+Layout Lay_Out_Small_Position(Simulator& Sim, Form& Shown);
 
 } // namespace brinewright

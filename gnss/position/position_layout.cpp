@@ -176,6 +176,10 @@ Layout Fix_Box(const Simulator& Sim, frmPosition& W) {
                                Column({Messages(Sim, W), Places, Quality_Box(W), Modes_Box(W), Stretch()})}));
 }
 
+Layout Place_Line(const char* Title, Label& Value) {
+    return Row({Text(Title), Readout(Value, 18, "000\xB0 00.0000' N")});
+}
+
 // The frames to the right are there only when the window is wide enough for all as far as this one.
 std::function<bool()> Has_Room(const frmPosition& W, const Frame& Last) {
     return [&W, &Last] {
@@ -199,6 +203,14 @@ Layout Lay_Out_Position(Simulator& Sim, Form& Shown) {
     return Window({State_Line(Sim, W, W.cmdPause, W.timer_Simulator, "position stands still"),
                    Row({Fix_Box(Sim, W), GSA_Box(W).Shown_When(Has_Room(W, W.frmGSA)), Last}).Wide(),
                    Ticker(Sim, W)});
+}
+
+Layout Lay_Out_Small_Position(Simulator& Sim, Form& Shown) {
+    auto& W = static_cast<frmPosition&>(Shown);
+    return Small_Window(Sim, W, true,
+                        {Column({Place_Line("Lat", W.lblLat), Place_Line("Lon", W.lblLon),
+                                 Row({Small_Value("SOG", W.lblSOG, "000.0", "knots"),
+                                      Small_Value("COG", W.lblCOG, "000.0", "deg")})})});
 }
 
 } // namespace brinewright

@@ -29,4 +29,9 @@ Layout Lay_Out_Echosounder(Simulator& Sim, Form& Shown) {
                    Ticker(Sim, W)});
 }
 
+Layout Lay_Out_Small_Echosounder(Simulator& Sim, Form& Shown) {
+    auto& W = static_cast<frmEchosounder&>(Shown);
+    return Small_Window(Sim, W, false, {Small_Value("Depth", W.lblCurrentDepth, "0000.00", "meter")});
+}
+
 } // namespace brinewright

@@ -92,6 +92,10 @@ void Form_Load(Simulator& Sim, frmEchosounder& W) {
     Start_Enabled_Sentences(W.Sentences);
 }
 
+std::string Value_Now(const Simulator_State& S, int) {
+    return Format_Dot(S.Of<Echo_State>().Echo_Depth, "0.0") + " meter";
+}
+
 } // namespace
 
 frmEchosounder::frmEchosounder(Desktop& Its_Windows, int Its_Instance)
@@ -110,6 +114,8 @@ const Window_Class Echosounder_Windows{
     .Make = Make_Instance<frmEchosounder>,
     .Load = Load_Sensor<frmEchosounder, Form_Load>,
     .Lay_Out = Lay_Out_Echosounder,
+    .Lay_Out_Small = Lay_Out_Small_Echosounder,
+    .Value_Now = Value_Now,
     .Sentences = Rows,
     // The log of the same number, if it is open: this slip is required.
     .Focused_Instead = "frmLog"};

@@ -54,5 +54,6 @@ struct frmEchosounder : Sensor_Form {
 };
 
 Layout Lay_Out_Echosounder(Simulator& Sim, Form& Shown);
+Layout Lay_Out_Small_Echosounder(Simulator& Sim, Form& Shown);
 
 } // namespace brinewright

@@ -216,6 +216,10 @@ void Form_Load(Simulator& Sim, frmGyro& W) {
     Start_Enabled_Sentences(W.Sentences);
 }
 
+std::string Value_Now(const Simulator_State& S, int Instance) {
+    return Format_Dot(S.Of<Gyro_State>().Gyro_HDG[Instance], "000.0") + " deg";
+}
+
 } // namespace
 
 frmGyro::frmGyro(Desktop& Its_Windows, int Its_Instance)
@@ -233,6 +237,8 @@ const Window_Class Gyro_Windows{
     .Make = Make_Instance<frmGyro>,
     .Load = Load_Sensor<frmGyro, Form_Load>,
     .Lay_Out = Lay_Out_Gyro,
+    .Lay_Out_Small = Lay_Out_Small_Gyro,
+    .Value_Now = Value_Now,
     .Sentences = Rows};
 
 } // namespace brinewright

@@ -113,5 +113,6 @@ struct frmGyro : Sensor_Form {
 };
 
 Layout Lay_Out_Gyro(Simulator& Sim, Form& Shown);
+Layout Lay_Out_Small_Gyro(Simulator& Sim, Form& Shown);
 
 } // namespace brinewright

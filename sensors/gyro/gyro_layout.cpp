@@ -69,4 +69,11 @@ Layout Lay_Out_Gyro(Simulator& Sim, Form& Shown) {
          Ticker(Sim, W)});
 }
 
+Layout Lay_Out_Small_Gyro(Simulator& Sim, Form& Shown) {
+    auto& W = static_cast<frmGyro&>(Shown);
+    return Small_Window(Sim, W, true,
+                        {Small_Value("Heading", W.lblCurrentHdg, "-000.00", "deg"),
+                         Small_Value("Rate of turn", W.lblCurrentRot, "-000.00", "deg/min")});
+}
+
 } // namespace brinewright

@@ -163,6 +163,10 @@ void Form_Load(Simulator& Sim, frmLog& W) {
     Start_Enabled_Sentences(W.Sentences);
 }
 
+std::string Value_Now(const Simulator_State& S, int Instance) {
+    return Format_Dot(S.Of<Log_State>().Log_Speed[Instance], "0.0") + " knots";
+}
+
 } // namespace
 
 frmLog::frmLog(Desktop& Its_Windows, int Its_Instance)
@@ -181,6 +185,8 @@ const Window_Class Log_Windows{.Name = frmLog::Class_Name,
                                .Make = Make_Instance<frmLog>,
                                .Load = Load_Sensor<frmLog, Form_Load>,
                                .Lay_Out = Lay_Out_Log,
+                               .Lay_Out_Small = Lay_Out_Small_Log,
+                               .Value_Now = Value_Now,
                                .Sentences = Rows,
                                .Width = Width};
 

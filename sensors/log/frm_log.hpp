@@ -54,5 +54,6 @@ struct frmLog : Sensor_Form {
 };
 
 Layout Lay_Out_Log(Simulator& Sim, Form& Shown);
+Layout Lay_Out_Small_Log(Simulator& Sim, Form& Shown);
 
 } // namespace brinewright

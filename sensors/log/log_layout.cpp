@@ -28,4 +28,10 @@ Layout Lay_Out_Log(Simulator& Sim, Form& Shown) {
                    Row({Dim(W.lblVLW).Wide(), W.cmdResetVLW}), Routing(W), Ticker(Sim, W)});
 }
 
+Layout Lay_Out_Small_Log(Simulator& Sim, Form& Shown) {
+    auto& W = static_cast<frmLog&>(Shown);
+    return Small_Window(Sim, W, true,
+                        {Small_Value("Speed through water", W.lblCurrentSpeed, "00.00", "knots")});
+}
+
 } // namespace brinewright

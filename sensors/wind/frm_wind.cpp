@@ -150,6 +150,11 @@ void Form_Load(Simulator& Sim, frmWind& W) {
     Start_Enabled_Sentences(W.Sentences);
 }
 
+std::string Value_Now(const Simulator_State& S, int Instance) {
+    return "from " + Format_Dot(S.Of<Wind_State>().Wind_Direction[Instance], "000") + " deg, " +
+           Format_Dot(S.Of<Wind_State>().Wind_Speed[Instance], "0.0");
+}
+
 } // namespace
 
 frmWind::frmWind(Desktop& Its_Windows, int Its_Instance)
@@ -165,6 +170,8 @@ const Window_Class Wind_Windows{
     .Make = Make_Instance<frmWind>,
     .Load = Load_Sensor<frmWind, Form_Load>,
     .Lay_Out = Lay_Out_Wind,
+    .Lay_Out_Small = Lay_Out_Small_Wind,
+    .Value_Now = Value_Now,
     .Sentences = Rows};
 
 void CalculateRelativeWind(Simulator& Sim, frmWind& W, int k) {

@@ -101,5 +101,6 @@ struct frmWind : Sensor_Form {
 void CalculateRelativeWind(Simulator& Sim, frmWind& W, int k);
 
 Layout Lay_Out_Wind(Simulator& Sim, Form& Shown);
+Layout Lay_Out_Small_Wind(Simulator& Sim, Form& Shown);
 
 } // namespace brinewright

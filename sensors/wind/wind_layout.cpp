@@ -69,4 +69,11 @@ Layout Lay_Out_Wind(Simulator& Sim, Form& Shown) {
          Ticker(Sim, W)});
 }
 
+Layout Lay_Out_Small_Wind(Simulator& Sim, Form& Shown) {
+    auto& W = static_cast<frmWind&>(Shown);
+    return Small_Window(Sim, W, false,
+                        {Small_Value("Angle", W.lblWindAngle, "000.00", "deg"),
+                         Small_Value("Speed", W.lblWindSpeed, "00.00", "")});
+}
+
 } // namespace brinewright

@@ -119,6 +119,19 @@ Layout Ticker(const Simulator& Sim, const Sensor_Form& W) {
     return Layout(layout::Ticker{[&Sim, Index = W.Form_Index] { return Sim.Last_Sentence[Index]; }});
 }
 
+Layout Small_Window(const Simulator& Sim, Sensor_Form& W, bool Follows_Ship, std::vector<Layout> Values) {
+    constexpr int Boxes_In_Line = 4;
+    std::vector<Layout> Boxes;
+    for (Sentence_Line& Line : W.Sentences.Lines) Boxes.emplace_back(Line.Box);
+    return Window({State_Line(Sim, W, Follows_Ship).Wrapped(), Row(std::move(Values)).Then(Stretch()).Wide(),
+                   Cells_By_Lines(Boxes_In_Line, std::move(Boxes), {.Across = rhythm::Gap, .Down = 2})});
+}
+
+Layout Small_Value(const char* Title, Label& Value, layout::Measure Widest, const char* Unit) {
+    constexpr int Figures = 22;
+    return Column({Text(Title), Readout(Value, Figures, std::move(Widest), Text(Unit))}).Spaced(0);
+}
+
 Layout Key_Catcher(Text_Box& Box) {
     Layout New = Place(Box);
     New.What = layout::Key_Catcher{};

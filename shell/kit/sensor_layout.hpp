@@ -49,6 +49,10 @@ Layout Routing(Sensor_Form& W, const std::vector<std::pair<Label*, Combo_Box*>>&
 // The last sentence of the sensor that left.
 Layout Ticker(const Simulator& Sim, const Sensor_Form& W);
 
+// A sensor window in its small form: state, values and which sentences leave.
+Layout Small_Window(const Simulator& Sim, Sensor_Form& W, bool Follows_Ship, std::vector<Layout> Values);
+Layout Small_Value(const char* Title, Label& Value, layout::Measure Widest, const char* Unit);
+
 // The box that has the focus while the keyboard steers, not to be seen.
 Layout Key_Catcher(Text_Box& Box);
 

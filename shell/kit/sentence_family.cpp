@@ -141,6 +141,7 @@ bool No_Checksum(const Simulator& Sim) { return Sim.State.Of<Fault_State>().Faul
 
 void Send_Sentence(Simulator& Sim, std::string Text, Sensor_Form& Window, std::int16_t Line,
                    std::int16_t Lines) {
+    if (Sim.State.Of<Link_State>().Silenced[Window.Form_Index]) return;
     const std::int16_t Port = Sim.State.Of<Link_State>().Sensor_Table[Window.Form_Index].Port;
     // A setup file can name a port that does not exist. It has no counters for a tag block, and nothing
     // leaves there.

@@ -1,5 +1,6 @@
 #include "links/links_at_start.hpp"
 #include "sentences/number_text.hpp"
+#include "shell/arrange/window_layouts.hpp"
 #include "shell/main/file_menu.hpp"
 #include "shell/main/frm_main.hpp"
 #include "shell/state/fault_state.hpp"
@@ -57,7 +58,7 @@ struct Command {
 };
 
 constexpr int Alone = Control::No_Index;
-constexpr const char* Menu_Order[] = {"File", "Mode", "Setup", "Window", "Options", "Help"};
+constexpr const char* Menu_Order[] = {"File", "Mode", "Setup", "View", "Window", "Options", "Help"};
 
 constexpr Command Commands[] = {
     {"mnuFileOpen", "File", "&Open", Alone, 1, mnuFileOpen_Click},
@@ -72,6 +73,9 @@ constexpr Command Commands[] = {
      [](const Simulator& Sim) { return Sim.State.Of<Shell_State>().Start_With_Last_Navdata; }},
     {"mnuSetupOpenLinks", "Setup", "Open network links at start", Alone, 5, mnuSetupOpenLinks_Click,
      Opens_Network_Links},
+    {"mnuWindowTile", "Window", "&Tile", Alone, 20, Tile},
+    {"mnuWindowCascade", "Window", "C&ascade", Alone, 21, Cascade},
+    {"mnuWindowCloseAll", "Window", "Close a&ll", Alone, 22, Close_All},
     {"mnuOptionsChecksumDisabled", "Options", "Checksum disabled", Alone, 2,
      [](Simulator& Sim) {
          Switch(Sim, Sim.State.Of<Fault_State>().Fault_No_Checksum,
@@ -111,20 +115,32 @@ constexpr Command Commands[] = {
     {"mnuHelpSearch", "Help", "&Search For Help On...", Alone, 2, mnuHelp_Click},
 };
 
-// One entry of a menu, whatever stands behind it.
+constexpr const char* Layout_Name = "mnuViewLayout";
+constexpr int First_Layout_Place = 10;
+
+// One entry of a menu, whatever stands behind it: a command, a window or a named layout.
 struct Entry {
     const Command* Its_Command = nullptr;
     const Window_Class* Class = nullptr;
-    int Instance = 0;
+    int Instance = 0; // or the number of the layout
 
-    const char* Menu() const { return Its_Command ? Its_Command->Menu : Class->Entry.Menu; }
-    int Place() const { return Its_Command ? Its_Command->Place : Class->Entry.Place; }
-    const char* Name() const { return Its_Command ? Its_Command->Name : Class->Entry.Name; }
+    const char* Menu() const { return Its_Command ? Its_Command->Menu : Class ? Class->Entry.Menu : "View"; }
+    int Place() const {
+        if (Its_Command) return Its_Command->Place;
+        return Class ? Class->Entry.Place : First_Layout_Place + Instance;
+    }
+    const char* Name() const {
+        return Its_Command ? Its_Command->Name : Class ? Class->Entry.Name : Layout_Name;
+    }
     int Index() const {
         if (Its_Command) return Its_Command->Index;
+        if (!Class) return Instance;
         return Class->Count == 0 ? Alone : Class->First_Form_Index + Instance - 1;
     }
-    std::string Text() const { return Its_Command ? Its_Command->Text : Entry_Text(*Class, Instance); }
+    std::string Text() const {
+        if (Its_Command) return Its_Command->Text;
+        return Class ? Entry_Text(*Class, Instance) : std::string();
+    }
 };
 
 // In the order of the menus, in each by place.
@@ -134,6 +150,7 @@ std::vector<Entry> All_Entries(std::span<const Window_Class* const> Window_Table
     for (const Window_Class* Class : Window_Table)
         for (int I = Class->Count == 0 ? 0 : 1; Class->Entry.Name && I <= Class->Count; ++I)
             Entries.push_back({nullptr, Class, I});
+    for (int I = 1; I <= Most_Layouts; ++I) Entries.push_back({nullptr, nullptr, I});
     const auto Order = [](const Entry& E) {
         const auto* Menu = std::find_if(std::begin(Menu_Order), std::end(Menu_Order),
                                         [&](const char* M) { return std::strcmp(M, E.Menu()) == 0; });
@@ -161,6 +178,16 @@ void Show_Orders(Simulator& Sim) {
         const Window_Entry& E = Class->Entry;
         if (E.In_Ship_Mode_Only) Main.Item(E.Name).Enabled = In_Ship_Mode(Sim);
         if (E.Checked) Main.Item(E.Name).Checked = E.Checked(Sim);
+    }
+}
+
+// The user's own come and go.
+void Show_Layout_Names(Simulator& Sim) {
+    const std::vector<Window_Layout> All = All_Layouts(Sim);
+    for (int I = 1; I <= Most_Layouts; ++I) {
+        Menu_Item& Item = Main_Window(Sim).Item(Layout_Name, I);
+        Item.Visible = I <= static_cast<int>(All.size());
+        if (*Item.Visible) Item.Caption = "Layout: " + All[static_cast<std::size_t>(I - 1)].Name;
     }
 }
 
@@ -197,6 +224,11 @@ void Wire_Main(Simulator& Sim) {
         Main_Window(Sim).Item(E.Name(), E.Index()).Click = [&Sim, E] {
             if (E.Its_Command)
                 E.Its_Command->Click(Sim);
+            else if (!E.Class)
+                Show_Layout(Sim, E.Instance);
+            else if (Form* Open = Open_Form(Sim, E.Class->Name, E.Instance);
+                     Open && E.Class->Closes_When_Chosen)
+                Sim.Windows.Unload(*Open);
             else if (E.Class->Count != 0)
                 Open_Window_Of_Index(Sim, static_cast<std::int16_t>(E.Index()));
             else
@@ -210,7 +242,11 @@ void Wire_Main(Simulator& Sim) {
     Wire_Link_Panels(Sim);
     Wire_Output_Strip(Sim);
     Sim.Told.Windows.Add(&Sim, [&Sim] { Show_Open_Windows(Sim); });
-    Sim.Told.Switched.Add(&Sim, [&Sim] { Show_Orders(Sim); });
+    Show_Layout_Names(Sim);
+    Sim.Told.Switched.Add(&Sim, [&Sim] {
+        Show_Orders(Sim);
+        Show_Layout_Names(Sim);
+    });
 }
 
 } // namespace brinewright

@@ -129,6 +129,7 @@ void MDIForm_Load(Simulator& Sim) {
         Sim.Windows.Event(
             [&] { Open_Window_Of_Index(Sim, form_index::Ship); }); // before the sensors that it drives
     Open_Saved_Windows(Sim);
+    Open_Those_That_Come_Back(Sim);
     if (auto* const Ship = Open_One<frmShip>(Sim))
         Start_Joystick(Sim, *Ship); // once more: it may have come while the windows opened
     if (S.Of<Link_State>().Control_Input_Enabled) Start_Control_Input(Sim);

@@ -6,7 +6,7 @@ namespace brinewright {
 extern const Window_Class GNSS_Windows, Gyro_Windows, Log_Windows, Echosounder_Windows, Wind_Windows,
     Ship_Window, Ship_Setup_Window, Set_SOG_Window, Monitor_Window, Extended_Monitor_Window, Traffic_Window,
     TCP_Status_Window, IEC61162_Window, Geo_Format_Window, GNSS_Configuration_Windows, Port_Setup_Window,
-    Progress_Window, Comport_Info_Window, Virtual_Port_Window;
+    Layouts_Window, Sources_Window, Progress_Window, Comport_Info_Window, Virtual_Port_Window;
 
 std::span<const Window_Class* const> All_Windows() {
     static constexpr const Window_Class* Table[] = {
@@ -26,6 +26,8 @@ std::span<const Window_Class* const> All_Windows() {
         &Geo_Format_Window,
         &GNSS_Configuration_Windows,
         &Port_Setup_Window,
+        &Layouts_Window,
+        &Sources_Window,
         &Progress_Window,
         &Comport_Info_Window,
         &Virtual_Port_Window,

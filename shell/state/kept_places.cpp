@@ -5,6 +5,8 @@
 #include "shell/state/simulator.hpp"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
 
 namespace brinewright {
 
@@ -36,8 +38,36 @@ void Restore_Place(const Simulator& Sim, Form& Window) {
         Window.Resize(Entry.Width, Entry.Height);
         Window.Left = Entry.Left;
         Window.Top = Entry.Top;
+        Window.Unplaced = false;
         return;
     }
+}
+
+namespace {
+
+constexpr const char* State_Words[] = {"", "minimised", "maximised"}; // by Window_State
+constexpr std::string_view Small_Word = " small";
+
+std::string Manner_Key(const Form& Window) { return "Window " + Window.Path(); }
+
+} // namespace
+
+void Keep_Manner(Simulator& Sim, const Form& Window) {
+    std::string Manner = State_Words[static_cast<std::size_t>(Window.State)];
+    if (Window.Small) Manner += Small_Word;
+    App_Settings& Settings = Sim.Services.Settings();
+    if (Settings.Get(Manner_Key(Window), "") != Manner) Settings.Set(Manner_Key(Window), Manner);
+}
+
+void Restore_Manner(const Simulator& Sim, Form& Window) {
+    const std::string Manner = Sim.Services.Settings().Get(Manner_Key(Window), "");
+    std::string_view Word = Manner;
+    if (Word.ends_with(Small_Word)) {
+        Window.Small = true;
+        Word.remove_suffix(Small_Word.size());
+    }
+    for (std::size_t I = 1; I < std::size(State_Words); ++I)
+        if (Word == State_Words[I]) Window.State = static_cast<Window_State>(I); // NOLINT: index of an enum
 }
 
 } // namespace brinewright

@@ -14,4 +14,9 @@ void Keep_Place(Simulator& Sim, const Form& Window);
 // when there is none.
 void Restore_Place(const Simulator& Sim, Form& Window);
 
+// Minimised, maximised or small: how a window stood when it closed, kept in the application settings by its
+// path, since a setup file has no room for it.
+void Keep_Manner(Simulator& Sim, const Form& Window);
+void Restore_Manner(const Simulator& Sim, Form& Window);
+
 } // namespace brinewright

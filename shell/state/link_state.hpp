@@ -32,8 +32,10 @@ struct Link_Panel_Record {
 
 // The links. Port numbers: 0 none, 1 to 16 serial, 17 the TCP server, 18 + k the UDP link k (0 to 10).
 struct Link_State {
-    Table<Port_Setting, 1, 28> Port_Table;      // by port number
-    Table<Sensor_Slot, 1, 11> Sensor_Table;     // by form index
+    Table<Port_Setting, 1, 28> Port_Table;  // by port number
+    Table<Sensor_Slot, 1, 11> Sensor_Table; // by form index
+    // Nothing of the sensor leaves, by form index: the user has silenced it. Not kept over a restart.
+    Table<bool, 1, 11> Silenced;
     std::int16_t Comport_Count = 0;             // ports found present; above 0 opens the links at start
     std::int16_t Present_Port_Count = 0;        // the same while the port setup confirms
     bool Ports_Initialised = false;             // Init_Comports has run once

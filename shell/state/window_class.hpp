@@ -5,12 +5,14 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string>
 
 namespace brinewright {
 
 struct Layout;
 struct Sentence_Row;
 struct Simulator;
+struct Simulator_State;
 
 // The numbers by which the list of open windows and the slots of Sensor_Table know a window: 0 the ship, 1 to
 // 11 the sensors.
@@ -43,8 +45,14 @@ struct Window_Class {
     // Wires and fills it before it is shown; an On_Unload that it sets runs before all else at its closing.
     void (*Load)(Simulator& Sim, Form& Window) = nullptr;
     Layout (*Lay_Out)(Simulator& Sim, Form& Window) = nullptr;
+    // With what is most important only, where there is little room; null: there is no small form.
+    Layout (*Lay_Out_Small)(Simulator& Sim, Form& Window) = nullptr;
+    // What its sensor measures now, whether the window is open or not, in a few words; null: no sensor.
+    std::string (*Value_Now)(const Simulator_State& State, int Instance) = nullptr;
     std::span<const Sentence_Row> Sentences{};
 
+    bool Comes_Back = false; // a window without a form index that was open at the end opens at the start
+    bool Closes_When_Chosen = false;                       // its entry closes it when it is open
     bool With_Focus = true;                                // is the active window once it has opened
     void (*Shown)(Simulator& Sim, Form& Window) = nullptr; // runs when it stands
     // Whether it may open now; null: always.

@@ -19,6 +19,8 @@ void Focus_Open(Simulator& Sim, const Window_Class& Class, Form& Window) {
         Sim.Windows.Activate(*Instead);
 }
 
+std::string Open_Key(const Window_Class& Class) { return std::string("Open ") + Class.Name; }
+
 std::string Numbered(std::string_view Pattern, int Instance) {
     std::string Text;
     for (const char C : Pattern) Text += C == '#' ? Number_Text(Instance) : std::string(1, C);
@@ -29,6 +31,7 @@ std::string Numbered(std::string_view Pattern, int Instance) {
 void Watch_Closing(Simulator& Sim, Form& Window, bool Keeps_Place) {
     Window.On_Unload = [&Sim, &Window, Keeps_Place, Own = std::move(Window.On_Unload)] {
         if (Own) Own();
+        if (Window.Kind == Form_Kind::Child) Keep_Manner(Sim, Window);
         Sim.Told.Windows.Tell();
         if (Keeps_Place) Keep_Place(Sim, Window);
     };
@@ -45,7 +48,15 @@ void Open_Window(Simulator& Sim, const Window_Class& Class, int Instance) {
     if (Class.Load) Class.Load(Sim, *Window);
     const bool Keeps_Place = Class.First_Form_Index != form_index::None;
     if (Keeps_Place) Restore_Place(Sim, *Window);
+    if (Window->Kind == Form_Kind::Child) Restore_Manner(Sim, *Window);
     Watch_Closing(Sim, *Window, Keeps_Place);
+    if (Class.Comes_Back) {
+        Sim.Services.Settings().Set(Open_Key(Class), "1");
+        // Closed by the end of the program it comes back, closed by hand it does not.
+        Window->On_Gone.push_back([&Sim, Key = Open_Key(Class)] {
+            if (Sim.Main->Loaded) Sim.Services.Settings().Set(Key, "0");
+        });
+    }
     Sim.Windows.Show(Window, Class.With_Focus);
     if (Class.Caption) Window->Set_Caption(Numbered(Class.Caption, Instance));
     if (Class.Width > 0) Window->Resize(Class.Width, Window->Height);
@@ -85,6 +96,12 @@ const Window_Class* Class_Of_Index(const Simulator& Sim, std::int16_t Form_Index
 
 int Instance_Of_Index(const Window_Class& Class, std::int16_t Form_Index) {
     return Class.Count == 0 ? 0 : Form_Index - Class.First_Form_Index + 1;
+}
+
+void Open_Those_That_Come_Back(Simulator& Sim) {
+    for (const Window_Class* Class : Sim.Window_Table)
+        if (Class->Comes_Back && Sim.Services.Settings().Get(Open_Key(*Class), "") == "1")
+            Sim.Windows.Event([&] { Open_Window(Sim, *Class); });
 }
 
 Form* Open_Form(const Simulator& Sim, std::string_view Class_Name, int Instance) {

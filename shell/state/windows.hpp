@@ -26,8 +26,11 @@ const Window_Class* Class_Of_Index(const Simulator& Sim, std::int16_t Form_Index
 // From 1; 0 for windows that exist once.
 int Instance_Of_Index(const Window_Class& Class, std::int16_t Form_Index);
 
-// The text of a window's menu entry, "GNSS 1"; empty when no menu opens it.
+// The text of a window's entry, "GNSS 1"; empty when no menu opens it.
 std::string Entry_Text(const Window_Class& Class, int Instance);
+
+// Opens the windows that come back, see Window_Class.
+void Open_Those_That_Come_Back(Simulator& Sim);
 
 // The open window; null when it is closed.
 Form* Open_Form(const Simulator& Sim, std::string_view Class_Name, int Instance = 0);

@@ -17,6 +17,7 @@
 #include <QStatusBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace brinewright {
 
@@ -37,6 +38,10 @@ Desktop_View::Desktop_View(Simulator& Its_Simulator, Theme& Its_Theme)
     setCentralWidget(Area);
     connect(Strip, &Status_Strip::Acted, this, &Desktop_View::Follow);
     connect(Panels, &Link_Panels::Acted, this, &Desktop_View::Follow);
+    connect(Area, &Working_Area::Resized, this, [this](const QSize& Room) {
+        Sim.Windows.Room_Width = static_cast<float>(Room.width() * Twips_Per_Pixel);
+        Sim.Windows.Room_Height = static_cast<float>(Room.height() * Twips_Per_Pixel);
+    });
     connect(Menus, &Menu_Bar::Acted, this, &Desktop_View::Follow);
     connect(Boxes, &Box_View::Acted, this, &Desktop_View::Follow);
     Look.setSingleShot(true);
@@ -127,6 +132,10 @@ void Desktop_View::Follow_Windows() {
             connect(&Window->View(), &Form_View::Acted, this, &Desktop_View::Follow, Qt::QueuedConnection);
         }
         Window->Follow();
+    }
+    if (const Handler Arrange = std::exchange(Sim.Windows.When_Measured, nullptr)) {
+        Sim.Windows.Event(Arrange);
+        for (const auto& [F, Window] : Shown) Window->Follow();
     }
     const Form* Active = Sim.Windows.Active_Form;
     const auto Found = Shown.find(Active);

@@ -1,12 +1,16 @@
 #include "ui/desktop/form_window.hpp"
 
+#include "shell/arrange/arrange.hpp"
+#include "ui/desktop/child_window.hpp"
 #include "ui/layout/layout_builder.hpp"
 
 #include <QCoreApplication>
 #include <QDialog>
+#include <QDockWidget>
 #include <QEvent>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -33,45 +37,118 @@ Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, con
         Box->addWidget(Its_View);
         Box->setSizeConstraint(QLayout::SetMinimumSize);
         Dialog->installEventFilter(this);
+    } else if (Shown->Kind == Form_Kind::Tool) {
+        Make_Dock();
     } else {
-        // Small screens scroll what does not fit instead of cutting it.
-        Scroll = new QScrollArea;
-        Scroll->setWidgetResizable(true);
-        Scroll->setFocusPolicy(Qt::NoFocus); // Tab stops at controls only
-        Child = new QMdiSubWindow;
-        Child->setFocusPolicy(Qt::NoFocus);
-        Child->setWidget(Scroll);
-        QPixmap No_Picture(1, 1); // titles carry none
-        No_Picture.fill(Qt::transparent);
-        Child->setWindowIcon(QIcon(No_Picture));
-        Child->setAttribute(Qt::WA_DeleteOnClose, false);
-        Area.addSubWindow(Child);
-        Scroll->setWidget(Its_View);
-        Child->installEventFilter(this);
-        connect(Child, &QMdiSubWindow::aboutToActivate, this, [this] {
-            if (const auto F = Source.lock(); F && !Placing)
-                F->Windows.Event([&F] { F->Windows.Activate(*F); });
-        });
+        Make_Child(*Shown);
     }
     Lay_Out(*Its_View, *Shown);
     Its_View->installEventFilter(this);
 }
 
+void Form_Window::Make_Child(const Form& Shown) {
+    Child = new Child_Window;
+    QPixmap No_Picture(1, 1); // titles carry none
+    No_Picture.fill(Qt::transparent);
+    Child->setWindowIcon(QIcon(No_Picture));
+    Child->setAttribute(Qt::WA_DeleteOnClose, false);
+    Area.addSubWindow(Child);
+    Child->Show_Whole(Its_View);
+    Child->installEventFilter(this);
+    connect(Child, &QMdiSubWindow::aboutToActivate, this, [this] {
+        if (const auto F = Source.lock(); F && !Placing) F->Windows.Event([&F] { F->Windows.Activate(*F); });
+    });
+    if (!Has_Small_Form(*Its_View, Shown)) return;
+    Small_View = new Form_View(Its_View->Sim, Source.lock(), Its_View->Colours);
+    Child->Add_Small(Small_View);
+    Lay_Out_Small(*Small_View, *Source.lock());
+    connect(Small_View, &Form_View::Acted, Its_View, &Form_View::Acted);
+    connect(Child, &Child_Window::Size_Asked, this, [this] {
+        if (const auto F = Source.lock()) F->Windows.Event([&] { F->Set_Small(!Child->Shows_Small()); });
+        Q_EMIT Its_View->Acted();
+    });
+}
+
+// At the left side of the main window, which shares its room with it.
+void Form_Window::Make_Dock() {
+    Dock = new QDockWidget;
+    Dock->setFeatures(QDockWidget::DockWidgetClosable);
+    auto* Scroll = new QScrollArea;
+    Scroll->setWidgetResizable(true);
+    Scroll->setFocusPolicy(Qt::NoFocus);
+    Scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Scroll->setWidget(Its_View);
+    Dock->setWidget(Scroll);
+    Dock->installEventFilter(this);
+    static_cast<QMainWindow*>(Area.window())->addDockWidget(Qt::LeftDockWidgetArea, Dock);
+}
+
 Form_Window::~Form_Window() {
     Placing = true;
     delete Child;
+    delete Dock;
     delete Dialog;
 }
 
 QWidget* Form_Window::Frame_Widget() const {
+    if (Dock) return Dock;
     return Child ? static_cast<QWidget*>(Child) : static_cast<QWidget*>(Dialog);
+}
+
+Form_View& Form_Window::Seen_View() const { return Child && Child->Shows_Small() ? *Small_View : *Its_View; }
+
+// Small when it is wanted so, or when the user has left it so little room that most would be hidden.
+bool Form_Window::Wants_Small(const Form& F) const {
+    if (!Small_View) return false;
+    if (F.Small || First) return F.Small;
+    constexpr double Least_Share = 0.6;
+    const QSize Needs = Its_View->layout()->minimumSize(), Room = Child->contentsRect().size();
+    return Room.width() < Least_Share * Needs.width() || Room.height() < Least_Share * Needs.height();
+}
+
+// Minimised and maximised follow the form, as its place does.
+void Form_Window::Apply_State(const Form& F) {
+    if (!Child || F.State == State) return;
+    State = F.State;
+    if (State == Window_State::Minimised) Child->showMinimized();
+    if (State == Window_State::Maximised) Child->showMaximized();
+    if (State == Window_State::Normal) Child->showNormal();
+}
+
+void Form_Window::Report_State() {
+    const auto F = Source.lock();
+    if (!F || !F->Loaded || !Child) return;
+    State = Child->isMinimized()   ? Window_State::Minimised
+            : Child->isMaximized() ? Window_State::Maximised
+                                   : Window_State::Normal;
+    if (F->State == State) return;
+    F->Windows.Event([&] { F->Set_State(State); });
+    Q_EMIT Its_View->Acted();
+}
+
+void Form_Window::Report_Needs(Form& F) {
+    if (!Child) return;
+    const QSize Needs = Contents_Size() + QSize(Child->width() - Child->contentsRect().width(),
+                                                Child->height() - Child->contentsRect().height());
+    F.Needs_Width = Twips(Needs.width());
+    F.Needs_Height = Twips(Needs.height());
+}
+
+QSize Form_Window::Contents_Size() const {
+    const Form_View& View = Seen_View();
+    View.layout()->activate();
+    return View.layout()->sizeHint().expandedTo(View.minimumSize());
 }
 
 void Form_Window::Follow() {
     const auto F = Source.lock();
     if (!F) return;
     Placing = true;
-    Its_View->Refresh();
+    if (Child && Child->Shows_Small() != Wants_Small(*F)) {
+        Child->Show_Small(Wants_Small(*F));
+        if (!First && F->State == Window_State::Normal) Left = -1; // takes the size of this form
+    }
+    Seen_View().Refresh();
     if (Frame_Widget()->windowTitle() != To_Screen(F->Caption))
         Frame_Widget()->setWindowTitle(To_Screen(F->Caption));
     const bool Moved = F->Left != Left || F->Top != Top || F->Width != Width || F->Height != Height;
@@ -79,7 +156,12 @@ void Form_Window::Follow() {
     if (First) Frame_Widget()->show(); // before its place: the area puts windows that open where it likes
     // What its parts ask for now that they are styled reaches the outermost layout in steps.
     if (First) QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    Apply_State(*F);
+    if (First) Report_Needs(*F);
+    const bool No_Place = F->Unplaced && F->Left == 0 && F->Top == 0;
+    if (First && Child && No_Place) Place_Free(Its_View->Sim, *F);
     if (Moved || First) Apply_Place(*F);
+    Report_Needs(*F);
     // The scroll bars of the small window that it was at first go with the next layout only.
     if (First) QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     First = false;
@@ -91,8 +173,8 @@ void Form_Window::Follow() {
 // is not claimed back.
 void Form_Window::Grow_To_Contents() {
     const auto F = Source.lock();
-    if (!F || !Scroll || First || Placing) return;
-    const QSize Needs = Its_View->layout()->minimumSize(), Room = Scroll->viewport()->size();
+    if (!F || !Child || First || Placing || Child->Shows_Small()) return;
+    const QSize Needs = Its_View->layout()->minimumSize(), Room = Child->Room();
     const bool More = Needs.boundedTo(Needed) != Needs;
     Needed = Needs;
     if (!More || Needs.boundedTo(Room) == Needs) return;
@@ -107,12 +189,12 @@ void Form_Window::Apply_Place(const Form& F) {
     Top = F.Top;
     Width = F.Width;
     Height = F.Height;
-    if (!Child) return;
-    Its_View->layout()->activate();
-    const QSize Contents = Its_View->layout()->sizeHint().expandedTo(Its_View->minimumSize());
+    if (!Child || F.State != Window_State::Normal) return;
     const QMargins Frame_Margins = Child->contentsMargins();
-    QSize Wanted(std::max(Pixels(Width), Contents.width() + Frame_Margins.left() + Frame_Margins.right()),
-                 std::max(Pixels(Height), Contents.height() + Frame_Margins.top() + Frame_Margins.bottom()));
+    const QSize Contents = Contents_Size() + QSize(Frame_Margins.left() + Frame_Margins.right(),
+                                                   Frame_Margins.top() + Frame_Margins.bottom());
+    QSize Wanted = Contents;
+    if (!Child->Shows_Small()) Wanted = Wanted.expandedTo(QSize(Pixels(Width), Pixels(Height)));
     QPoint Corner(std::max(Pixels(Left), 0), std::max(Pixels(Top), 0));
     const QWidget* Room = Child->parentWidget();
     if (Room && Room->width() > 200 && Room->height() > 200) {
@@ -165,7 +247,7 @@ void Form_Window::Activate() {
         Placing = true;
         Area.setActiveSubWindow(Child);
         Placing = false;
-    } else if (!Dialog->isActiveWindow()) {
+    } else if (Dialog && !Dialog->isActiveWindow()) {
         Dialog->raise();
         Dialog->activateWindow();
     }
@@ -174,6 +256,7 @@ void Form_Window::Activate() {
 void Form_Window::Report_Place() {
     const auto F = Source.lock();
     if (!F || !F->Loaded || !Child || Child->isMinimized() || Child->isMaximized()) return;
+    F->Unplaced = false;
     const QRect Now = Child->geometry();
     if (Now == Applied) return;
     F->Windows.Event([&] {
@@ -225,6 +308,9 @@ bool Form_Window::eventFilter(QObject* Watched, QEvent* Happened) {
     case QEvent::Move:
     case QEvent::Resize:
         if (!Placing && Watched != Its_View) Report_Place();
+        break;
+    case QEvent::WindowStateChange:
+        if (!Placing && Watched == Child) Report_State();
         break;
     case QEvent::KeyPress:
         if (Watched != Dialog) break;

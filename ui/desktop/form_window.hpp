@@ -3,7 +3,6 @@
 #include "ui/binder/form_view.hpp"
 
 #include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPointer>
 #include <QRect>
 
@@ -11,11 +10,14 @@
 #include <memory>
 
 class QDialog;
-class QScrollArea;
+class QDockWidget;
 
 namespace brinewright {
 
-// The frame around the view of one form: a child window of the main window, or a dialog. Its place and size
+class Child_Window;
+
+// The frame around the view of one form: a child window of the main window, a dialog, or what stands at its
+// side. Its place and size
 // follow the form, and the form follows what the user drags.
 class Form_Window : public QObject {
     Q_OBJECT
@@ -32,6 +34,14 @@ class Form_Window : public QObject {
     bool eventFilter(QObject* Watched, QEvent* Happened) override;
 
   private:
+    void Make_Child(const Form& Shown);
+    void Make_Dock();
+    Form_View& Seen_View() const;
+    bool Wants_Small(const Form& F) const;
+    QSize Contents_Size() const;
+    void Apply_State(const Form& F);
+    void Report_State();
+    void Report_Needs(Form& F);
     void Apply_Place(const Form& F);
     void Place_Dialog(const Form& F);
     QWidget* Widget_Below(const std::string& Control_Path) const;
@@ -42,13 +52,15 @@ class Form_Window : public QObject {
 
     std::weak_ptr<Form> Source;
     Form_View* Its_View;
-    QPointer<QMdiSubWindow> Child;
+    Form_View* Small_View = nullptr; // null: the window has no small form
+    QPointer<Child_Window> Child;    // one of these three
     QPointer<QDialog> Dialog;
-    QPointer<QScrollArea> Scroll;
+    QPointer<QDockWidget> Dock;
     QMdiArea& Area;
     float Left = 0, Top = 0, Width = 0, Height = 0; // of the form, as applied last
     QRect Applied; // the geometry that this gave the child window, as far as the user has not changed it
     QSize Needed;  // by the contents, when they were looked at last
+    Window_State State = Window_State::Normal; // of the form, as applied last
     bool Placing = false;
     bool First = true;
 };

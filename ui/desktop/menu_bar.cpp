@@ -14,8 +14,10 @@ namespace {
 
 constexpr const char* Palette_Key = "Palette";
 
-constexpr std::pair<const char*, const char*> Shortcuts[] = {
-    {"mnuFileOpen", "Ctrl+O"}, {"mnuFileSave", "Ctrl+S"}, {"mnuFileExit", "Ctrl+Q"}};
+constexpr std::pair<const char*, const char*> Shortcuts[] = {{"mnuFileOpen", "Ctrl+O"},
+                                                             {"mnuFileSave", "Ctrl+S"},
+                                                             {"mnuFileExit", "Ctrl+Q"},
+                                                             {"mnuViewSources", "Ctrl+0"}};
 
 } // namespace
 
@@ -28,9 +30,9 @@ Menu_Bar::Menu_Bar(Simulator& Its_Simulator, Theme& Its_Theme, QMenuBar& Its_Bar
         auto& Item = static_cast<Menu_Item&>(*C);
         QMenu*& Menu = Menus[Item.Menu];
         if (!Menu) {
-            if (Item.Menu == "Window") Make_View_Menu();
             Menu = Bar.addMenu("&" + To_Screen(Item.Menu));
             Menu->setToolTipsVisible(true);
+            if (Item.Menu == "View") Add_Palettes(*Menu);
         }
         QAction* Action = Menu->addAction(Text_Of(Item));
         Action->setObjectName(To_Screen(Item.Path()));
@@ -78,14 +80,14 @@ QString Menu_Bar::Text_Of(const Menu_Item& Item) const {
     return Own == Letters.end() ? Caption : With_Mnemonic(Caption, Own->second);
 }
 
-void Menu_Bar::Make_View_Menu() {
-    QMenu* Menu = Bar.addMenu(QStringLiteral("&View"));
+// They concern only what is seen.
+void Menu_Bar::Add_Palettes(QMenu& Menu) {
     auto* Group = new QActionGroup(this);
     QString Taken;
     const std::string Kept = Sim.Services.Settings().Get(Palette_Key, Palette_Names[0]);
     for (std::size_t I = 0; I < Palette_Names.size(); ++I) {
         const QString Name = QString::fromLatin1(Palette_Names[I]);
-        QAction* Action = Menu->addAction(With_Mnemonic(Name, Choose_Mnemonic(Name, Taken)));
+        QAction* Action = Menu.addAction(With_Mnemonic(Name, Choose_Mnemonic(Name, Taken)));
         Action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(I + 1)));
         Action->setCheckable(true);
         Group->addAction(Action);
@@ -99,6 +101,7 @@ void Menu_Bar::Make_View_Menu() {
             if (Colours.Chosen() != Kind) Colours.Choose(Kind);
         }
     }
+    Menu.addSeparator();
 }
 
 } // namespace brinewright

@@ -10,7 +10,7 @@
 
 namespace brinewright {
 
-// The menus of the main window: those of the model, and View, which concerns only what is seen.
+// The menus of the main window: those of the model, and the palettes.
 class Menu_Bar : public QObject {
     Q_OBJECT
   public:
@@ -22,7 +22,7 @@ class Menu_Bar : public QObject {
     void Acted(); // the user has chosen something
 
   private:
-    void Make_View_Menu();
+    void Add_Palettes(QMenu& Menu);
     void Choose_Letters();
     QString Text_Of(const Menu_Item& Item) const;
 

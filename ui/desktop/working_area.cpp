@@ -13,6 +13,11 @@ Working_Area::Working_Area(const Theme& Its_Theme, QWidget* Parent) : QMdiArea(P
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
+void Working_Area::resizeEvent(QResizeEvent* Happened) {
+    QMdiArea::resizeEvent(Happened);
+    Q_EMIT Resized(viewport()->size());
+}
+
 void Working_Area::paintEvent(QPaintEvent*) {
     QPainter Painter(viewport());
     Painter.fillRect(viewport()->rect(), Colours.Colour(Token::Window));

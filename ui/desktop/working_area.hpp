@@ -12,7 +12,11 @@ class Working_Area : public QMdiArea {
   public:
     Working_Area(const Theme& Its_Theme, QWidget* Parent);
 
+  Q_SIGNALS:
+    void Resized(const QSize& Room);
+
   protected:
+    void resizeEvent(QResizeEvent* Happened) override;
     void paintEvent(QPaintEvent*) override;
 
   private:

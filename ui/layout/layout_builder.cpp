@@ -201,4 +201,16 @@ void Lay_Out(Form_View& View, Form& Shown) {
     View.Refresh();
 }
 
+bool Has_Small_Form(const Form_View& View, const Form& Shown) {
+    const Window_Class* Class = Find_Class(View.Sim, Shown.Name);
+    return Class && Class->Lay_Out_Small;
+}
+
+void Lay_Out_Small(Form_View& View, Form& Shown) {
+    Build_Layout(View, Find_Class(View.Sim, Shown.Name)->Lay_Out_Small(View.Sim, Shown));
+    // The name of a control is the name of its widget in the whole window.
+    for (Control* C : Shown.Controls)
+        if (QWidget* W = View.Widget_Of(*C)) W->setObjectName("small " + W->objectName());
+}
+
 } // namespace brinewright

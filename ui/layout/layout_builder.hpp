@@ -11,6 +11,10 @@ namespace brinewright {
 // fault that a test finds.
 void Lay_Out(Form_View& View, Form& Shown);
 
+// The same for its small form.
+bool Has_Small_Form(const Form_View& View, const Form& Shown);
+void Lay_Out_Small(Form_View& View, Form& Shown);
+
 // Turns a layout into the widgets of a view and their places.
 void Build_Layout(Form_View& View, const Layout& Whole);
 
