@@ -40,6 +40,13 @@ class Grid_Table : public QTableView {
         QTableView::resizeEvent(New);
         Fit_Last_Column();
     }
+    // A table makes its first row current when it gets the focus. Nobody has chosen that.
+    void focusInEvent(QFocusEvent* Entered) override {
+        const QSignalBlocker Quiet(selectionModel());
+        const bool Had_None = !currentIndex().isValid();
+        QTableView::focusInEvent(Entered);
+        if (Had_None) selectionModel()->clear();
+    }
 
   private:
     std::weak_ptr<Form> Owner;
@@ -61,7 +68,7 @@ void Show_Grid(const Grid& C, Grid_Table& W, Grid_Model& Model, Seen_Of_Grid& Se
     if (std::exchange(Seen.Last_Column_Size, *C.Last_Column_Size) != *C.Last_Column_Size) W.Fit_Last_Column();
     const int Row = C.Selected_Row();
     if (Row < 0)
-        W.clearSelection();
+        W.selectionModel()->clear();
     else if (W.currentIndex().row() != Row || !W.selectionModel()->isSelected(W.currentIndex()))
         W.selectRow(Row);
     if (std::exchange(Seen.Heads, *C.Head_Count) != *C.Head_Count) W.scrollToTop();
@@ -90,9 +97,8 @@ QTableView* Form_View::Make(Grid& C) {
     W->horizontalHeader()->setHighlightSections(false);
     Bind(C, W, [&C, W, Model, Seen = Seen_Of_Grid()]() mutable { Show_Grid(C, *W, *Model, Seen); });
     connect(W->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this, &C, W, Model](const QModelIndex& Now) {
-                // The table makes a row current when it gets the focus, which chooses nothing.
-                if (!Now.isValid() || !W->selectionModel()->isSelected(Now)) return;
+            [this, &C, Model](const QModelIndex& Now) {
+                if (!Now.isValid()) return;
                 if (const int Row = Model->Row_In_Source(Now.row()); Row >= 0)
                     Act([&C, Row](Desktop& D) { D.User_Set(C, static_cast<std::int64_t>(Row)); });
             });
