@@ -46,7 +46,7 @@ struct frmGyro : Sensor_Form {
                  "Rate of turn, degrees per minute, to starboard positive"};
     Scroll_Bar scrROT{
         frmROT, "scrROT",
-        -300,   301,
+        -300,   300,
         10,     "Rate of turn, -30.0 to 30.0 degrees per minute in steps of 0.1, to starboard positive"};
     Text_Box txtROT{frmROT, "txtROT", "",
                     "Rate of turn, -30.0 to 30.0 degrees per minute, to starboard positive"};
