@@ -2,7 +2,7 @@
 
 #include "ui/layout/layout_builder.hpp"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QIcon>
@@ -161,10 +161,13 @@ void Form_Window::Place_Dialog(const Form& F) {
 
 void Form_Window::Activate() {
     if (Child) {
-        if (Area.activeSubWindow() == Child) return;
+        const QWidget* const Has_It = QApplication::focusWidget();
+        const bool Elsewhere = Has_It && Area.isAncestorOf(Has_It) && !Child->isAncestorOf(Has_It);
+        if (Area.activeSubWindow() == Child && !Elsewhere) return;
         Placing = true;
         Area.setActiveSubWindow(Child);
         Placing = false;
+        if (Elsewhere) Its_View->Take_Keyboard();
     } else if (!Dialog->isActiveWindow()) {
         Dialog->raise();
         Dialog->activateWindow();
