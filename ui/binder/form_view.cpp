@@ -128,7 +128,7 @@ QComboBox* Form_View::Make(Combo_Box& C) {
     auto* W = new QComboBox(this);
     W->setEditable(C.Free_Text);
     W->setInsertPolicy(QComboBox::NoInsert);
-    W->setCompleter(nullptr); // what is typed is what counts, not what it could become
+    if (C.Free_Text) W->setCompleter(nullptr); // what is typed counts, not what it could become
     W->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     Bind(C, W, [&C, W] {
         const auto& Items = C.Items();
@@ -288,6 +288,13 @@ Form_View::Binding* Form_View::Binding_Of(const QObject* W) {
     return nullptr;
 }
 
+void Form_View::Take_Keyboard() {
+    QWidget* W = focusWidget();
+    for (const Binding& B : Bindings)
+        if (!W && B.Source->Can_Focus() && B.Widget->isVisible() && B.Widget->isEnabled()) W = B.Widget;
+    if (W) W->setFocus();
+}
+
 bool Form_View::Keyboard_Is_At_Focus() const {
     const auto F = Source.lock();
     QWidget* const Has_It = QApplication::focusWidget();
@@ -328,6 +335,9 @@ void Form_View::Enter(Binding& B, Qt::FocusReason Why) {
     const bool Back =
         Why == Qt::ActiveWindowFocusReason || Why == Qt::PopupFocusReason || Why == Qt::MenuBarFocusReason;
     if (Back && Windows.Focus && &Windows.Focus->Owner == F.get()) return Follow_Focus(Windows);
+    if (Back && Windows.Active_Form != F.get() && F->Kind == Form_Kind::Child && Windows.Active_Form &&
+        Windows.Active_Form->Kind == Form_Kind::Child)
+        return Acted(); // another window was chosen meanwhile, and takes the keyboard
     const bool Opens = !Windows.Focus && F->Kind == Form_Kind::Dialog;
     Act([&C](Desktop& D) { D.User_Focus(C); });
     if (Windows.Focus != &C || Why == Qt::MouseFocusReason) return;

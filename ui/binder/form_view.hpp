@@ -61,6 +61,7 @@ class Form_View : public QWidget {
     // Whether the widget that has the keyboard is that of the control that has the focus, or none of this
     // window's has it. So it is after each key and click.
     bool Keyboard_Is_At_Focus() const;
+    void Take_Keyboard(); // where it was last, or at the first control
     QWidget* Widget_Of(const Control& C) const;
     std::shared_ptr<Form> Shown_Form() const { return Source.lock(); }
     Simulator& Sim; // for painted instruments that show more than controls

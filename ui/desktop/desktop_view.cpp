@@ -140,9 +140,8 @@ void Desktop_View::Follow_Windows() {
     const Form* Active = Sim.Windows.Active_Form;
     const auto Found = Shown.find(Active);
     // Also when the user chose another one, but a box that he left took the focus back.
-    const bool Another = Found != Shown.end() && Area->activeSubWindow() != Found->second->Frame_Widget();
     const bool Is_Child = Active && Active->Kind == Form_Kind::Child;
-    if (Found != Shown.end() && (Active != Active_Seen || (Is_Child && Another))) Found->second->Activate();
+    if (Found != Shown.end() && (Active != Active_Seen || Is_Child)) Found->second->Activate();
     Active_Seen = Active;
 }
 

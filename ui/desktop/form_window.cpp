@@ -4,7 +4,7 @@
 #include "ui/desktop/child_window.hpp"
 #include "ui/layout/layout_builder.hpp"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDialog>
 #include <QDockWidget>
 #include <QEvent>
@@ -243,10 +243,13 @@ void Form_Window::Place_Dialog(const Form& F) {
 
 void Form_Window::Activate() {
     if (Child) {
-        if (Area.activeSubWindow() == Child) return;
+        const QWidget* const Has_It = QApplication::focusWidget();
+        const bool Elsewhere = Has_It && Area.isAncestorOf(Has_It) && !Child->isAncestorOf(Has_It);
+        if (Area.activeSubWindow() == Child && !Elsewhere) return;
         Placing = true;
         Area.setActiveSubWindow(Child);
         Placing = false;
+        if (Elsewhere) Seen_View().Take_Keyboard();
     } else if (Dialog && !Dialog->isActiveWindow()) {
         Dialog->raise();
         Dialog->activateWindow();
