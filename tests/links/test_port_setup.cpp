@@ -267,5 +267,38 @@ TEST_F(Port_Setup, It_Stands_Once_And_Info_Tells_Of_The_Ports_Above_16) {
     EXPECT_FALSE(Open_One<frmComportInfo>(Sim));
 }
 
+TEST_F(Port_Setup, Stays_Open_Until_Its_Values_Are_Good_With_One_Message_At_A_Time) {
+    Sim.State.Of<Link_State>().Ports_Initialised = true;
+    frmSetup& F = Open();
+    const auto Half_Type = [&](Text_Box& Box, const char* Text) {
+        Sim.Windows.Event([&] { Sim.Windows.User_Type(Box, Text); });
+    };
+    Half_Type(F.txtPort, "80");
+    Click(F.cmdOK);
+    EXPECT_EQ(Take_Boxes().size(), 1u);
+    ASSERT_TRUE(Open_One<frmSetup>(Sim));
+    EXPECT_EQ(F.txtPort.Text(), "8040");
+    EXPECT_EQ(Sim.Windows.Focus, &F.txtPort);
+
+    Click(F.chkEnable[18]); // without a number
+    EXPECT_EQ(Take_Boxes().size(), 1u);
+    EXPECT_FALSE(F.chkEnable[18].Value());
+    Type(F.txtUDP_port[1], "60001");
+    Click(F.chkEnable[18]);
+    EXPECT_TRUE(F.chkEnable[18].Value());
+    Half_Type(F.txtUDP_port[1], "");
+    Click(F.cmdOK);
+    EXPECT_EQ(Take_Boxes().size(), 1u);
+    Click(*F.optUDPMode.Buttons[1]); // to no address
+    Click(F.cmdOK);
+    EXPECT_EQ(Take_Boxes().size(), 1u);
+    ASSERT_TRUE(Open_One<frmSetup>(Sim));
+    Type(F.txtUDP_RemoteHost, "10.0.0.1");
+    Click(F.cmdOK);
+    EXPECT_TRUE(Take_Boxes().empty());
+    EXPECT_FALSE(Open_One<frmSetup>(Sim));
+    EXPECT_TRUE(Record_Of(Sim, 18).Open);
+}
+
 } // namespace
 } // namespace brinewright

@@ -127,10 +127,7 @@ TEST_F(Menus_And_Inks, Every_Ink_Shows_The_Colour_Of_Its_Meaning) {
             Window->lblInked.Fore_Colour = R.Chosen;
             Window->hfgInked.Set_Cell(0, 0, "ink", R.Chosen);
             Seen.Refresh();
-            // The style still paints over a label's red and green.
-            if (R.Of_Label == Token::Text) {
-                EXPECT_TRUE(Is_Written_In(Written, Theme::Colour_In(Kind, R.Of_Label)));
-            }
+            EXPECT_TRUE(Is_Written_In(Written, Theme::Colour_In(Kind, R.Of_Label)));
             EXPECT_EQ(Table.model()->index(0, 0).data(Qt::ForegroundRole).value<QColor>(),
                       Theme::Colour_In(Kind, R.Of_Cell))
                 << static_cast<int>(R.Chosen);
