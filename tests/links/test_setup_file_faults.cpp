@@ -160,7 +160,7 @@ TEST(Setup_File_Faults, Values_That_Cannot_Be) {
     Load_Default_Data(Defaults, All_Windows());
     Simulator_State State = Defaults;
     EXPECT_TRUE(Repair_Values(State, {}, All_Windows()).empty());
-    const Texts Right = All_Texts(Defaults);
+    const Leaf_Texts Right = All_Texts(Defaults);
     for (const Case& C : Cases) {
         State = Defaults;
         const auto Reading =

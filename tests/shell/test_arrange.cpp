@@ -12,7 +12,7 @@ constexpr float Twip = 15; // of a pixel
 
 Extent Pixels(float Width, float Height) { return {Width * Twip, Height * Twip}; }
 
-TEST(Arranging, Windows_Stand_Beside_Each_Other_In_The_Room) {
+TEST(Places, Of_Windows_Lie_Beside_Each_Other_In_The_Room) {
     const struct {
         const char* What;
         std::vector<Extent> Sizes;

@@ -98,7 +98,7 @@ TEST(Frm_Ship, Labels_After_A_Step) {
     });
     frmShip& W = B.Ship();
     B.Place(W.sldThrottle, -30);
-    B.Set(W.cmbHDG, std::string("5.06"));
+    B.Type(W.cmbHDG, "5.06");
     B.Run_s(1);
     EXPECT_EQ(Shown(W.lblLat[0]), "62\xB0 35.5033' N");
     EXPECT_EQ(Shown(W.lblLat[1]), "62\xB0 36.5033' N");
