@@ -1,5 +1,6 @@
 // Message boxes, file dialogs, and how windows and the program are closed by hand.
 
+#include "links/link_record_state.hpp"
 #include "shell/state/shell_state.hpp"
 #include "tests/ui/shown_desktop.hpp"
 
