@@ -51,7 +51,7 @@ struct Opened_Front {
 
 void Print_Box(const Message_Box& Box) {
     std::cerr << "[box " << Box.Id << "] " << (Box.Title.empty() ? "" : Box.Title + ": ") << Box.Text
-              << (Box.Advice.empty() ? "" : ". " + Box.Advice) << std::endl;
+              << (Box.Advice.empty() ? "" : "\n    " + Box.Advice) << std::endl;
 }
 
 // What was told at the very end, when the windows had gone.

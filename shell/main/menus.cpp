@@ -209,7 +209,8 @@ void Show_Panel(Simulator& Sim, int Port) {
 
 frmMain::frmMain(Desktop& Its_Windows, std::span<const Window_Class* const> Window_Table)
     : Form(Its_Windows, Class_Name, 0, Form_Kind::Main), Menu_Items(Make_Items(*this, Window_Table)),
-      sbStatusBar(*this, "sbStatusBar", ""), sbLink(*this, "sbLink", "") {}
+      sbStatusBar(*this, "sbStatusBar", ""),
+      sbLink(*this, "sbLink", "", "Click to open the port setup, or the link when it is closed") {}
 
 Menu_Item& frmMain::Item(const char* Item_Name, int Index) const {
     for (const auto& I : Menu_Items)
