@@ -141,7 +141,10 @@ void Desktop::User_Set(Control& Target, const Control_Value& New) {
     User_Focus(Target);
     Require_Usable(*this, Target); // the box that was left may have changed the world
     Target.User_Set(New);
-    const bool Typed = Target.Kind == Control_Kind::Text_Box;
+    // A list in which a text was typed is left like a box, so that it follows again what it shows.
+    const bool Typed = Target.Kind == Control_Kind::Text_Box ||
+                       (Target.Kind == Control_Kind::Combo_Box && std::holds_alternative<std::string>(New) &&
+                        static_cast<const Combo_Box&>(Target).Free_Text);
     if (Typed && Focus == &Target) Set_Focus(nullptr);
 }
 

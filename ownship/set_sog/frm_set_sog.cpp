@@ -11,7 +11,9 @@ namespace brinewright {
 
 namespace {
 
-constexpr float Form_Height = 2430, Form_Width = 3195; // twentieths of a point
+// In twentieths of a point; the place is below cmdSetSOG, from the corner of the ship window.
+constexpr float Form_Height = 2430, Form_Width = 3195;
+constexpr float Place_Left = 10600, Place_Top = 7140;
 
 constexpr const char* SOG_Pattern = "0.00";
 constexpr const char* COG_Pattern = "000.00";
@@ -56,9 +58,11 @@ void cmdOK_Click(Simulator& Sim, frmSetSOG& F) {
 
 void frmSetSOG_Load(Simulator& Sim, Form& Opened) {
     auto& F = static_cast<frmSetSOG&>(Opened);
+    const Form* const Ship = Open_Form(Sim, "frmShip");
     const Navdata_State& N = Sim.State.Of<Navdata_State>();
-    F.Resize(Form_Width, Form_Height);
-    F.Under = "frmShip.cmdSetSOG";
+    F.Set_Place((Ship ? Ship->Left : 0) + Place_Left, (Ship ? Ship->Top : 0) + Place_Top, Form_Width,
+                Form_Height);
+    F.Under = "frmShip.cmdSetSOG"; // where it is on the screen
     F.txtSOG.Set_Text(Format_Dot(N.Nav_SOG, SOG_Pattern));
     F.txtCOG.Set_Text(Format_Dot(N.Nav_COG, COG_Pattern));
     for (Text_Box* Box : {&F.txtSOG, &F.txtCOG}) Box->Got_Focus = [Box] { Box->Select_All(); };

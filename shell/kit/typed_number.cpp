@@ -2,7 +2,6 @@
 
 #include "ownship/geodesy/position_text.hpp"
 #include "sentences/number_pattern.hpp"
-#include "sentences/number_text.hpp"
 #include "shell/kit/shown_number.hpp"
 #include "shell/state/shell_state.hpp"
 #include "shell/state/simulator.hpp"
@@ -86,7 +85,7 @@ void Wire_Number_List(Combo_Box& List, const Number_Rule& Rule, std::function<vo
     List.Lost_Focus = [&List, Rule, Taken] {
         if (Wrong_With(List.Text(), Rule).empty()) return;
         Say_What_Is_Wrong(List, Rule);
-        List.Set_Text(Decimal_Text(*Taken));
+        List.Set_Text(Format_Dot(*Taken, ""));
     };
 }
 

@@ -294,9 +294,9 @@ TEST_P(Tab_Order, The_Keyboard_Is_Where_The_Focus_Is) {
         QWidget* Window = View->Window_Of(F->Path());
         for (Control* C : F->Controls)
             if (C->Kind == Control_Kind::Button) static_cast<Button*>(C)->Click = nullptr;
-        Sim.Windows.Event([&] { Sim.Windows.Activate(*F); });
+        Window->activateWindow(); // away from the dialogs, which bring back what was active before them
         Settle();
-        Window->activateWindow();
+        Sim.Windows.Event([&] { Sim.Windows.Activate(*F); });
         Settle();
         std::set<QWidget*> Stops;
         for (const Control* C : F->Controls) {
