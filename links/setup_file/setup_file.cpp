@@ -35,12 +35,15 @@ void Write_Marker(Setup_Writer& Writer, std::string_view Marker) {
 } // namespace
 
 Setup_Reading Read_Setup(std::string_view Bytes, Simulator_State& State, Window_Span Windows) {
+    return Read_Setup(Bytes, State, Kept_Sentences(State, Windows));
+}
+
+Setup_Reading Read_Setup(std::string_view Bytes, Simulator_State& State,
+                         const std::vector<Kept_Sentence>& Sentences) {
     bool Known = false;
     bool Cut_Off = !Bytes.empty() && Bytes.back() != '\n' && Bytes.back() != '\r';
     Setup_Reader Reader{Bytes, 0, {}};
     if (Bytes.starts_with(UTF8_Mark)) Reader.Position = UTF8_Mark.size();
-    const auto Sentences = Kept_Sentences(State, Windows);
-    const auto Later = Later_Sections(Sentences);
     while (!At_End(Reader)) {
         // Whatever is not a known marker is passed over field by field: unknown sections, junk, surplus
         // fields.
@@ -48,9 +51,8 @@ Setup_Reading Read_Setup(std::string_view Bytes, Simulator_State& State, Window_
         Cut_Off |= !Next.Closed;
         if (!Next.Text.starts_with("REM")) continue;
         const Setup_Section* Section = Find_Section(Next.Text);
-        if (!Section && std::find(Later.begin(), Later.end(), Next.Text) == Later.end()) continue;
         if (Section) Section->Read(Reader, State);
-        Read_Sentences(Reader, Sentences, Next.Text);
+        if (!Read_Sentences(Reader, Sentences, Next.Text) && !Section) continue;
         Known = true;
     }
     if (Known && Cut_Off) throw Run_Time_Error(error_text::Type_Mismatch);

@@ -17,13 +17,16 @@ Kept_Sentence Radar_Choice(Simulator_State& S, Setup_Place Place) {
 }
 
 template <class Walker>
-void Walk(Walker& W, const std::vector<Kept_Sentence>& All, std::string_view Section) {
+bool Walk(Walker& W, const std::vector<Kept_Sentence>& All, std::string_view Section) {
+    bool Any = false;
     for (const Kept_Sentence& Kept : All) {
         if (!Kept.Place.Section || Section != Kept.Place.Section) continue;
+        Any = true;
         Field(W, *Kept.Enabled);
         Field(W, *Kept.Interval);
         End_Line(W);
     }
+    return Any;
 }
 
 } // namespace
@@ -45,8 +48,8 @@ std::vector<Kept_Sentence> Kept_Sentences(Simulator_State& S, Window_Span Window
     return All;
 }
 
-void Read_Sentences(Setup_Reader& Reader, const std::vector<Kept_Sentence>& All, std::string_view Section) {
-    Walk(Reader, All, Section);
+bool Read_Sentences(Setup_Reader& Reader, const std::vector<Kept_Sentence>& All, std::string_view Section) {
+    return Walk(Reader, All, Section);
 }
 
 void Write_Sentences(Setup_Writer& Writer, const std::vector<Kept_Sentence>& All, std::string_view Section) {

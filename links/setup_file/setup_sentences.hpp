@@ -23,7 +23,12 @@ struct Kept_Sentence {
 // Of all sentences, in the order of their lines; made once for a whole file.
 std::vector<Kept_Sentence> Kept_Sentences(Simulator_State& State, Window_Span Windows);
 
-void Read_Sentences(Setup_Reader& Reader, const std::vector<Kept_Sentence>& All, std::string_view Section);
+// As with the table of windows, for one who reads many files into the same state.
+Setup_Reading Read_Setup(std::string_view Bytes, Simulator_State& State,
+                         const std::vector<Kept_Sentence>& Sentences);
+
+// False when no sentence stands in this section.
+bool Read_Sentences(Setup_Reader& Reader, const std::vector<Kept_Sentence>& All, std::string_view Section);
 void Write_Sentences(Setup_Writer& Writer, const std::vector<Kept_Sentence>& All, std::string_view Section);
 
 // Every section that a sentence names, each once.

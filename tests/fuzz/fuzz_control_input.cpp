@@ -98,12 +98,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     On.Begin();
     On.Open(Cut_Part(Rest));
     if (On.World.Sockets.empty() && !Rest.empty()) On.Open("5050");
-    const bool Sails = Is_One_Of_Some(Data, Size);
     while (!Rest.empty()) {
         On.World.Sockets.front()->Arrive(Cut_Part(Rest));
         On.Check_Ship();
-        if (Sails) On.Sail();
     }
+    if (Is_One_Of_Some(Data, Size)) On.Sail();
     Require(On.Sim.Windows.Boxes.Standing.empty());
     return 0;
 }
