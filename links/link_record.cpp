@@ -56,7 +56,8 @@ std::string Full_Link_Name(const Simulator& Sim, int Port) {
     if (Port <= port_number::Last_Serial) return "COM" + std::to_string(Port);
     if (Port == port_number::TCP) return "TCP " + std::to_string(S.TCP_Port);
     const int K = Port - port_number::First_UDP;
-    if (S.UDP_Port_Number[K] == 0) return "UDP link " + std::to_string(K + 1); // as the port setup counts them
+    if (S.UDP_Port_Number[K] == 0)
+        return "UDP link " + std::to_string(K + 1); // as the port setup counts them
     return "UDP " + UDP_Destination(Sim) + ":" + std::to_string(S.UDP_Port_Number[K]);
 }
 

@@ -36,14 +36,15 @@ struct Device_Tree {
 TEST(Com_Table_, Devices_are_found_once_each_built_in_ones_first) {
     const Device_Tree Tree;
     const std::string S10 = Tree.Add_UART("ttyS10", "4"), S2 = Tree.Add_UART("ttyS2", "4");
-    Tree.Add_UART("ttyS0", "0"); // not there in truth
+    Tree.Add_UART("ttyS0", "0");              // not there in truth
     const std::string S3 = Tree.Add("ttyS3"); // opening it tells
     const std::string AMA = Tree.Add("ttyAMA0"), USB1 = Tree.Add("ttyUSB1"), ACM = Tree.Add("ttyACM0");
     Tree.Add("ttyUSB0");
     const std::string By_Id = Tree.Add_By_Id("usb-Maker_Adapter-if00", "ttyUSB0");
     Tree.Add("tty1");
     Tree.Add("ttyUSBx");
-    EXPECT_EQ(Find_Serial_Devices(Tree.Roots), (std::vector<std::string>{S2, S3, S10, AMA, By_Id, USB1, ACM}));
+    EXPECT_EQ(Find_Serial_Devices(Tree.Roots),
+              (std::vector<std::string>{S2, S3, S10, AMA, By_Id, USB1, ACM}));
     EXPECT_TRUE(Find_Serial_Devices({Tree.Folder / "none", Tree.Folder / "none"}).empty());
 }
 
