@@ -41,7 +41,7 @@ bool Pauses(const Button& Pause, const Timer& Simulation) { return !Runs(Simulat
 Layout State_Line(const Simulator& Sim, const Sensor_Form& W, const Button& Pause, const Timer& Simulation,
                   const char* Standing) {
     return Text([&Sim, &W, &Pause, &Simulation, Standing] {
-        const bool Sends = Any_Sentence_Runs(W);
+        const bool Sends = Any_Sentence_Runs(W) && Output_Leaves(Sim, Port_Of(Sim, W));
         if (Sim.State.Of<Shell_State>().Mode == "Ship")
             return State_Said(Sim, W, "Ship control", Role::Readout);
         if (Runs(Simulation)) return State_Said(Sim, W, "Running", Role::Good);
