@@ -17,7 +17,7 @@ using Maybe = std::optional<Json>;
 constexpr std::array Kind_Names{"Button", "Check_Box", "Combo_Box", "Text_Box", "Scroll_Bar", "Option_Button",
                                 "Label",  "Frame",     "Menu_Item", "Grid",     "Timer"};
 constexpr std::array Ink_Names{"Normal", "Black", "Red", "Green", "Amber"};
-constexpr std::array Form_Kind_Names{"Main", "Child", "Dialog", "Tool"};
+constexpr std::array Form_Kind_Names{"Main", "Child", "Dialog", "Tool", "Side"};
 constexpr std::array Window_State_Names{"Normal", "Minimised", "Maximised"};
 
 // The kind of a control says its type: each kind is one struct.

@@ -11,7 +11,8 @@ namespace brinewright {
 
 class Desktop;
 
-enum class Form_Kind { Main, Child, Dialog, Tool };
+// Side: beside the room of the child windows.
+enum class Form_Kind { Main, Child, Dialog, Tool, Side };
 enum class Window_State { Normal, Minimised, Maximised };
 
 // The keys that are held while another is pressed.

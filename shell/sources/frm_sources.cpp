@@ -78,7 +78,7 @@ void frmSources_Load(Simulator& Sim, Form& Opened) {
 
 } // namespace
 
-frmSources::frmSources(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Tool) {
+frmSources::frmSources(Desktop& Its_Windows) : Form(Its_Windows, Class_Name, 0, Form_Kind::Side) {
     Caption = "Sources";
 }
 

@@ -97,7 +97,8 @@ TEST_F(Arranging, A_Source_That_Is_Silenced_Sends_Nothing) {
     auto* const Sources = Open_One<frmSources>(Sim);
     ASSERT_TRUE(Sources);
     EXPECT_EQ(*Sources->lblState[form_index::Gyro_1].Caption, "window closed");
-    Sim.State.Of<Link_State>().Sensor_Table[form_index::Gyro_1].Port = port_number::First_UDP;
+    Use({port_number::First_UDP});
+    Link().Sensor_Table[form_index::Gyro_1].Port = port_number::First_UDP;
     Click(Sources->chkSends[form_index::Gyro_1]); // opens it
     auto* const Gyro = static_cast<Sensor_Form*>(Open_Form_Of_Index(Sim, form_index::Gyro_1));
     ASSERT_TRUE(Gyro);

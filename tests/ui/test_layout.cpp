@@ -70,7 +70,7 @@ TEST_P(In_Mode, Every_Window_Fits_The_Display) {
         const auto* Child = qobject_cast<QMdiSubWindow*>(Window);
         if (!Child) continue;
         EXPECT_TRUE(Child->mdiArea()->viewport()->rect().contains(Child->geometry())) << F->Path();
-        const auto* Scroll = qobject_cast<QScrollArea*>(Child->widget());
+        const auto* Scroll = Child->findChild<QScrollArea*>();
         ASSERT_TRUE(Scroll);
         EXPECT_FALSE(Scroll->verticalScrollBar()->isVisible())
             << F->Path() << " wants " << Scroll->widget()->sizeHint().height() << " of " << Scroll->height();
@@ -86,7 +86,7 @@ TEST_F(Layout, Windows_Grow_With_What_They_Show) {
     Settle();
     frmWind& W = *Open_One<frmWind>(Sim, 1);
     auto& Child = *qobject_cast<QMdiSubWindow*>(View->Window_Of("frmWind[1]"));
-    const auto& Scroll = *qobject_cast<QScrollArea*>(Child.widget());
+    const auto& Scroll = *Child.findChild<QScrollArea*>();
     const auto Show = [&](const char* Text) {
         W.lblShipSetup.Caption = std::string(Text);
         Settle();
@@ -97,12 +97,18 @@ TEST_F(Layout, Windows_Grow_With_What_They_Show) {
     EXPECT_GT(Child.width(), Width);
     EXPECT_FALSE(Scroll.horizontalScrollBar()->isVisible());
     Expect_Whole("frmWind[1]");
-    Child.resize(300, Child.height());
+    const int Narrow = Child.width() * 8 / 10;
+    Child.resize(Narrow, Child.height());
     Settle();
     W.Set_Caption("Wind gauge");
     Show("(Ship Setup)");
-    EXPECT_EQ(Child.width(), 300);
+    EXPECT_EQ(Child.width(), Narrow);
     EXPECT_TRUE(Scroll.horizontalScrollBar()->isVisible());
+    // With little room left it shows what is most important instead of a part of all.
+    Child.resize(300, 240);
+    Show("(Ship Setup) ");
+    EXPECT_FALSE(Scroll.isVisible());
+    EXPECT_FALSE(W.Small);
 }
 
 // A larger window gives what it gains to lists and sentences, and nothing overlaps in it.

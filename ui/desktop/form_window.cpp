@@ -37,7 +37,7 @@ Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, con
         Box->addWidget(Its_View);
         Box->setSizeConstraint(QLayout::SetMinimumSize);
         Dialog->installEventFilter(this);
-    } else if (Shown->Kind == Form_Kind::Tool) {
+    } else if (Shown->Kind == Form_Kind::Side) {
         Make_Dock();
     } else {
         Make_Child(*Shown);
@@ -72,7 +72,8 @@ void Form_Window::Make_Child(const Form& Shown) {
 // At the left side of the main window, which shares its room with it.
 void Form_Window::Make_Dock() {
     Dock = new QDockWidget;
-    Dock->setFeatures(QDockWidget::DockWidgetClosable);
+    Dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    Dock->setTitleBarWidget(new QWidget); // its menu entry closes it
     auto* Scroll = new QScrollArea;
     Scroll->setWidgetResizable(true);
     Scroll->setFocusPolicy(Qt::NoFocus);
