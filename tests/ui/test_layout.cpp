@@ -3,6 +3,7 @@
 #include "shell/state/shell_state.hpp"
 #include "tests/ui/shown_desktop.hpp"
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
 #include <QStyle>
