@@ -282,6 +282,7 @@ int Run_Main(int Argument_Count, char** Arguments, const char* Program_Name,
     int Exit_Status = 0;
     const auto Chosen = Read_Options(Argument_Count, Arguments, Program_Name, Exit_Status);
     if (!Chosen) return Exit_Status;
+    Hold_Termination_Signals();
     try {
         return Run(*Chosen);
     } catch (const std::exception& Failure) {

@@ -9,9 +9,12 @@
 
 namespace brinewright {
 
+// Lets SIGTERM, SIGINT and SIGHUP wait until there is a Termination_Signals. To be called before any thread
+// is started, the toolkit's own among them: one that knows nothing of this would take a signal and die of it.
+void Hold_Termination_Signals();
+
 // SIGTERM, SIGINT and SIGHUP call Terminate from the event loop, as often as they come; SIGPIPE is
-// ignored. A SIGHUP that was ignored at the start (nohup) stays ignored. Make it before any thread is
-// started, as threads take over what is blocked here. Throws Run_Time_Error.
+// ignored. A SIGHUP that was ignored at the start (nohup) stays ignored. Throws Run_Time_Error.
 class Termination_Signals {
   public:
     explicit Termination_Signals(std::function<void()> Terminate);

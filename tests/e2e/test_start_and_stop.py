@@ -36,6 +36,8 @@ class Saving(TestCase):
         second = Program(self, folder=first.folder)
         remote = second.automation()
         self.assertEqual(remote.get("frmPosition[2].Left"), 4321)
+        self.assertRaises(Refused, remote.get, "frmPosition[1]")  # closed by hand, closed at the next start
+        remote.click("frmMain.mnuOpenForm(1)")
         self.assertEqual(remote.get("frmPosition[1].cmbGGAInterval.ListIndex"), 4)
         remote.click("frmMain.mnuMode(1)")  # what is changed must be saved also by the other signal
         self.assertEqual(second.stop(signal.SIGTERM), 0, second.stderr.text())
