@@ -28,7 +28,8 @@ class Virtual_Program_Platform final : public Virtual_Platform {
     using Virtual_Platform::Virtual_Platform;
     void Quit() override {
         Quitting = true;
-        QCoreApplication::exit(); // quit() would ask each open dialog first, and they do not close by themselves
+        QCoreApplication::exit(); // quit() would ask each open dialog first, and they do not close by
+                                  // themselves
     }
 };
 
@@ -223,6 +224,7 @@ int Run_Program(const Program_Options& Chosen, const Front_End& Front) {
 
 int Run_Main(int Argument_Count, char** Arguments, const char* Program_Name,
              const std::function<int(const Program_Options&)>& Run) {
+    Hold_Back_Termination();
     int Exit_Status = 0;
     const auto Chosen = Read_Options(Argument_Count, Arguments, Program_Name, Exit_Status);
     if (!Chosen) return Exit_Status;

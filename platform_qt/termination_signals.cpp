@@ -16,15 +16,25 @@ bool Is_Ignored(int Signal) {
     return ::sigaction(Signal, nullptr, &Present) == 0 && Present.sa_handler == SIG_IGN;
 }
 
-} // namespace
-
-Termination_Signals::Termination_Signals(std::function<void()> On_Terminate) {
-    std::signal(SIGPIPE, SIG_IGN);
+sigset_t Wanted_Signals() {
     sigset_t Wanted;
     sigemptyset(&Wanted);
     sigaddset(&Wanted, SIGTERM);
     sigaddset(&Wanted, SIGINT);
     if (!Is_Ignored(SIGHUP)) sigaddset(&Wanted, SIGHUP);
+    return Wanted;
+}
+
+} // namespace
+
+void Hold_Back_Termination() {
+    const sigset_t Wanted = Wanted_Signals();
+    ::pthread_sigmask(SIG_BLOCK, &Wanted, nullptr);
+}
+
+Termination_Signals::Termination_Signals(std::function<void()> On_Terminate) {
+    std::signal(SIGPIPE, SIG_IGN);
+    const sigset_t Wanted = Wanted_Signals();
     ::pthread_sigmask(SIG_BLOCK, &Wanted, &Mask_Before);
     Signals = Unique_Fd(::signalfd(-1, &Wanted, SFD_NONBLOCK | SFD_CLOEXEC));
     if (!Signals) {

@@ -9,9 +9,12 @@
 
 namespace brinewright {
 
+// Called first of all: what is blocked here the threads of the toolkit take over, and the signals wait for
+// Termination_Signals. One that reached such a thread would end the program at once, without a save.
+void Hold_Back_Termination();
+
 // SIGTERM, SIGINT and SIGHUP call On_Terminate from the event loop, as often as they come; SIGPIPE is
-// ignored. A SIGHUP that was ignored at the start (nohup) stays ignored. Make it before any thread is
-// started, as threads take over what is blocked here. Throws Run_Time_Error.
+// ignored. A SIGHUP that was ignored at the start (nohup) stays ignored. Throws Run_Time_Error.
 class Termination_Signals {
   public:
     explicit Termination_Signals(std::function<void()> On_Terminate);

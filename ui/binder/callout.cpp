@@ -23,6 +23,10 @@ Callout::Callout(QWidget* View) : QLabel(View) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     hide();
+    // Not over the field that the user goes on to.
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (Its_Field && isVisible()) Stand_Beside(*Its_Field);
+    });
 }
 
 void Callout::Say(const QString& Why, const QWidget& Beside) {
@@ -36,6 +40,7 @@ void Callout::Say(const QString& Why, const QWidget& Beside) {
     setWordWrap(true);
     const int Width = std::min(Wide, Widest);
     resize(Width, Wide > Widest ? heightForWidth(Width) : sizeHint().height());
+    Its_Field = &Beside;
     Stand_Beside(Beside);
     raise();
 }
@@ -45,10 +50,10 @@ void Callout::Say(const QString& Why, const QWidget& Beside) {
 void Callout::Stand_Beside(const QWidget& Field) {
     const QWidget& View = *parentWidget();
     const QRect Place(Field.mapTo(&View, QPoint(0, 0)), Field.size());
-    const std::array<QPoint, 4> Corners{QPoint(Place.right() + Gap, Place.center().y() - height() / 2),
-                                        QPoint(Place.left(), Place.bottom() + Gap),
-                                        QPoint(Place.left(), Place.top() - Gap - height()),
-                                        QPoint(Place.left() - Gap - width(), Place.center().y() - height() / 2)};
+    const std::array<QPoint, 4> Corners{
+        QPoint(Place.right() + Gap, Place.center().y() - height() / 2),
+        QPoint(Place.left(), Place.bottom() + Gap), QPoint(Place.left(), Place.top() - Gap - height()),
+        QPoint(Place.left() - Gap - width(), Place.center().y() - height() / 2)};
     const auto Covered = [&](const QPoint& Corner) {
         constexpr int Of_Keyboard = 10, Outside = 20;
         const QRect Taken(Corner, size());

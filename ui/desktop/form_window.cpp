@@ -59,8 +59,11 @@ Form_Window::Form_Window(Simulator& Sim, const std::shared_ptr<Form>& Shown, con
 
 Form_Window::~Form_Window() {
     Placing = true;
+    const bool Had_Keyboard = Dialog && Dialog->isActiveWindow();
     delete Child;
     delete Dialog;
+    // Without a window manager nobody else gives it back.
+    if (Had_Keyboard) Area.window()->activateWindow();
 }
 
 QWidget* Form_Window::Frame_Widget() const {
