@@ -1,8 +1,8 @@
-# Several sources of a folder are compiled as one, which takes half the time. Layouts stand alone: their short words (Row, Column,
-# Fields) are taken by others too.
+# Several sources of a folder are compiled as one, which takes half the time. Layouts of windows stand alone: their short words (Row,
+# Column, Fields) are taken by others too.
 function(brinewright_unity Name Folder)
   set_target_properties(${Name} PROPERTIES UNITY_BUILD ${BRINEWRIGHT_UNITY} UNITY_BUILD_BATCH_SIZE 8)
-  file(GLOB Layouts ${CMAKE_SOURCE_DIR}/${Folder}/*layout*.cpp)
+  file(GLOB Layouts ${CMAKE_SOURCE_DIR}/${Folder}/*_layout.cpp ${CMAKE_SOURCE_DIR}/${Folder}/layout.cpp)
   set_source_files_properties(${Layouts} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 endfunction()
 
@@ -23,7 +23,7 @@ endfunction()
 function(brinewright_ui_library Name Folder)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
   brinewright_library(${Name} ${Folder} ${ARGN} Qt6::Widgets)
-  set_target_properties(${Name} PROPERTIES AUTOMOC ON UNITY_BUILD OFF) # instruments share the names of their sizes
+  set_target_properties(${Name} PROPERTIES AUTOMOC ON)
   target_compile_definitions(${Name} PUBLIC QT_NO_KEYWORDS)
   # The toolkit's headers come with conversions of their own.
   target_include_directories(${Name} SYSTEM PUBLIC ${Qt6Widgets_INCLUDE_DIRS})

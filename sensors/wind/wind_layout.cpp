@@ -26,7 +26,7 @@ Layout Dial(const Simulator& Sim, const frmWind& W) {
     return Painted(
         [&S = Sim.State, &W] { return Read_Wind(S, W); }, 264, 300,
         "Where the wind comes from, bow up, in degrees off the bow. Filled arrow: apparent wind; open "
-        "arrow: true wind, whose figure counts from north");
+        "arrow: true wind, whose direction from north the window shows as a figure");
 }
 
 Layout Speed_Box(frmWind& W) {

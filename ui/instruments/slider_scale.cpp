@@ -13,7 +13,7 @@ namespace {
 
 constexpr double Thumb_Length = 14; // as the style has it
 constexpr double Least_Step = 4, Tick_Length = 5, Figure_Tick_Length = 7, Figure_Gap = 2;
-constexpr int Figure_Pixels = 11;
+constexpr int Scale_Figure_Pixels = 11;
 constexpr int Label_Top = 8;
 
 // From (Along, Across) of a scale to the picture.
@@ -29,14 +29,14 @@ void Draw_Tick(QPainter& Painter, const QRectF& Place, Qt::Orientation Direction
 void Paint_Figures(QPainter& Painter, const QRectF& Place, const Slider_Scale_Reading& Shown, double Length,
                    Palette_Kind Kind) {
     QFont Face = Painter.font();
-    Face.setPixelSize(Figure_Pixels);
+    Face.setPixelSize(Scale_Figure_Pixels);
     Painter.setFont(Face);
     const bool Lies = Shown.Direction == Qt::Horizontal;
     constexpr double Behind = Figure_Tick_Length + 4;
     double Free_From = 0;
     for (const auto& Figure : Shown.Figures) {
         const double Along = Thumb_Middle(Figure.Share, Length);
-        const double Room = Lies ? QFontMetricsF(Face).horizontalAdvance(Figure.Text) : Figure_Pixels;
+        const double Room = Lies ? QFontMetricsF(Face).horizontalAdvance(Figure.Text) : Scale_Figure_Pixels;
         const double From = std::clamp(Along - Room / 2, 0.0, std::max(Length - Room, 0.0));
         if (From < Free_From) continue;
         Free_From = From + Room + Figure_Gap;

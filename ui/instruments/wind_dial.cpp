@@ -10,8 +10,8 @@ namespace brinewright {
 
 namespace {
 
-constexpr double Legend_Height = 38, Rim_Room = 3;
-constexpr double Figures_At = 0.8, Arrow_Tail = 0.7, Arrow_Tip = 0.36; // of the radius
+constexpr double Legend_Height = 38, Dial_Rim_Room = 3;
+constexpr double Dial_Figures_At = 0.8, Arrow_Tail = 0.7, Arrow_Tip = 0.36; // of the radius
 
 struct Dial {
     QPointF Centre;
@@ -38,7 +38,7 @@ void Paint_Scale(QPainter& Painter, const Dial& D) {
     Arc(Token::Starboard, 90 - Side_To_deg, Side_To_deg - Side_From_deg);
     Arc(Token::Port, 90 + Side_From_deg, Side_To_deg - Side_From_deg);
     for (int Angle_deg = 0; Angle_deg < 360; Angle_deg += 30)
-        Write_At(Painter, On_Circle(D.Centre, D.Radius * Figures_At, Angle_deg),
+        Write_At(Painter, On_Circle(D.Centre, D.Radius * Dial_Figures_At, Angle_deg),
                  QString::number(Angle_deg).rightJustified(3, QLatin1Char('0')), D.Radius * 0.105,
                  D.In(Token::Dim_Text));
 }
@@ -88,13 +88,21 @@ void Paint_Wind(QPainter& Painter, const Dial& D, double Angle_deg, double Half_
     Painter.restore();
 }
 
+// Of the true wind, 0 to 360.
+float Off_The_Bow(const Wind_Reading& Shown) {
+    constexpr float Circle_deg = 360;
+    const float Angle_deg = Shown.True_Direction_deg - Shown.Heading_deg;
+    return Angle_deg < 0 ? Angle_deg + Circle_deg : Angle_deg;
+}
+
 void Paint_Legend(QPainter& Painter, const Dial& D, const QRectF& Place, const Wind_Reading& Shown) {
+    // The angle beside an arrow is the one at which it stands in the scale.
     const struct {
         const char* Name;
         float Angle_deg, Speed;
         void (*Take_Ink)(QPainter&, const Dial&);
     } Lines[] = {{"Apparent", Shown.Apparent_Angle_deg, Shown.Apparent_Speed, Ink_Apparent},
-                 {"True", Shown.True_Direction_deg, Shown.True_Speed, Ink_True}};
+                 {"True", Off_The_Bow(Shown), Shown.True_Speed, Ink_True}};
     QFont Face = Painter.font();
     Face.setPixelSize(12);
     double Y = Place.bottom() - Legend_Height;
@@ -123,14 +131,14 @@ void Paint_Legend(QPainter& Painter, const Dial& D, const QRectF& Place, const W
 
 void Paint_Wind_Dial(QPainter& Painter, const QRectF& Place, const Wind_Reading& Shown, Palette_Kind Kind) {
     Painter.setRenderHint(QPainter::Antialiasing);
-    const double Radius = std::min(Place.width(), Place.height() - Legend_Height) / 2 - Rim_Room;
+    const double Radius = std::min(Place.width(), Place.height() - Legend_Height) / 2 - Dial_Rim_Room;
     if (Radius < 20) return;
     const Dial D{{Place.center().x(), Place.top() + (Place.height() - Legend_Height) / 2}, Radius, Kind};
     Paint_Scale(Painter, D);
     Paint_Ship(Painter, D);
     if (Shown.True_Speed > 0) {
         Ink_True(Painter, D);
-        Paint_Wind(Painter, D, Shown.True_Direction_deg - Shown.Heading_deg, 0.13);
+        Paint_Wind(Painter, D, Off_The_Bow(Shown), 0.13);
     }
     if (Shown.Apparent_Speed > 0) {
         Ink_Apparent(Painter, D);

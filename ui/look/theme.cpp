@@ -19,14 +19,14 @@ constexpr std::array<Colours, Token_Count> Table{{
     {{"#E7EAED", "#1F262D", "#0A0B0C"}}, // Window: the main surface
     {{"#F6F7F8", "#29323B", "#121416"}}, // Panel: group boxes, child windows
     {{"#FFFFFF", "#182026", "#0D0F10"}}, // Field: inputs, lists, tables
-    {{"#B9C0C7", "#3D4954", "#24282B"}}, // Line: borders, grid lines
+    {{"#A9B1B9", "#4A5763", "#3A4046"}}, // Line: borders, grid lines
     {{"#1B2229", "#D6DEE5", "#A8641E"}}, // Text: captions
-    {{"#5B6670", "#8997A3", "#6B4419"}}, // Dim_Text: units, hints, disabled
+    {{"#5B6670", "#95A3AF", "#8A5A28"}}, // Dim_Text: units, hints, disabled
     {{"#0B3A66", "#7FD1FF", "#C8741C"}}, // Readout: large figures
-    {{"#0F6FB3", "#3FA7E0", "#8C4A12"}}, // Accent: focus, selection, sliders
-    {{"#2E7D32", "#5CC46A", "#3E6B2E"}}, // Good: running, valid checksum
-    {{"#B26A00", "#E8A33D", "#9A5A10"}}, // Warn: paused, frozen, late
-    {{"#B3261E", "#F26D63", "#8E2A20"}}, // Bad: invalid, fault injected, failed
+    {{"#0F6FB3", "#3FA7E0", "#A05A1A"}}, // Accent: focus, selection, sliders
+    {{"#256B2B", "#5CC46A", "#4F7F3C"}}, // Good: running, valid checksum
+    {{"#8F5500", "#E8A33D", "#9A5A10"}}, // Warn: paused, frozen, late
+    {{"#B3261E", "#F5857C", "#B8483A"}}, // Bad: invalid, fault injected, failed
     {{"#C62828", "#EF5350", "#7E2420"}}, // Port side
     {{"#2E7D32", "#66BB6A", "#2F5A2B"}}, // Starboard side
 }};
