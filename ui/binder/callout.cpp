@@ -36,10 +36,10 @@ void Callout::Say(const QString& Why, const QWidget& Beside) {
     if (Why.isEmpty()) return;
     ensurePolished();
     setWordWrap(false);
-    const int Wide = sizeHint().width();
+    const QSize One_Line = sizeHint();
     setWordWrap(true);
-    const int Width = std::min(Wide, Widest);
-    resize(Width, Wide > Widest ? heightForWidth(Width) : sizeHint().height());
+    const bool Wraps = One_Line.width() > Widest;
+    resize(Wraps ? QSize(Widest, heightForWidth(Widest)) : One_Line);
     Its_Field = &Beside;
     Stand_Beside(Beside);
     raise();
