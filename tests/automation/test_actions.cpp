@@ -133,10 +133,30 @@ TEST_F(Actions, Failures_Of_Handlers_Go_To_A_Box_And_Refusals_To_The_Peer) {
     EXPECT_EQ(Boxes[0]["icon"], "Stop");
     EXPECT_EQ(Click_Error("cmdRefuse"), -32002);
     EXPECT_EQ(Windows.Boxes.Standing.size(), 1u);
+    EXPECT_EQ(Error("answer", {{"id", Boxes[0]["id"]}, {"button", "No"}}), -32003) << "it has no such button";
     Result("answer", {{"id", Boxes[0]["id"]}});
     EXPECT_TRUE(Windows.Boxes.Standing.empty());
     EXPECT_EQ(Error("answer", {{"id", Boxes[0]["id"]}}), -32007);
     EXPECT_EQ(Error("answer", {{"id", -1}}), -32602);
+}
+
+TEST_F(Actions, A_Box_Is_Answered_With_The_Button_That_Is_Named) {
+    const struct {
+        Json Button;
+        Box_Button Pressed;
+    } Cases[] = {
+        {"No", Box_Button::No}, {1, Box_Button::No}, {"Yes", Box_Button::Yes}, {Json(), Box_Button::Yes}};
+    for (const auto& Case : Cases) {
+        std::vector<Box_Button> Told;
+        Windows.Boxes.Show("Delete?", "", Box_Icon::None, Box_Buttons::Yes_No,
+                           [&](Box_Button Pressed) { Told.push_back(Pressed); });
+        const Json Boxes = Result("boxes");
+        EXPECT_EQ(Boxes[0]["buttons"], (Json{"Yes", "No"}));
+        Result("answer", {{"id", Boxes[0]["id"]}, {"button", Case.Button}});
+        EXPECT_EQ(Told, std::vector<Box_Button>{Case.Pressed}) << Case.Button;
+        ASSERT_TRUE(Windows.Boxes.Last_Answer);
+        EXPECT_EQ(Windows.Boxes.Last_Answer->Pressed, Case.Pressed);
+    }
 }
 
 TEST_F(Actions, File_Dialogs_Are_Answered) {

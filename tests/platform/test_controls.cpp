@@ -160,6 +160,32 @@ TEST_F(Controls_On_A_Form, Focus_runs_each_handler_once_and_can_be_sent_back) {
     EXPECT_EQ(Windows.Focus, &F.txtB);
 }
 
+TEST_F(Controls_On_A_Form, A_tick_does_not_write_where_the_user_types) {
+    const auto Tick = [this](const char* Text) {
+        Windows.Ticking = true;
+        F.txtA.Set_Text(Text);
+        Windows.Ticking = false;
+        return F.txtA.Text();
+    };
+    F.txtA.Lost_Focus = [this] { Log += F.txtA.Text() + ";"; };
+    Windows.User_Focus(F.txtA);
+    const std::string Before = F.txtA.Text();
+    EXPECT_EQ(Tick("1"), Before);
+    Windows.User_Focus(F.txtB);
+    EXPECT_EQ(Log, "1;") << "left alone it follows";
+    Windows.User_Type(F.txtA, "07");
+    EXPECT_EQ(Tick("2"), "07");
+    Windows.User_Key(F, key::Escape);
+    EXPECT_EQ(F.txtA.Text(), "2");
+    Windows.User_Type(F.txtA, "08");
+    Windows.User_Key(F, key::Enter);
+    EXPECT_EQ(Log, "1;08;");
+    EXPECT_EQ(Windows.Focus, &F.txtA);
+    Windows.User_Type(F.txtA, "09");
+    Windows.User_Click(F.mnuA);
+    EXPECT_EQ(Log, "1;08;09;") << "a menu takes what is half typed";
+}
+
 TEST_F(Controls_On_A_Form, A_click_leaves_the_box_before_and_respects_what_that_did) {
     F.txtA.Lost_Focus = [this] { F.cmdA.Enabled = false; };
     F.cmdA.Click = Note("clicked");

@@ -23,6 +23,10 @@ Callout::Callout(QWidget* View) : QLabel(View) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     hide();
+    // Not over the field that the user goes on to.
+    connect(qApp, &QApplication::focusChanged, this, [this] {
+        if (Its_Field && isVisible()) Stand_Beside(*Its_Field);
+    });
 }
 
 void Callout::Say(const QString& Why, const QWidget& Beside) {
@@ -32,10 +36,11 @@ void Callout::Say(const QString& Why, const QWidget& Beside) {
     if (Why.isEmpty()) return;
     ensurePolished();
     setWordWrap(false);
-    const int Wide = sizeHint().width();
+    const QSize One_Line = sizeHint();
     setWordWrap(true);
-    const int Width = std::min(Wide, Widest);
-    resize(Width, Wide > Widest ? heightForWidth(Width) : sizeHint().height());
+    const bool Wraps = One_Line.width() > Widest;
+    resize(Wraps ? QSize(Widest, heightForWidth(Widest)) : One_Line);
+    Its_Field = &Beside;
     Stand_Beside(Beside);
     raise();
 }

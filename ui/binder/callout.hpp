@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPointer>
 
 namespace brinewright {
 
@@ -14,6 +15,7 @@ class Callout : public QLabel {
 
   private:
     void Stand_Beside(const QWidget& Field);
+    QPointer<const QWidget> Its_Field;
 };
 
 } // namespace brinewright

@@ -54,12 +54,15 @@ void Box_View::Take_Answered_Away() {
     };
     if (Box && !Stands(Sim.Windows.Boxes.Standing, Box_Id)) {
         Box->disconnect(this);
+        // Without a window manager nobody else gives the keyboard back.
+        if (Box->isActiveWindow() || !Box->isVisible()) Box->parentWidget()->activateWindow();
         Box->hide();
         Box->deleteLater();
         Box = nullptr;
     }
     if (Asking && !Stands(Sim.Windows.File_Dialogs, Asked_Id)) {
         Asking->disconnect(this);
+        if (Asking->isActiveWindow() || !Asking->isVisible()) Window.activateWindow();
         Asking->close();
         Asking = nullptr;
     }

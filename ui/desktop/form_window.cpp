@@ -86,9 +86,12 @@ void Form_Window::Make_Dock() {
 
 Form_Window::~Form_Window() {
     Placing = true;
+    const bool Had_Keyboard = Dialog && Dialog->isActiveWindow();
     delete Child;
     delete Dock;
     delete Dialog;
+    // Without a window manager nobody else gives it back.
+    if (Had_Keyboard) Area.window()->activateWindow();
 }
 
 QWidget* Form_Window::Frame_Widget() const {
