@@ -100,8 +100,8 @@ void Form_Load(Simulator& Sim, frmPosition& W) {
 }
 
 std::string Value_Now(const Simulator_State& S, int Instance) {
-    return Format_DM(S.Of<GNSS_State>().GNSS_Lat[Instance], "LAT", "Form", 2) + "  " +
-           Format_DM(S.Of<GNSS_State>().GNSS_Lon[Instance], "LON", "Form", 2);
+    return Format_DM(S.Of<GNSS_State>().GNSS_Lat[Instance], "LAT", "Form", 1) + " " +
+           Format_DM(S.Of<GNSS_State>().GNSS_Lon[Instance], "LON", "Form", 1);
 }
 
 } // namespace

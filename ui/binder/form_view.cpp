@@ -231,8 +231,10 @@ QLabel* Form_View::Make(Label& C, const char* Role) {
     auto* W = new QLabel(this);
     W->setTextFormat(Qt::PlainText);
     W->setProperty("role", QString::fromLatin1(Role));
-    Bind(C, W, [&C, W] {
-        W->setText(To_Screen(*C.Caption));
+    // A figure without a meaning as yet is told alike everywhere.
+    const QString Nothing = std::string_view(Role) == "readout" ? QStringLiteral("---") : QString();
+    Bind(C, W, [&C, W, Nothing] {
+        W->setText(C.Caption->empty() ? Nothing : To_Screen(*C.Caption));
         // A palette would do nothing beside the style.
         constexpr const char* Names[] = {"", "", "red", "green", "amber"};
         const auto Name = QLatin1String(Names[static_cast<std::size_t>(*C.Fore_Colour)]);

@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QStackedWidget>
-#include <QStyle>
+#include <QStyleOption>
 #include <QToolButton>
 
 #include <cstdlib>
@@ -59,9 +59,13 @@ QSize Child_Window::Room() const { return Scroll->viewport()->size(); }
 
 void Child_Window::Place_Button() {
     // Left of the three buttons of the title.
-    const int Title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    const int Size = Title - 6;
-    Button->setGeometry(width() - 4 * Title - 6, contentsMargins().left() + 2, Size, Size);
+    QStyleOptionTitleBar Title;
+    Title.initFrom(this);
+    Title.rect = QRect(0, 0, width(), style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+    Title.titleBarFlags = windowFlags();
+    const QRect Next =
+        style()->subControlRect(QStyle::CC_TitleBar, &Title, QStyle::SC_TitleBarMinButton, this);
+    Button->setGeometry(Next.translated(-Next.width() - 4, 0));
     Button->raise();
 }
 

@@ -101,8 +101,9 @@ void Make_One_Stop(Form_View& View, const Layout& Tree) {
     View.When_Shown([Stop] { Stop->Follow(); });
 }
 
-// A group box takes its margins from the style when it is made, before it had the name that the style knows.
-void Take_Style(QGroupBox* Box) {
+// A group box takes its margins from the style when it is made, before it says what the style is to know.
+void Make_Bare(QGroupBox* Box) {
+    Box->setProperty("bare", true);
     Box->ensurePolished();
     QEvent Named(QEvent::StyleChange);
     QCoreApplication::sendEvent(Box, &Named);
@@ -146,7 +147,7 @@ Built Make(Form_View& View, const Layout& Node, const layout::Framed& Kind) {
     // after its lists, which have their entries then; the bare one before them, which gives them their usual
     // width.
     QGroupBox* Box = Kind.Bare ? Its_Box() : nullptr;
-    if (Kind.Bare) Take_Style(Box);
+    if (Kind.Bare) Make_Bare(Box);
     const Built Contents = Make(View, Node.Inside.at(0));
     if (!Box) Box = Its_Box();
     if (Contents.Widget) (new QVBoxLayout(Box))->addWidget(Contents.Widget);

@@ -47,7 +47,7 @@ QMdiSubWindow { background: @Panel; }
 QWidget#form { background: @Panel; }
 QScrollArea, QScrollArea > QWidget > QWidget#form { background: @Panel; border: 0; }
 QGroupBox { background: @Panel; border: 1px solid @Line; border-radius: 4px; margin-top: 10px; padding-top: 8px; }
-QGroupBox#frmGGA { border: 0; margin: 0; padding: 0; }
+QGroupBox[bare="true"] { border: 0; margin: 0; padding: 0; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: @Dim; }
 QLineEdit, QPlainTextEdit, QComboBox, QTableView, QListView, QAbstractSpinBox {
     background: @Field; color: @Text; border: 1px solid @Line; border-radius: 3px; padding: 1px 5px;
