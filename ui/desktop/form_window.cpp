@@ -56,12 +56,15 @@ void Form_Window::Make_Child(const Form& Shown) {
     Child->Show_Whole(Its_View);
     Child->installEventFilter(this);
     connect(Child, &QMdiSubWindow::aboutToActivate, this, [this] {
-        if (const auto F = Source.lock(); F && !Placing) F->Windows.Event([&F] { F->Windows.Activate(*F); });
+        // The area chooses the next one while a window is minimised, also one that is about to be.
+        if (const auto F = Source.lock(); F && !Placing && F->State == State)
+            F->Windows.Event([&F] { F->Windows.Activate(*F); });
     });
-    if (!Has_Small_Form(*Its_View, Shown)) return;
+    if (!Has_Small_Form(*Its_View, Shown)) return Child->Show_Small(false);
     Small_View = new Form_View(Its_View->Sim, Source.lock(), Its_View->Colours);
     Child->Add_Small(Small_View);
     Lay_Out_Small(*Small_View, *Source.lock());
+    Child->Show_Small(false);
     connect(Small_View, &Form_View::Acted, Its_View, &Form_View::Acted);
     connect(Child, &Child_Window::Size_Asked, this, [this] {
         if (const auto F = Source.lock()) F->Windows.Event([&] { F->Set_Small(!Child->Shows_Small()); });
