@@ -36,8 +36,6 @@ void Desktop::Activate(Form& Window) {
         ++Revision; // a view that shows another one as active comes back
         return;
     }
-    if (Window.State == Window_State::Minimised && Window.Kind != Form_Kind::Main)
-        Window.Set_State(Window_State::Normal); // what is chosen is to be seen
     Active_Form = &Window;
     Window.Revision = Window.Last_Active = ++Revision;
     if (Window.On_Got_Focus) Window.On_Got_Focus();

@@ -1,6 +1,8 @@
 #include "gnss/gnss_state.hpp"
 #include "gnss/position/frm_position.hpp"
 #include "gnss/position/gnss_satellites.hpp"
+#include "ownship/geodesy/format_position.hpp"
+#include "sentences/number_pattern.hpp"
 #include "shell/kit/sensor_layout.hpp"
 #include "shell/state/simulator.hpp"
 
@@ -176,8 +178,9 @@ Layout Fix_Box(const Simulator& Sim, frmPosition& W) {
                                Column({Messages(Sim, W), Places, Quality_Box(W), Modes_Box(W), Stretch()})}));
 }
 
-Layout Place_Line(const char* Title, Label& Value) {
-    return Row({Text(Title), Readout(Value, 18, "000\xB0 00.0000' N")});
+// From the state: in Ship mode the labels of the window are hidden.
+Layout Read_Out(std::function<std::string()> Read) {
+    return Text([Read = std::move(Read)] { return layout::Said{Read(), Role::Readout}; });
 }
 
 // The frames to the right are there only when the window is wide enough for all as far as this one.
@@ -207,10 +210,18 @@ Layout Lay_Out_Position(Simulator& Sim, Form& Shown) {
 
 Layout Lay_Out_Small_Position(Simulator& Sim, Form& Shown) {
     auto& W = static_cast<frmPosition&>(Shown);
-    return Small_Window(Sim, W, true,
-                        {Column({Place_Line("Lat", W.lblLat), Place_Line("Lon", W.lblLon),
-                                 Row({Small_Value("SOG", W.lblSOG, "000.0", "knots"),
-                                      Small_Value("COG", W.lblCOG, "000.0", "deg")})})});
+    const GNSS_State& S = Sim.State.Of<GNSS_State>();
+    const int I = W.Instance;
+    const auto Value = [](const char* Title, std::function<std::string()> Read) {
+        return Row({Text(Title), Read_Out(std::move(Read))});
+    };
+    return Small_Window(
+        Sim, W, true,
+        {Column({Value("Lat", [&S, I] { return Format_DM(S.GNSS_Lat[I], "LAT", "Form", 4); }),
+                 Value("Lon", [&S, I] { return Format_DM(S.GNSS_Lon[I], "LON", "Form", 4); }),
+                 Value("SOG", [&S, I] { return Format_Dot(S.GNSS_SOG[I], "0.0") + " knots"; }),
+                 Value("COG", [&S, I] { return Format_Dot(S.GNSS_COG[I], "000.0") + " degrees"; })})
+             .Spaced(0)});
 }
 
 } // namespace brinewright

@@ -55,7 +55,7 @@ void Put(Form& Window, const Window_Place& There) {
 
 } // namespace
 
-std::vector<Window_Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room) {
+std::vector<Window_Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room, Lack In_Need) {
     // The large ones first: small ones find room beside them.
     std::vector<std::size_t> Order(Sizes.size());
     std::iota(Order.begin(), Order.end(), std::size_t{0});
@@ -64,7 +64,8 @@ std::vector<Window_Place> Beside_Each_Other(std::span<const Extent> Sizes, Exten
     std::vector<Window_Place> Taken, Places(Sizes.size());
     for (const std::size_t I : Order) {
         const Window_Place New = Free_Place(Sizes[I], Taken, Room);
-        if (Sticks_Out(New, Room) || Hidden_By(New, Taken) > 0) return In_Equal_Parts(Sizes.size(), Room);
+        const bool Fits = !Sticks_Out(New, Room) && Hidden_By(New, Taken) == 0;
+        if (!Fits && In_Need == Lack::Equal_Parts) return In_Equal_Parts(Sizes.size(), Room);
         Taken.push_back(New);
         Places[I] = New;
     }
@@ -132,11 +133,11 @@ void Place_Free(const Simulator& Sim, Form& Window) {
 namespace {
 
 // False when not all stand in their sizes.
-bool Tile_Now(Simulator& Sim) {
+bool Tile_Now(Simulator& Sim, Lack In_Need) {
     const std::vector<Form*> Windows = Standing_Windows(Sim);
     std::vector<Extent> Sizes;
     for (const Form* Window : Windows) Sizes.push_back(Size_Of(*Window));
-    const std::vector<Window_Place> Places = Beside_Each_Other(Sizes, Room_Of(Sim));
+    const std::vector<Window_Place> Places = Beside_Each_Other(Sizes, Room_Of(Sim), In_Need);
     bool All_Fit = true;
     for (std::size_t I = 0; I < Windows.size(); ++I) {
         All_Fit = All_Fit && Places[I].Width >= Sizes[I].Width && Places[I].Height >= Sizes[I].Height;
@@ -147,8 +148,8 @@ bool Tile_Now(Simulator& Sim) {
 
 } // namespace
 
-void Tile(Simulator& Sim) {
-    if (Tile_Now(Sim)) return;
+void Tile(Simulator& Sim, Lack In_Need) {
+    if (Tile_Now(Sim, In_Need)) return;
     bool Smaller = false;
     for (Form* Window : Standing_Windows(Sim)) {
         const Window_Class* Class = Find_Class(Sim, Window->Name);
@@ -157,7 +158,7 @@ void Tile(Simulator& Sim) {
         Smaller = true;
     }
     // Their sizes are known when they have been measured.
-    if (Smaller) Sim.Windows.When_Measured = [&Sim] { Tile_Now(Sim); };
+    if (Smaller) Sim.Windows.When_Measured = [&Sim, In_Need] { Tile_Now(Sim, In_Need); };
 }
 
 void Cascade(Simulator& Sim) {

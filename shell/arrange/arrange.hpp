@@ -16,9 +16,13 @@ struct Extent {
     float Width = 0, Height = 0;
 };
 
+// Where there is too little room for windows in their sizes.
+enum class Lack { Equal_Parts, Overlap };
+
 // Places for windows of these sizes, none upon another, from the top left. Where they do not fit in the room
-// in their sizes, all get equal parts of it.
-std::vector<Window_Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room);
+// in their sizes, all get equal parts of it, or hide as little of each other as can be.
+std::vector<Window_Place> Beside_Each_Other(std::span<const Extent> Sizes, Extent Room,
+                                            Lack In_Need = Lack::Equal_Parts);
 
 // Where a window of this size stands upon no other, as far to the top left as can be; where there is no such
 // place, the one where it hides least.
@@ -34,7 +38,7 @@ Extent Room_Of(const Simulator& Sim);
 void Place_Free(const Simulator& Sim, Form& Window);
 
 // Those that have a small form take it where the windows do not fit in their sizes.
-void Tile(Simulator& Sim);
+void Tile(Simulator& Sim, Lack In_Need);
 void Cascade(Simulator& Sim);
 void Close_All(Simulator& Sim); // each as if by hand
 

@@ -137,7 +137,7 @@ void Put_In_Place(Simulator& Sim, const Window_Layout& Layout) {
             Window->Set_Place(W.Share.Left * Room.Width, W.Share.Top * Room.Height,
                               W.Share.Width * Room.Width, W.Share.Height * Room.Height);
     }
-    if (Fitted) Tile(Sim);
+    if (Fitted) Tile(Sim, Lack::Overlap);
 }
 
 } // namespace
@@ -154,6 +154,7 @@ void Show_Layout(Simulator& Sim, int Number) {
     if (Number < 1 || Number > static_cast<int>(All.size())) return;
     const Window_Layout& Layout = All[static_cast<std::size_t>(Number - 1)];
     const std::vector<Form*> Opened = Open_All(Sim, Layout);
+    if (!Opened.empty()) Sim.Windows.Activate(*Opened.back()); // none that is minimised below
     for (Form* Window : Standing_Windows(Sim))
         if (std::find(Opened.begin(), Opened.end(), Window) == Opened.end())
             Window->Set_State(Window_State::Minimised);

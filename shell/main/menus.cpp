@@ -73,7 +73,7 @@ constexpr Command Commands[] = {
      [](const Simulator& Sim) { return Sim.State.Of<Shell_State>().Start_With_Last_Navdata; }},
     {"mnuSetupOpenLinks", "Setup", "Open network links at start", Alone, 5, mnuSetupOpenLinks_Click,
      Opens_Network_Links},
-    {"mnuWindowTile", "Window", "&Tile", Alone, 20, Tile},
+    {"mnuWindowTile", "Window", "&Tile", Alone, 20, [](Simulator& Sim) { Tile(Sim, Lack::Equal_Parts); }},
     {"mnuWindowCascade", "Window", "C&ascade", Alone, 21, Cascade},
     {"mnuWindowCloseAll", "Window", "Close a&ll", Alone, 22, Close_All},
     {"mnuOptionsChecksumDisabled", "Options", "Checksum disabled", Alone, 2,

@@ -13,10 +13,13 @@ namespace brinewright {
 
 namespace {
 
+// What is chosen is to be seen.
 void Focus_Open(Simulator& Sim, const Window_Class& Class, Form& Window) {
-    if (!Class.Focused_Instead) return Sim.Windows.Activate(Window);
-    if (Form* Instead = Open_Form(Sim, Class.Focused_Instead, Window.Instance))
-        Sim.Windows.Activate(*Instead);
+    Form* const Chosen =
+        Class.Focused_Instead ? Open_Form(Sim, Class.Focused_Instead, Window.Instance) : &Window;
+    if (!Chosen) return;
+    if (Chosen->State == Window_State::Minimised) Chosen->Set_State(Window_State::Normal);
+    Sim.Windows.Activate(*Chosen);
 }
 
 std::string Open_Key(const Window_Class& Class) { return std::string("Open ") + Class.Name; }

@@ -24,10 +24,18 @@ int Way_To_Snap(int Low, int High, const std::vector<int>& Edges) {
     return std::abs(Best) <= Snap_Distance ? Best : 0;
 }
 
+// As large as those of the title that stand beside it.
+class Title_Button : public QToolButton {
+  public:
+    using QToolButton::QToolButton;
+    QSize sizeHint() const override { return {16, 16}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 } // namespace
 
 Child_Window::Child_Window()
-    : Forms(new QStackedWidget), Scroll(new QScrollArea), Button(new QToolButton(this)) {
+    : Forms(new QStackedWidget), Scroll(new QScrollArea), Button(new Title_Button(this)) {
     Scroll->setWidgetResizable(true);
     Scroll->setFocusPolicy(Qt::NoFocus); // Tab stops at controls only
     setFocusPolicy(Qt::NoFocus);
@@ -49,7 +57,6 @@ void Child_Window::Show_Small(bool Small) {
     Button->setText(Small ? QStringLiteral(u"\u25A3") : QStringLiteral("\u25AB"));
     Button->setToolTip(Small ? QStringLiteral("The whole window")
                              : QStringLiteral("Small: value, state and sentences"));
-    Button->setVisible(Forms->count() > 1);
     Place_Button();
 }
 
@@ -67,6 +74,7 @@ void Child_Window::Place_Button() {
         style()->subControlRect(QStyle::CC_TitleBar, &Title, QStyle::SC_TitleBarMinButton, this);
     Button->setGeometry(Next.translated(-Next.width() - 4, 0));
     Button->raise();
+    Button->setVisible(Forms->count() > 1 && !isMinimized());
 }
 
 void Child_Window::resizeEvent(QResizeEvent* Resized) {

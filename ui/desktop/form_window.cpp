@@ -13,6 +13,7 @@
 #include <QMainWindow>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -56,8 +57,9 @@ void Form_Window::Make_Child(const Form& Shown) {
     Child->Show_Whole(Its_View);
     Child->installEventFilter(this);
     connect(Child, &QMdiSubWindow::aboutToActivate, this, [this] {
-        // The area chooses the next one while a window is minimised, also one that is about to be.
-        if (const auto F = Source.lock(); F && !Placing && F->State == State)
+        // The area makes a window active that is minimised or about to be; that is not chosen by the user.
+        const auto F = Source.lock();
+        if (F && !Placing && F->State == State && State != Window_State::Minimised)
             F->Windows.Event([&F] { F->Windows.Activate(*F); });
     });
     if (!Has_Small_Form(*Its_View, Shown)) return Child->Show_Small(false);
@@ -320,7 +322,8 @@ bool Form_Window::eventFilter(QObject* Watched, QEvent* Happened) {
         if (!Placing && Watched != Its_View) Report_Place();
         break;
     case QEvent::WindowStateChange:
-        if (!Placing && Watched == Child) Report_State();
+        // Later: on the way to another state the area passes others.
+        if (!Placing && Watched == Child) QTimer::singleShot(0, this, [this] { Report_State(); });
         break;
     case QEvent::KeyPress:
         if (Watched != Dialog) break;
