@@ -203,9 +203,11 @@ Layout Lay_Out_Position(Simulator& Sim, Form& Shown) {
     const auto Last = Column({GSV_Box(Sim.State, W).Shown_When(Has_Room(W, W.frmGSV)).Wide(),
                               GST_Box(W).Shown_When(Has_Room(W, W.frmGST))})
                           .Spaced(rhythm::Toolkit);
-    return Window({State_Line(Sim, W, W.cmdPause, W.timer_Simulator, "position stands still"),
-                   Row({Fix_Box(Sim, W), GSA_Box(W).Shown_When(Has_Room(W, W.frmGSA)), Last}).Wide(),
-                   Ticker(Sim, W)});
+    return Window(
+        {State_Line(Sim, W, W.cmdPause, W.timer_Simulator, "position stands still"),
+         // What is left over goes to the right, so that nothing moves when a frame comes or goes.
+         Row({Fix_Box(Sim, W), GSA_Box(W).Shown_When(Has_Room(W, W.frmGSA)), Last, Stretch()}).Wide(),
+         Ticker(Sim, W)});
 }
 
 Layout Lay_Out_Small_Position(Simulator& Sim, Form& Shown) {

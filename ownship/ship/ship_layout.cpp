@@ -125,13 +125,15 @@ Layout Lay_Out_Ship(Simulator& Sim, Form& Shown) {
         return [&Active] { return Active ? Role::Warn : Role::Plain; };
     };
     return Window(
-               {Row({Text([&S] { return Read_State(S); }), Stretch(), Place(W.lblFreeze, Role::Warn),
-                     Place(W.lblPause, Role::Warn)}),
+               {Text([&S] { return Read_State(S); }),
                 Row({Throttle_Box(W), Column({Middle(S, W).Wide(), Turn_Box(S, W)}).Wide(), Right_Column(W)})
                     .Spaced(rhythm::Margin)
                     .Wide(),
                 Row({Place(W.cmdZero).Wide(),
+                     // Before its button, which says "continue" then.
+                     Place(W.lblFreeze, Role::Warn),
                      Place(W.cmdFreeze).Lit(Lamp(S.Of<Shell_State>().Freeze_Active)).Wide(),
+                     Place(W.lblPause, Role::Warn),
                      Place(W.cmdPause).Lit(Lamp(S.Of<Shell_State>().Pause_Active)).Wide()})})
         .Spaced(rhythm::Gap);
 }

@@ -73,6 +73,11 @@ void Form_View::Show_Common(const Visible_Control& C, QWidget* W) {
     W->setEnabled(*C.Enabled);
     W->setVisible(C.Shown());
     W->setToolTip(To_Screen(*C.Tool_Tip));
+    // Lists and fields have no caption of their own: what they are stands before the first comma of their
+    // tip.
+    const QString Caption = To_Screen(*C.Caption).remove(QLatin1Char('&'));
+    W->setAccessibleName(Caption.isEmpty() ? W->toolTip().section(QLatin1Char(','), 0, 0) : Caption);
+    W->setAccessibleDescription(W->toolTip());
     if (C.Kind == Control_Kind::Text_Box || C.Kind == Control_Kind::Combo_Box)
         Show_Refusal(static_cast<const Typed_Control&>(C), W);
 }
