@@ -112,7 +112,7 @@ class Desktop(TestCase):
             data = file.read_bytes()
             self.assertEqual(data[:8], b"\x89PNG\r\n\x1a\n")
             width, height = struct.unpack(">II", data[16:24])
-            self.assertGreater(min(width, height), 300)
+            self.assertGreater(min(width, height), 100)
             file.unlink()
         for path, file in (("frmSetup", folder / "x.png"), ("frmMain", folder / "no" / "such" / "folder.png")):
             with self.assertRaises(Refused):
