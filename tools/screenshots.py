@@ -94,17 +94,17 @@ SHIP_WINDOWS = [
     ("frmEchosounder[1]", "echosounder-ship-mode", []),
     ("frmWind[1]", "wind", []),
     ("frmMain", "main", []),
-    ("frmMain", "main-sources", [
-        ("click", {"path": "frmMain.mnuViewSources"}), ("click", {"path": "frmMain.mnuViewLayout(2)"}),
-        ("advance", {"seconds": 2})]),
-    ("frmMain", "main-all-sensors", [("click", {"path": "frmMain.mnuViewLayout(3)"}), ("advance", {"seconds": 2})]),
-    ("frmLayouts", "layouts", [("click", {"path": "frmMain.mnuViewLayouts"})]),
     ("frmShipSetup", "ship-setup", [("click", {"path": "frmMain.mnuSetupShip"})]),
     ("frmSetSOG", "set-sog", [("click", {"path": "frmShip.cmdSetSOG"})]),
     ("frmShip", "ship-frozen-keyboard", [
-        ("close", {"path": "frmShipSetup"}), ("close", {"path": "frmSetSOG"}), ("close", {"path": "frmLayouts"}),
+        ("close", {"path": "frmShipSetup"}), ("close", {"path": "frmSetSOG"}),
         ("click", {"path": "frmShip.cmdFreeze"}), ("click", {"path": "frmShip.cmdPause"}),
         ("click", {"path": "frmShip.cmdArrows"})]),
+    ("frmMain", "main-conning", [("click", {"path": "frmMain.mnuViewLayout(2)"}), ("advance", {"seconds": 2})]),
+    ("frmMain", "main-sources", [
+        ("click", {"path": "frmMain.mnuViewSources"}), ("advance", {"seconds": 2}),
+        ("click", {"path": "frmMain.mnuViewLayout(3)"}), ("advance", {"seconds": 2})]),
+    ("frmLayouts", "layouts", [("click", {"path": "frmMain.mnuViewLayouts"})]),
 ]
 DETECTION_WINDOWS = [
     ("frmProgress", "port-detection", [

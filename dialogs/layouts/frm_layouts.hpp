@@ -16,11 +16,11 @@ struct frmLayouts : Form {
 
     Label lblLayout{*this, "lblLayout", "Layout"};
     Combo_Box cmbLayout{*this, "cmbLayout", "", "A layout of the list, or the name of a new one"};
-    Button cmdShow{*this, "cmdShow", "&Show",
+    Button cmdShow{*this, "cmdShow", "Show",
                    "Opens, places and sizes its windows; the others go on sending, minimised"};
-    Button cmdSave{*this, "cmdSave", "Sa&ve",
+    Button cmdSave{*this, "cmdSave", "Save",
                    "Keeps the windows that stand now, with their places and sizes, under this name"};
-    Button cmdDelete{*this, "cmdDelete", "&Delete", "Forgets a layout of your own"};
+    Button cmdDelete{*this, "cmdDelete", "Delete", "Forgets a layout of your own"};
     Button cmdOK{*this, "cmdOK", "Close", "Closes this window"};
     Label lblResult{*this, "lblResult"};
 };
