@@ -33,14 +33,16 @@ Layout Simulator_Box(frmPosition& W) {
                             Motion_Box(W.frmCOG, W.lblCOG, W.lblCOGUnit, W.scrCOG, W.txtCOG)}),
                        Row({W.chkNoise, Stretch(), Dim(W.lblMaxNoise), W.cmbNoise}),
                        Row(Each(W.optAccumulatedNoise.Buttons)).Then(Stretch())})
-                   .Spaced(rhythm::Toolkit));
+                   .Spaced(rhythm::Base),
+               rhythm::Gap);
 }
 
 Layout Control_Box(frmPosition& W) {
     return Box(W.frmSimulatorControl,
                Column({Start_And_Pause(W.cmdStart, W.cmdPause, W.timer_Simulator), W.cmdArrows,
                        Row({Place(W.lblArrows, Role::Good), Key_Catcher(W.txtDummy)})})
-                   .Spaced(rhythm::Toolkit));
+                   .Spaced(rhythm::Base),
+               rhythm::Gap);
 }
 
 Layout GNS_Box(frmPosition& W) {
@@ -50,7 +52,8 @@ Layout GNS_Box(frmPosition& W) {
                       At(1, 0, Dim(W.lblSystemsTitle).Right()), At(1, 1, Value(W.lblGNSS)),
                       At(2, 0, Dim(W.lblTalkerTitle).Right()), At(2, 1, Value(W.lblGNS_Talker)),
                       At(0, 2, Place(W.cmdGNSS).Middle(), 3, 1)},
-                     {.Across = rhythm::Gap, .Down = rhythm::Base, .Wide_Column = 1}));
+                     {.Across = rhythm::Gap, .Down = rhythm::Base, .Wide_Column = 1}),
+               rhythm::Gap);
 }
 
 Layout Quality_Box(frmPosition& W) {
@@ -80,7 +83,9 @@ Layout Datum_Box(frmPosition& W) {
                             Place(W.cmbDatum[1]).Wide()}),
                        Dim(W.lblOffset),
                        // The altitude has a sign instead of a direction.
-                       Row({Offset(0), Direction(W.cmbNS), Offset(1), Direction(W.cmbEW), Offset(2)})}));
+                       Row({Offset(0), Direction(W.cmbNS), Offset(1), Direction(W.cmbEW), Offset(2)})})
+                   .Spaced(rhythm::Base),
+               rhythm::Gap);
 }
 
 Layout Satellites(std::vector<Layout> Boxes) {
@@ -183,15 +188,16 @@ Layout Read_Out(std::function<std::string()> Read) {
     return Text([Read = std::move(Read)] { return layout::Said{Read(), Role::Readout}; });
 }
 
-// The frames to the right are there only when the window is wide enough for all as far as this one.
-std::function<bool()> Has_Room(const frmPosition& W, const Frame& Last) {
-    return [&W, &Last] {
+// The frames to the right are there only when the window, and the room that it stands in, is wide enough for
+// all as far as this one.
+std::function<bool()> Has_Room(const Simulator& Sim, const frmPosition& W, const Frame& Last) {
+    return [&Sim, &W, &Last] {
         int Needed = W.frmGGA.Width;
         for (const Frame* Next : {&W.frmGSA, &W.frmGSV, &W.frmGST}) {
             Needed += Next->Width;
             if (Next == &Last) break;
         }
-        return Last.Shown() && static_cast<int>(W.Width) >= Needed;
+        return Last.Shown() && static_cast<int>(std::min(W.Width, Sim.Windows.Room_Width)) >= Needed;
     };
 }
 
@@ -200,13 +206,13 @@ std::function<bool()> Has_Room(const frmPosition& W, const Frame& Last) {
 Layout Lay_Out_Position(Simulator& Sim, Form& Shown) {
     auto& W = static_cast<frmPosition&>(Shown);
     // GST stands below GSV, so that all frames fit a small display.
-    const auto Last = Column({GSV_Box(Sim.State, W).Shown_When(Has_Room(W, W.frmGSV)).Wide(),
-                              GST_Box(W).Shown_When(Has_Room(W, W.frmGST))})
+    const auto Last = Column({GSV_Box(Sim.State, W).Shown_When(Has_Room(Sim, W, W.frmGSV)).Wide(),
+                              GST_Box(W).Shown_When(Has_Room(Sim, W, W.frmGST))})
                           .Spaced(rhythm::Toolkit);
     return Window(
         {State_Line(Sim, W, W.cmdPause, W.timer_Simulator, "position stands still"),
          // What is left over goes to the right, so that nothing moves when a frame comes or goes.
-         Row({Fix_Box(Sim, W), GSA_Box(W).Shown_When(Has_Room(W, W.frmGSA)), Last, Stretch()}).Wide(),
+         Row({Fix_Box(Sim, W), GSA_Box(W).Shown_When(Has_Room(Sim, W, W.frmGSA)), Last, Stretch()}).Wide(),
          Ticker(Sim, W)});
 }
 
