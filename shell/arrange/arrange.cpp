@@ -136,6 +136,7 @@ namespace {
 bool Tile_Now(Simulator& Sim, Lack In_Need) {
     const std::vector<Form*> Windows = Standing_Windows(Sim);
     std::vector<Extent> Sizes;
+    Sizes.reserve(Windows.size());
     for (const Form* Window : Windows) Sizes.push_back(Size_Of(*Window));
     const std::vector<Window_Place> Places = Beside_Each_Other(Sizes, Room_Of(Sim), In_Need);
     bool All_Fit = true;
