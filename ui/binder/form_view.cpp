@@ -69,15 +69,26 @@ void Form_View::Follow_Focus(const Desktop& Windows) {
     Following = false;
 }
 
+namespace {
+
+// Lists and fields have no caption of their own: what they are stands before the first comma of their tip.
+// The toolkit does not look whether anything is new, and figures change all the time.
+void Show_Meaning(const Visible_Control& C, QWidget* W) {
+    const QString Tip = To_Screen(*C.Tool_Tip);
+    if (W->toolTip() != Tip) W->setToolTip(Tip);
+    if (C.Kind == Control_Kind::Label) return; // it says what it shows
+    const QString Caption = To_Screen(*C.Caption).remove(QLatin1Char('&'));
+    const QString Name = Caption.isEmpty() ? Tip.section(QLatin1Char(','), 0, 0) : Caption;
+    if (W->accessibleName() != Name) W->setAccessibleName(Name);
+    if (W->accessibleDescription() != Tip) W->setAccessibleDescription(Tip);
+}
+
+} // namespace
+
 void Form_View::Show_Common(const Visible_Control& C, QWidget* W) {
     W->setEnabled(*C.Enabled);
     W->setVisible(C.Shown());
-    W->setToolTip(To_Screen(*C.Tool_Tip));
-    // Lists and fields have no caption of their own: what they are stands before the first comma of their
-    // tip.
-    const QString Caption = To_Screen(*C.Caption).remove(QLatin1Char('&'));
-    W->setAccessibleName(Caption.isEmpty() ? W->toolTip().section(QLatin1Char(','), 0, 0) : Caption);
-    W->setAccessibleDescription(W->toolTip());
+    Show_Meaning(C, W);
     if (C.Kind == Control_Kind::Text_Box || C.Kind == Control_Kind::Combo_Box)
         Show_Refusal(static_cast<const Typed_Control&>(C), W);
 }
